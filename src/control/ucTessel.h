@@ -1,0 +1,97 @@
+// The control.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "control/HostedControls.h"
+#include "platform/Event.h"
+#include "platform/Services.h"
+
+namespace tessel {
+
+class Documents;
+class Form;
+class Levels;
+class Randomizer;
+class Search;
+class SettingsPanel;
+class WordPanel;
+struct SearchState;
+
+/// ucTessel, the embeddable editor control for CON files. It owns the hosted controls and routes
+/// their events to the subsystems; it holds no rule of its own.
+///
+/// A host creates it, binds its views to Controls(), calls Initialize once and then Resize whenever
+/// its size changes. Everything runs on the caller's thread.
+class ucTessel {
+ public:
+  /// The services outlive the control.
+  explicit ucTessel(const Services& services);
+  ~ucTessel();
+  ucTessel(const ucTessel&) = delete;
+  ucTessel& operator=(const ucTessel&) = delete;
+
+  /// The start-up sequence. Errors are ignored, step by step.
+  void Initialize();
+  /// Sets the inner size in twips and lays the parts out.
+  void Resize(Twips width, Twips height);
+  /// A key pressed anywhere in the control, before the focused part sees it. `shift` adds 1 for
+  /// Shift, 2 for Ctrl, 4 for Alt. Returns true when the key is swallowed.
+  bool KeyDown(int keyCode, int shift);
+
+  // --- Automation interface
+  /// Accepts its arguments and does nothing.
+  void SetTesselVersion(std::string& version, std::string& defaultVersion);
+  /// Runs the version converter on the current document.
+  void Convert();
+  /// A status line for the host.
+  Event<const std::string&> SettingTextColor;
+
+  // --- For the program that hosts the control
+  HostedControls& Controls() { return controls_; }
+  const HostedControls& Controls() const { return controls_; }
+  /// The modal forms, for views and by name.
+  const std::vector<Form*>& Forms() const { return forms_; }
+  /// Opens a file as the recent list does; an empty path shows the open dialog.
+  void OpenFile(const std::string& path);
+  /// Asks for every modified document, then closes all. Returns false, with nothing closed, when
+  /// one of them was cancelled.
+  bool CloseAll();
+  /// The first directory of the file dialogs.
+  const std::string& CONPath() const { return conPath_; }
+  const SearchState& LastSearch() const;
+
+  /// Runs a command as every event of a hosted control is run: a RuntimeError that ends the
+  /// outermost command puts the editor and the pointer back and becomes a message.
+  void RunCommand(const std::function<void()>& command);
+
+ private:
+  template <class... Args, class Handler>
+  void On(Event<Args...>& event, Handler handler);
+  void ConnectEditor(RichTextBox& editor);
+  void ConnectToolbar();
+  void ConnectSettingsPanel();
+  void ConnectLevels();
+  void ConnectWords();
+  void ConnectDocuments();
+  void rtbCon_MouseUp(int index, MouseButton button);
+  void ShowError(const std::string& text);
+
+  Services services_;
+  HostedControls controls_;
+  std::string conPath_;
+  std::vector<Form*> forms_;
+  std::unique_ptr<Levels> levels_;
+  std::unique_ptr<SettingsPanel> settings_;
+  std::unique_ptr<Documents> documents_;
+  std::unique_ptr<WordPanel> words_;
+  std::unique_ptr<Search> search_;
+  std::unique_ptr<Randomizer> randomizer_;
+  std::vector<Subscription> subscriptions_;
+  int commandDepth_ = 0;
+};
+
+}  // namespace tessel

@@ -1,0 +1,15 @@
+// Joining and splitting of paths.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessel {
+
+/// The separator to put behind a directory: empty when the path ends with one already.
+std::string BackslashIfNeeded(std::string_view path, char separator = '\\');
+
+/// The part after the last separator; the whole path when it has none.
+std::string NameOfPath(std::string_view path, char separator = '\\');
+
+}  // namespace tessel
