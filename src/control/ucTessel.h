@@ -6,19 +6,15 @@
 #include <string>
 #include <vector>
 
+#include "control/Commands.h"
 #include "control/HostedControls.h"
 #include "platform/Event.h"
 #include "platform/Services.h"
 
 namespace tessel {
 
-class Documents;
 class Form;
 class Levels;
-class Randomizer;
-class Search;
-class SettingsPanel;
-class WordPanel;
 struct SearchState;
 
 /// ucTessel, the embeddable editor control for CON files. It owns the hosted controls and routes
@@ -71,15 +67,20 @@ class ucTessel {
  private:
   template <class... Args, class Handler>
   void On(Event<Args...>& event, Handler handler);
+  void ConnectCommands();
+  void ConnectDocuments();
   void ConnectEditor(RichTextBox& editor);
-  void ConnectToolbar();
   void ConnectSettingsPanel();
   void ConnectLevels();
   void ConnectWords();
-  void ConnectDocuments();
-  void rtbCon_MouseUp(int index, MouseButton button);
+  void ConnectForms();
+  void rtbCon_MouseUp(const RichTextBox& editor, MouseButton button);
   void ShowError(const std::string& text);
 
+  class CommandsInForms;
+
+  int commandDepth_ = 0;
+  std::unique_ptr<CommandsInForms> modalForms_;
   Services services_;
   HostedControls controls_;
   std::string conPath_;
@@ -90,8 +91,8 @@ class ucTessel {
   std::unique_ptr<WordPanel> words_;
   std::unique_ptr<Search> search_;
   std::unique_ptr<Randomizer> randomizer_;
+  Commands commands_;
   std::vector<Subscription> subscriptions_;
-  int commandDepth_ = 0;
 };
 
 }  // namespace tessel

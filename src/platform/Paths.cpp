@@ -1,5 +1,7 @@
 #include "platform/Paths.h"
 
+#include "platform/Services.h"
+
 namespace tessel {
 
 std::string BackslashIfNeeded(std::string_view path, char separator) {
@@ -9,6 +11,10 @@ std::string BackslashIfNeeded(std::string_view path, char separator) {
 std::string NameOfPath(std::string_view path, char separator) {
   const std::size_t last = path.rfind(separator);
   return std::string(last == std::string_view::npos ? path : path.substr(last + 1));
+}
+
+bool FileExists(Files& files, const std::string& path) {
+  return !path.empty() && !files.Listing(path).empty();
 }
 
 }  // namespace tessel

@@ -17,6 +17,9 @@ enum class MessageIcon { kNone, kInformation, kExclamation, kQuestion };
 enum class MessageButtons { kOk, kYesNo, kYesNoCancel };
 enum class MessageAnswer { kOk, kYes, kNo, kCancel };
 
+/// The title of every message box that has one.
+inline constexpr const char* kProgramTitle = "Zanth Manager";
+
 class MessageBox {
  public:
   virtual ~MessageBox() = default;

@@ -1,0 +1,36 @@
+#include "documents/RecentFiles.h"
+
+#include "platform/Text.h"
+
+namespace tessel {
+namespace {
+
+constexpr const char* kMenu = "FileNew";
+constexpr const char* kSection = "PreviousCons";
+constexpr int kFixedItems = 9;  // templates and separators
+constexpr int kMostItems = 14;
+
+}  // namespace
+
+void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string& name,
+                   const std::string& path) {
+  const int count = toolbar.MenuCount(kMenu);
+  for (int k = kFixedItems; k <= count; ++k) {
+    const ButtonMenuItem& item = toolbar.MenuItem(kMenu, k);
+    if (item.tag == path && item.text == name) return;
+  }
+  if (count == kMostItems) {
+    settings.DeleteSetting(kSection, toolbar.MenuItem(kMenu, kMostItems).text);
+    toolbar.RemoveMenuItem(kMenu, kMostItems);
+  }
+  toolbar.InsertMenuItem(kMenu, kFixedItems + 1, {name, {}, path});
+  settings.SaveSetting(kSection, ToUpperText(name), ToUpperText(path));
+}
+
+void LoadRecentFiles(Toolbar& toolbar, SettingsStore& settings) {
+  for (const auto& [key, value] : settings.GetAllSettings(kSection)) {
+    AddRecentFile(toolbar, settings, ToUpperText(key), ToUpperText(value));
+  }
+}
+
+}  // namespace tessel

@@ -1,0 +1,19 @@
+// The recent-file list: the end of the "FileNew" drop-down, mirrored in the settings store.
+#pragma once
+
+#include <string>
+
+#include "platform/Services.h"
+#include "platform/Toolbar.h"
+
+namespace tessel {
+
+/// Puts a file on top of the list, unless it is listed already (name and path compared exactly).
+/// The oldest of five makes room.
+void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string& name,
+                   const std::string& path);
+
+/// Rebuilds the list from the store.
+void LoadRecentFiles(Toolbar& toolbar, SettingsStore& settings);
+
+}  // namespace tessel

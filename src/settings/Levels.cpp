@@ -1,0 +1,134 @@
+#include "settings/Levels.h"
+
+#include <algorithm>
+
+#include "documents/DocumentSlots.h"
+#include "platform/ScopeGuard.h"
+
+namespace tessel {
+namespace {
+
+constexpr std::string_view kLevelWord = "definelevelname";
+constexpr std::string_view kLineEnds = "\r\n";
+
+}  // namespace
+
+std::optional<std::string> EpisodeAndLevel(std::string_view line) {
+  const auto first = line.find(' ');
+  const auto second = first == line.npos ? first : line.find(' ', first + 1);
+  const auto third = second == line.npos ? second : line.find(' ', second + 1);
+  if (third == line.npos) return std::nullopt;
+  return std::string(line.substr(first + 1, third - first - 1));
+}
+
+std::string TitleOfLevel(std::string_view mapToLineEnd) {
+  // Positions count from 1, and a colon that is not there stands at 0.
+  const auto positionOf = [&](std::size_t from) {
+    const auto found = mapToLineEnd.find(':', from);
+    return found == mapToLineEnd.npos ? 0 : found + 1;
+  };
+  const std::size_t second = positionOf(positionOf(0));
+  const std::size_t title = second + 4;
+  return std::string(mapToLineEnd.substr(std::min(title - 1, mapToLineEnd.size())));
+}
+
+Levels::Levels(HostedControls& controls, const Services& services, const std::string& conPath)
+    : controls_(controls), services_(services), conPath_(conPath) {}
+
+void Levels::ClearBoxes() {
+  controls_.txtMap.SetText("");
+  controls_.txtTitle.SetText("");
+  controls_.cmdInsert[0].SetEnabled(false);
+  controls_.cmdInsert[1].SetEnabled(false);
+}
+
+void Levels::Restart() {
+  controls_.cboEpisode.SetListIndex(kNoSelection);
+  ClearBoxes();
+  FillLevelList();
+}
+
+void Levels::FillLevelList() {
+  const Hourglass hourglass(services_.pointer);
+  RichTextBox& editor = CurrentEditor(controls_);
+  const ScopeGuard restore([&editor, caret = editor.SelStart(), left = editor.Left()] {
+    editor.SetSelStart(caret);
+    editor.SetVisible(true);
+    editor.SetLeft(left);
+  });
+  controls_.cboEpisode.Clear();
+  if (editor.Length() == 0) return;
+
+  editor.SetVisible(false);
+  editor.SetLeft(kParkedLeft);
+  editor.SetSelStart(0);
+  editor.SetSelLength(0);
+  editor.SetHideSelection(true);
+  for (Position at = editor.Find(kLevelWord, 0); at != kNotFound;
+       at = editor.Find(kLevelWord, at + 4)) {
+    editor.Span(kLineEnds, true, true);
+    if (auto entry = EpisodeAndLevel(editor.SelBytes())) controls_.cboEpisode.AddItem(*entry);
+  }
+}
+
+void Levels::ShowLevel(const std::string& entry) {
+  RichTextBox& editor = CurrentEditor(controls_);
+  if (editor.Length() == 0) return;
+  editor.SetSelStart(0);
+  editor.SetSelLength(0);
+  editor.SetHideSelection(false);
+  if (editor.Find(std::string(kLevelWord) + " " + entry, 0) == kNotFound) return;
+
+  editor.SetSelStart(editor.SelEnd() + 1);
+  editor.Span(" ", true, true);
+  controls_.txtMap.SetText(editor.SelText());
+  editor.Span(kLineEnds, true, true);
+  controls_.txtTitle.SetText(TitleOfLevel(editor.SelBytes()));
+}
+
+void Levels::cboEpisode_Click() {
+  if (controls_.cboEpisode.ListIndex() != kNoSelection) ShowLevel(controls_.cboEpisode.Text());
+}
+
+void Levels::SelectInDocument(const TextBox& box) {
+  RichTextBox& editor = CurrentEditor(controls_);
+  editor.SetHideSelection(false);
+  editor.Find(box.Text(), 0);
+}
+
+void Levels::OfferInsert(int index) {
+  controls_.cmdInsert[index].SetEnabled(true);
+  controls_.cmdInsert[1 - index].SetEnabled(false);
+}
+
+void Levels::txtMap_GotFocus() {
+  controls_.txtMap.SelectAll();
+  SelectInDocument(controls_.txtMap);
+  OfferInsert(0);
+}
+
+void Levels::txtTitle_GotFocus() {
+  controls_.txtTitle.SelectAll();
+  SelectInDocument(controls_.txtTitle);
+  OfferInsert(1);
+}
+
+void Levels::cmdMap_Click() {
+  SelectInDocument(controls_.txtMap);
+  OfferInsert(0);
+  FileDialogRequest request;
+  request.filter = "MAP Files (*.map)|*.map";
+  request.flags = kHideReadOnly;
+  request.initDir = conPath_;
+  if (!controls_.dlgCommon.Show(services_.fileDialogs, services_.files, request)) return;
+  controls_.txtMap.SetText(controls_.dlgCommon.Held().fileTitle);
+  services_.focus.MoveTo(controls_.cmdInsert[0]);
+}
+
+void Levels::cmdInsert_Click(int index) {
+  RichTextBox& editor = CurrentEditor(controls_);
+  if (editor.SelLength() == 0) return;
+  editor.SetSelText(index == 0 ? controls_.txtMap.Text() : controls_.txtTitle.Text());
+}
+
+}  // namespace tessel

@@ -1,0 +1,24 @@
+// The stored script words with their parameter texts.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Services.h"
+
+namespace tessel {
+
+/// A word and what is shown about its parameters.
+struct ScriptWord {
+  std::string word;
+  std::string parameters;
+};
+
+/// The words of the store, in its order. Every stored value that is not empty and holds no "[" is a
+/// word: that mark alone tells parameter texts from words.
+std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings);
+
+void WriteScriptWord(SettingsStore& settings, const ScriptWord& word);
+void DeleteScriptWord(SettingsStore& settings, const std::string& word);
+
+}  // namespace tessel
