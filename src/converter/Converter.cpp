@@ -35,7 +35,7 @@ std::vector<StepResult> Convert(RichTextBox& editor) {
 
 }  // namespace
 
-std::vector<StepResult> ConvertUserCon(HostedControls& controls, Services& services) {
+std::vector<StepResult> ConvertUserCon(HostedControls& controls, const Services& services) {
   const Hourglass hourglass(services.pointer);
   const int slot = CurrentDocIndex(controls);
   RichTextBox& editor = controls.rtbCon[slot];

@@ -16,6 +16,6 @@ namespace tessel {
 /// A file that is converted already, or is no user file, is refused with a message; nothing but the
 /// selection changes, the caret stays, and the result is empty. A conversion that fails leaves the
 /// document exactly as it was and passes its RuntimeError on.
-std::vector<StepResult> ConvertUserCon(HostedControls& controls, Services& services);
+std::vector<StepResult> ConvertUserCon(HostedControls& controls, const Services& services);
 
 }  // namespace tessel
