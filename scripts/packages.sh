@@ -1,0 +1,32 @@
+# Installs the Debian packages that are missing. Source it, then call: install_missing PACKAGE...
+
+build_packages=(
+  g++ cmake ninja-build pkg-config
+  qt6-base-dev qt6-svg-dev libqt6svg6 libqscintilla2-qt6-dev libgl-dev
+  libsqlite3-dev libcli11-dev nlohmann-json3-dev
+  fonts-dejavu-core
+)
+test_packages=(
+  libgtest-dev libgmock-dev librapidcheck-dev
+  clang clang-format clang-tidy strace util-linux
+)
+
+install_missing() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+      echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2
+      return 1
+    }
+    as_root=(sudo)
+  fi
+  echo "==> Installing ${missing[*]}"
+  "${as_root[@]}" apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
