@@ -1,0 +1,53 @@
+#include "drive/HeadlessPlayer.h"
+
+namespace tessel::drive {
+namespace {
+
+constexpr int kReturnKey = 13;
+constexpr int kEscapeKey = 27;
+
+}  // namespace
+
+void HeadlessPlayer::PressMenuItem(Toolbar& toolbar, const std::string& key, int item) {
+  toolbar.PressMenuItem(key, item);
+}
+
+void HeadlessPlayer::SelectText(RichTextBox& editor, SelectedRange range) {
+  editor.SelectByHand(range.start, range.length);
+}
+
+void HeadlessPlayer::ReleaseMouse(RichTextBox& editor, MouseButton button) {
+  editor.ReleaseMouse(button);
+}
+
+void HeadlessPlayer::Enter(Control& control) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) box->Enter();
+}
+
+void HeadlessPlayer::PressKey(Form& form, int code, int shift) {
+  if (shift != 0) return;
+  CommandButton* button = nullptr;
+  if (code == kReturnKey) button = form.DefaultButton();
+  if (code == kEscapeKey) button = form.CancelButton();
+  if (button != nullptr && button->Usable()) button->Press();
+}
+
+std::vector<Tab> HeadlessPlayer::Tabs(const TabStrip& strip) const {
+  std::vector<Tab> tabs;
+  for (int tab = 1; tab <= strip.Count(); ++tab) tabs.push_back(strip.At(tab));
+  return tabs;
+}
+
+SelectedRange HeadlessPlayer::Selection(const RichTextBox& editor) const {
+  return {editor.SelStart(), editor.SelLength()};
+}
+
+std::vector<ColourRun> HeadlessPlayer::Colours(const RichTextBox& editor) const {
+  return editor.Store().Runs(0, editor.Length());
+}
+
+void HeadlessPlayer::Resize(ucTessel& control, Twips width, Twips height) {
+  control.Resize(width, height);
+}
+
+}  // namespace tessel::drive

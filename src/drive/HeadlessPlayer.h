@@ -1,0 +1,57 @@
+// The person without a screen.
+#pragma once
+
+#include "drive/Player.h"
+
+namespace tessel::drive {
+
+/// Thrown by HeadlessPlayer::Leave through whatever showed the form.
+struct Left {};
+
+/// Plays on the models alone and reads them.
+class HeadlessPlayer : public Player {
+ public:
+  void Press(CommandButton& button) override { button.Press(); }
+  void Press(CheckBox& box) override { box.Press(); }
+  void Press(OptionButton& option) override { option.Press(); }
+  void PressTab(TabStrip& strip, int tab) override { strip.Press(tab); }
+  void PressButton(Toolbar& toolbar, const std::string& key) override { toolbar.Press(key); }
+  void PressMenuItem(Toolbar& toolbar, const std::string& key, int item) override;
+  void Pick(ListBox& list, int entry) override { list.Pick(entry); }
+  void Pick(ComboBox& list, int entry) override { list.Pick(entry); }
+  void PickTwice(ListBox& list, int entry) override { list.PickTwice(entry); }
+  void Type(TextBox& box, const std::string& text) override { box.Type(text); }
+  void Type(ComboBox& box, const std::string& text) override { box.Type(text); }
+  void Type(RichTextBox& editor, const std::string& text) override { editor.Type(text); }
+  void SelectText(RichTextBox& editor, SelectedRange range) override;
+  void ReleaseMouse(RichTextBox& editor, MouseButton button) override;
+  void Choose(PopupMenu& menu, const std::string& item) override { menu.Choose(item); }
+  void Dismiss(PopupMenu&) override {}
+  void Enter(Control& control) override;
+  void MoveFocus(Control&) override {}
+  void PressKey(ucTessel& control, int code, int shift) override { control.KeyDown(code, shift); }
+  void PressKey(Form& form, int code, int shift) override;
+
+  bool Enabled(const Control& control) const override { return control.Enabled(); }
+  std::string Caption(const Control& control) const override { return control.Caption(); }
+  bool Checked(const CheckBox& box) const override { return box.Value(); }
+  bool Checked(const OptionButton& option) const override { return option.Value(); }
+  std::string Text(const TextBox& box) const override { return box.Text(); }
+  std::string Text(const ComboBox& box) const override { return box.Text(); }
+  std::vector<std::string> Entries(const ListControl& list) const override { return list.List(); }
+  int ListIndex(const ListControl& list) const override { return list.ListIndex(); }
+  std::vector<Tab> Tabs(const TabStrip& strip) const override;
+  int SelectedTab(const TabStrip& strip) const override { return strip.Selected(); }
+  std::vector<ToolbarButton> Buttons(const Toolbar& bar) const override { return bar.Buttons(); }
+  std::string Text(const RichTextBox& editor) const override { return editor.Text(); }
+  SelectedRange Selection(const RichTextBox& editor) const override;
+  std::vector<ColourRun> Colours(const RichTextBox& editor) const override;
+
+  void Attach(ucTessel&) override {}
+  void Detach() override {}
+  void Resize(ucTessel& control, Twips width, Twips height) override;
+  void Settle() override {}
+  [[noreturn]] void Leave() override { throw Left(); }
+};
+
+}  // namespace tessel::drive

@@ -1,0 +1,113 @@
+#include <utility>
+
+#include "documents/DocumentSlots.h"
+#include "drive/Commands.h"
+#include "drive/Properties.h"
+#include "drive/Target.h"
+#include "tools/Search.h"
+
+namespace tessel::drive {
+namespace {
+
+Json DocumentTabs(const TabStrip& strip, const Sight& sight) {
+  Json tabs = Json::array();
+  for (const Tab& tab : sight.Tabs(strip)) {
+    tabs.push_back({{"caption", FromBytes(tab.caption)},
+                    {"tag", FromBytes(tab.tag)},
+                    {"image", FromBytes(tab.image)}});
+  }
+  return tabs;
+}
+
+Json Editors(const HostedControls& controls, const Sight& sight) {
+  Json editors = Json::array();
+  for (int i = 0; i < controls.rtbCon.Count(); ++i) {
+    const RichTextBox& editor = controls.rtbCon[i];
+    const SelectedRange range = sight.Selection(editor);
+    editors.push_back({{"left", editor.Left()},
+                       {"top", editor.Top()},
+                       {"width", editor.Width()},
+                       {"height", editor.Height()},
+                       {"visible", editor.Visible()},
+                       {"tag", FromBytes(editor.Tag())},
+                       {"fileName", FromBytes(editor.FileName())},
+                       {"length", editor.Length()},
+                       {"selStart", range.start},
+                       {"selLength", range.length},
+                       {"canUndo", editor.CanUndo()}});
+  }
+  return editors;
+}
+
+Json Pages(const HostedControls& controls, const Sight& sight) {
+  Json pages = Json::array();
+  for (int i = 0; i < controls.picCon.Count(); ++i) {
+    const PictureBox& page = controls.picCon[i];
+    pages.push_back({{"left", page.Left()},
+                     {"top", page.Top()},
+                     {"width", page.Width()},
+                     {"enabled", sight.Enabled(page)}});
+  }
+  return pages;
+}
+
+Json Frames(const HostedControls& controls) {
+  Json frames = Json::array();
+  for (int i = 0; i < controls.fraCon.Count(); ++i) {
+    frames.push_back({{"width", controls.fraCon[i].Width()}});
+  }
+  return frames;
+}
+
+Json PlaceOf(const Control& control) {
+  return {{"left", control.Left()},
+          {"top", control.Top()},
+          {"width", control.Width()},
+          {"height", control.Height()}};
+}
+
+Json Category(const TabStrip& strip, const Sight& sight) {
+  Json category{{"selected", sight.SelectedTab(strip)}};
+  category.update(PlaceOf(strip));
+  return category;
+}
+
+Json EditorHost(const Control& host) {
+  return {{"top", host.Top()}, {"width", host.Width()}, {"height", host.Height()}};
+}
+
+}  // namespace
+
+Json GetProperties(Stage& stage, const Fields& fields) {
+  return {{"value", PropertiesOf(NamedControl(stage, fields), stage.Person())}};
+}
+
+Json GetText(Stage& stage, const Fields& fields) {
+  return {{"text", FromBytes(stage.Person().Text(NamedEditor(stage, fields)))}};
+}
+
+Json GetColours(Stage& stage, const Fields& fields) {
+  return {{"runs", ColoursOf(NamedEditor(stage, fields), stage.Person())}};
+}
+
+Json GetState(Stage& stage, const Fields&) {
+  const ucTessel& tessel = stage.Tessel();
+  const HostedControls& controls = tessel.Controls();
+  const Sight& sight = stage.Person();
+  Json state{{"current", CurrentDocIndex(controls)},
+             {"selectedTab", sight.SelectedTab(controls.tbsRtb)},
+             {"tabs", DocumentTabs(controls.tbsRtb, sight)},
+             {"editors", Editors(controls, sight)},
+             {"category", Category(controls.tbsCon, sight)},
+             {"pages", Pages(controls, sight)},
+             {"frames", Frames(controls)},
+             {"documentStrip", PlaceOf(controls.tbsRtb)},
+             {"editorHost", EditorHost(controls.picRtb)},
+             {"pointer", static_cast<int>(stage.Pointer().Shape())},
+             {"conPath", FromBytes(tessel.CONPath())},
+             {"findText", FromBytes(tessel.LastSearch().FindText)},
+             {"findPos", tessel.LastSearch().FindPos}};
+  return {{"state", std::move(state)}};
+}
+
+}  // namespace tessel::drive
