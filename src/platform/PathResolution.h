@@ -1,0 +1,22 @@
+// Paths on a file system that tells case apart.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessel::posix {
+
+/// The directory part of a path with its separator; empty when the path has none.
+std::string DirectoryPart(std::string_view path);
+
+/// The path of what exists under that name, without regard to case (by the letters of
+/// Windows-1252, in which recent names are upper-cased) from the first component on that does not
+/// exist as written. An exact match always wins; of several others the first in byte order. The
+/// components behind one that nothing matches stay as they are.
+std::string ResolveIgnoringCase(const std::string& path);
+
+/// Where a symbolic link leads in the end, also when nothing is there; any other path is returned
+/// as it is. Links that lead in a circle are a FileProblem.
+std::string FollowLinks(std::string path);
+
+}  // namespace tessel::posix
