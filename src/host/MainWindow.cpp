@@ -1,0 +1,159 @@
+#include "host/MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QStyle>
+#include <algorithm>
+
+#include "documents/DocumentSlots.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/ScintillaView.h"
+
+namespace tessel {
+namespace {
+
+constexpr int kNoticeMilliseconds = 8000;
+constexpr const char* kToggles[] = {"Colorize", "ShowTabs"};
+
+/// The local files of a drag, or nothing when it holds anything else.
+std::vector<std::string> FilesOf(const QMimeData* data) {
+  std::vector<std::string> files;
+  if (data == nullptr || !data->hasUrls()) return files;
+  for (const QUrl& url : data->urls()) {
+    if (!url.isLocalFile()) return {};
+    files.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
+  }
+  return files;
+}
+
+struct CaretPlace {
+  qsizetype line = 1;
+  qsizetype column = 1;
+};
+
+/// The caret's line and column, both from 1. A lone CR, a lone LF and CR LF each break a line.
+CaretPlace PlaceOfCaret(const ScintillaView& view) {
+  const long at = view.SendScintilla(QsciScintillaBase::SCI_GETCURRENTPOS);
+  const long line = view.SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, at);
+  const long start = view.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
+  const long characters = view.SendScintilla(QsciScintillaBase::SCI_COUNTCHARACTERS, start, at);
+  return {line + 1, characters + 1};
+}
+
+}  // namespace
+
+MainWindow::MainWindow(const Services& services, WidgetMap& widgets)
+    : control_(new TesselWidget(services, widgets, this)) {
+  setCentralWidget(control_);
+  setAcceptDrops(true);
+  qApp->installEventFilter(this);
+  BuildStatusBar();
+  connect(control_, &TesselWidget::statusText, this, &MainWindow::ShowNotice);
+  connect(control_, &TesselWidget::textRefused, this, &MainWindow::ShowNotice);
+  connect(control_, &TesselWidget::documentChanged, this, &MainWindow::ShowDocument);
+  connect(control_, &TesselWidget::caretMoved, this, &MainWindow::ShowCaret);
+  ShowDocument();
+}
+
+void MainWindow::BuildStatusBar() {
+  statusBar()->setSizeGripEnabled(true);
+  statusBar()->setAccessibleName(tr("Status"));
+  caret_ = new QLabel(this);
+  caret_->setAccessibleName(tr("Caret"));
+  caret_->setMinimumWidth(fontMetrics().horizontalAdvance("Ln 000000, Col 0000"));
+  modified_ = new QLabel(this);
+  modified_->setAccessibleName(tr("State of the document"));
+  modified_->setMinimumWidth(fontMetrics().horizontalAdvance("Modified") + 12);
+  statusBar()->addPermanentWidget(caret_);
+  statusBar()->addPermanentWidget(modified_);
+}
+
+void MainWindow::OpenFiles(const std::vector<std::string>& paths) {
+  for (const std::string& path : paths) control_->Tessel().OpenFile(path);
+}
+
+void MainWindow::ShowNotice(const QString& text) {
+  statusBar()->showMessage(text, kNoticeMilliseconds);
+}
+
+void MainWindow::ShowDocument() {
+  const TabStrip& tabs = control_->Tessel().Controls().tbsRtb;
+  const Tab& tab = tabs.At(tabs.Selected());
+  const bool modified = tab.image == kRedDot;
+  const QString name = ShownName(tab.caption);
+  setWindowTitle(name.isEmpty() ? tr("Zanth Manager[*]") : name + tr("[*] \u2013 Zanth Manager"));
+  setWindowModified(modified);
+  modified_->setText(modified ? tr("Modified") : QString());
+  ShowCaret();
+}
+
+void MainWindow::ShowCaret() {
+  const ScintillaView* view = control_->CurrentEditorView();
+  if (view == nullptr) return;
+  const CaretPlace place = PlaceOfCaret(*view);
+  caret_->setText(tr("Ln %1, Col %2").arg(place.line).arg(place.column));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!control_->Tessel().CloseAll()) {
+    event->ignore();
+    return;
+  }
+  SaveLook();
+  event->accept();
+}
+
+// --- Files dropped anywhere in the window are opened, on the editor too
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool drag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
+                    event->type() == QEvent::Drop;
+  if (!drag || !watched->isWidgetType()) return false;
+  auto* widget = static_cast<QWidget*>(watched);
+  auto* drop = static_cast<QDropEvent*>(event);
+  if (widget == this || !isAncestorOf(widget) || FilesOf(drop->mimeData()).empty()) return false;
+  drop->acceptProposedAction();
+  if (event->type() == QEvent::Drop) dropEvent(drop);
+  return true;
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!FilesOf(event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const std::vector<std::string> files = FilesOf(event->mimeData());
+  event->acceptProposedAction();
+  // The program the files come from waits for the drop to end: what opening asks comes later.
+  QMetaObject::invokeMethod(
+      this, [this, files] { OpenFiles(files); }, Qt::QueuedConnection);
+}
+
+// --- What is remembered between runs
+
+void MainWindow::SaveLook() {
+  QSettings settings;
+  settings.setValue("window/geometry", saveGeometry());
+  for (const char* key : kToggles) {
+    settings.setValue(QString("toolbar/") + key,
+                      control_->Tessel().Controls().tbToolBar.Pressed(key));
+  }
+}
+
+void MainWindow::RestoreLook() {
+  const QSettings settings;
+  const QByteArray geometry = settings.value("window/geometry").toByteArray();
+  if (!geometry.isEmpty()) restoreGeometry(geometry);
+  Toolbar& toolbar = control_->Tessel().Controls().tbToolBar;
+  for (const char* key : kToggles) {
+    const bool wanted = settings.value(QString("toolbar/") + key, true).toBool();
+    if (toolbar.Pressed(key) != wanted) toolbar.Press(key);
+  }
+}
+
+}  // namespace tessel

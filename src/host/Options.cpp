@@ -1,0 +1,95 @@
+#include "host/Options.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <regex>
+#include <system_error>
+
+namespace tessel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kBadArguments = 2;
+
+std::string Absolute(const std::string& path) {
+  std::error_code ignored;
+  return fs::absolute(path, ignored).lexically_normal().string();
+}
+
+/// The installed data directory; or the sources' one for a program that runs from its build tree.
+std::string DefaultHostDirectory() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  const std::string buildTree = std::string(TESSEL_BUILD_DIR) + "/";
+  const bool inBuildTree = !error && program.string().starts_with(buildTree);
+  return inBuildTree ? TESSEL_SOURCE_DATA_DIR : TESSEL_DATA_DIR;
+}
+
+std::string BadSize(const std::string& text) {
+  static const std::regex kSize("[1-9][0-9]{1,3}x[1-9][0-9]{1,3}");
+  return std::regex_match(text, kSize) ? "" : "a size is WIDTHxHEIGHT in pixels, such as 1000x700";
+}
+
+QSize SizeOf(const std::string& text) {
+  const auto cross = text.find('x');
+  return {std::stoi(text.substr(0, cross)), std::stoi(text.substr(cross + 1))};
+}
+
+/// Why a file named on the command line cannot be opened; empty when it can.
+std::string BadFile(const std::string& path) {
+  std::error_code error;
+  if (fs::is_directory(path, error)) return path + " is a directory";
+  return {};
+}
+
+}  // namespace
+
+std::string DefaultStorePath() {
+  if (const char* store = std::getenv("ZANTHMAN_STORE"); store != nullptr && *store != '\0') {
+    return store;
+  }
+  const char* config = std::getenv("XDG_CONFIG_HOME");
+  if (config != nullptr && *config == '/') return std::string(config) + "/ZanthMan/settings.db";
+  const char* home = std::getenv("HOME");
+  return std::string(home == nullptr ? "." : home) + "/.config/ZanthMan/settings.db";
+}
+
+std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
+  CLI::App app("Zanth Manager: an editor for CON files", "zanth-manager");
+  Options options;
+  options.hostDirectory = DefaultHostDirectory();
+  std::string size;
+  bool dark = false;
+  bool light = false;
+  app.add_option("FILE", options.files, "files to open")->check(BadFile);
+  app.add_option("--store", options.store, "file of the settings store")->type_name("FILE");
+  app.add_option("--host-dir", options.hostDirectory, "directory of the template files")
+      ->type_name("DIR")
+      ->check(CLI::ExistingDirectory);
+  CLI::Option* darkFlag = app.add_flag("--dark", dark, "dark colours, whatever the desktop has");
+  app.add_flag("--light", light, "light colours")->excludes(darkFlag);
+  app.add_option("--screenshot", options.screenshot,
+                 "leave a picture of the window in this file and end")
+      ->type_name("FILE");
+  app.add_option("--size", size, "size of the window in pixels")->type_name("WxH")->check(BadSize);
+  app.set_version_flag("--version", "zanth-manager " TESSEL_VERSION);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    exitStatus = app.exit(error) == 0 ? 0 : kBadArguments;
+    return std::nullopt;
+  }
+  if (dark) options.scheme = ColourScheme::kDark;
+  if (light) options.scheme = ColourScheme::kLight;
+  if (!size.empty()) options.size = SizeOf(size);
+  if (options.store.empty()) options.store = DefaultStorePath();
+  options.store = Absolute(options.store);
+  options.hostDirectory = Absolute(options.hostDirectory);
+  for (std::string& file : options.files) file = Absolute(file);
+  return options;
+}
+
+}  // namespace tessel

@@ -1,0 +1,81 @@
+// Zanth Manager: a window around the control.
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+#include <iostream>
+
+#include "host/MainWindow.h"
+#include "host/Options.h"
+#include "platform/FallbackSettingsStore.h"
+#include "platform/LinearCongruentialRandom.h"
+#include "platform/PosixFiles.h"
+#include "platform/qt/QtClipboard.h"
+#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtMessageBox.h"
+#include "platform/qt/QtModalForms.h"
+#include "platform/qt/QtScreen.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+namespace {
+
+constexpr QSize kDefaultSize(1000, 760);
+
+/// Leaves a picture of the window and says whether that worked.
+bool TakePicture(MainWindow& window, const std::string& file) {
+  QApplication::processEvents();
+  const QString path = ShownName(file);
+  if (window.grab().save(path)) return true;
+  std::cerr << "zanth-manager: cannot write the picture " << file << "\n";
+  return false;
+}
+
+int Run(QApplication& application, const Options& options) {
+  QStringList problems;
+  FallbackSettingsStore settings(options.store, [&](const std::string& problem) {
+    problems += ShownName(problem);
+    std::cerr << "zanth-manager: " << problem << "\n";
+  });
+  QtMessageBox messages;
+  QtFileDialogs fileDialogs;
+  QtModalForms forms;
+  QtClipboard clipboard;
+  QtScreenPointer pointer;
+  PosixFiles files;
+  LinearCongruentialRandom random;
+  WidgetMap widgets;
+  QtFocus focus(widgets);
+  QtMessageLoop loop;
+  const Services services{
+      messages, fileDialogs,          forms, clipboard, settings, pointer, files, random, focus,
+      loop,     options.hostDirectory};
+
+  MainWindow window(services, widgets);
+  const bool picture = !options.screenshot.empty();
+  window.resize(options.size.value_or(kDefaultSize));
+  if (!picture) window.RestoreLook();
+  if (options.size) window.resize(*options.size);
+  window.show();
+  window.OpenFiles(options.files);
+  if (picture) return TakePicture(window, options.screenshot) ? 0 : 1;
+
+  if (!problems.isEmpty()) window.ShowNotice(problems.first());
+  return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace tessel
+
+int main(int argc, char** argv) {
+  int exitStatus = 0;
+  const auto options = tessel::ParseOptions(argc, argv, exitStatus);
+  if (!options) return exitStatus;
+
+  QCoreApplication::setOrganizationName("ZanthMan");
+  QCoreApplication::setApplicationName("zanth-manager");
+  QGuiApplication::setApplicationDisplayName("Zanth Manager");
+  int qtArguments = 1;
+  QApplication application(qtArguments, argv);
+  tessel::ApplyTheme(application, options->scheme);
+  return tessel::Run(application, *options);
+}

@@ -1,0 +1,62 @@
+#include "platform/qt/ComboBoxView.h"
+
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "platform/qt/ControlView.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+
+ComboBoxView::ComboBoxView(ComboBox& model, QWidget* parent) : QComboBox(parent), model_(model) {
+  setMaxVisibleItems(16);
+  if (model_.Editable()) MakeEditable();
+  connect(this, &QComboBox::activated, this, [this](int entry) { model_.Pick(entry); });
+  refresh_ = model_.Refresh.Connect([this] { Draw(); });
+  Draw();
+}
+
+void ComboBoxView::MakeEditable() {
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  // The toolkit takes a typed text that equals an entry for a pick of it, on Return and when the
+  // focus leaves. Here only a pick is a pick.
+  setDuplicatesEnabled(true);
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+  connect(lineEdit(), &QLineEdit::textEdited, this,
+          [this](const QString& text) { model_.Type(TypedBytes(text)); });
+}
+
+// Scrolling the panel must not change values on the way.
+void ComboBoxView::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void ComboBoxView::Draw() {
+  const QSignalBlocker quiet(this);
+  if (model_.List() != shown_) {
+    const QString text = currentText();
+    clear();
+    for (const std::string& entry : model_.List()) addItem(ShownText(entry));
+    if (isEditable()) setEditText(text);
+    shown_ = model_.List();
+  }
+  DrawText();
+  DrawState(*this, model_);
+}
+
+void ComboBoxView::DrawText() {
+  const QString text = ShownText(model_.Text());
+  const int caret = isEditable() ? lineEdit()->cursorPosition() : 0;
+  const QString before = isEditable() ? lineEdit()->text() : QString();
+  if (currentIndex() != model_.ListIndex()) setCurrentIndex(model_.ListIndex());
+  if (!isEditable()) {
+    // What stays in the box while no entry is selected.
+    setPlaceholderText(text);
+    return;
+  }
+  if (lineEdit()->text() != text) setEditText(text);
+  if (text == before) lineEdit()->setCursorPosition(caret);
+}
+
+}  // namespace tessel

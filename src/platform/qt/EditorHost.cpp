@@ -1,0 +1,44 @@
+#include "platform/qt/EditorHost.h"
+
+#include <QPainter>
+
+#include "platform/RichTextBox.h"
+#include "platform/qt/ControlView.h"
+#include "platform/qt/Theme.h"
+#include "platform/qt/TwipScale.h"
+
+namespace tessel {
+namespace {
+
+// The layout's formulas leave this much beside an editor on either side.
+constexpr Twips kBorder = 30;
+
+}  // namespace
+
+EditorHost::EditorHost(QWidget* parent) : QFrame(parent), inside_(new QWidget(this)) {
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void EditorHost::Place(QWidget& editor, const RichTextBox& model) {
+  const bool shown = InSight(model);
+  if (shown) editor.setGeometry(PixelGeometry(model, *this));
+  ShowOrHide(editor, shown);
+  EnableOrDisable(editor, model.Enabled());
+  if (shown && window()->focusWidget() == inside_) editor.setFocus(Qt::OtherFocusReason);
+}
+
+void EditorHost::Release(QWidget& editor) { ShowOrHide(editor, false); }
+
+void EditorHost::resizeEvent(QResizeEvent*) {
+  const int border = TwipsToPixels(kBorder, logicalDpiX());
+  inside_->setGeometry(rect().adjusted(border, border, -border, -border));
+}
+
+void EditorHost::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().base());
+  painter.setPen(Theme(palette()).Line());
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace tessel

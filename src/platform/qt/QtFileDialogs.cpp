@@ -1,0 +1,74 @@
+#include "platform/qt/QtFileDialogs.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include "platform/CommonDialog.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+namespace {
+
+void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
+  const bool open = request.kind == FileDialogRequest::Kind::kOpen;
+  dialog.setWindowTitle(open ? QObject::tr("Open") : QObject::tr("Save As"));
+  dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  if (!open) {
+    dialog.setFileMode(QFileDialog::AnyFile);
+  } else {
+    dialog.setFileMode(request.flags & kAllowMultiSelect ? QFileDialog::ExistingFiles
+                                                         : QFileDialog::ExistingFile);
+  }
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !(request.flags & kOverwritePrompt));
+  dialog.setDirectory(QFile::decodeName(request.initDir.c_str()));
+
+  const QStringList filters = NameFilters(request.filter);
+  dialog.setNameFilters(filters);
+  if (request.filterIndex >= 1 && request.filterIndex <= filters.size()) {
+    dialog.selectNameFilter(filters[request.filterIndex - 1]);
+  }
+  if (!request.fileName.empty()) dialog.selectFile(QFile::decodeName(request.fileName.c_str()));
+}
+
+/// The extension that the first pattern asks for: a name typed without one gets it.
+QString SuffixOf(std::string_view filter) {
+  static const QRegularExpression kExtension(R"(\|\*\.(\w+))");
+  return kExtension.match(ShownText(filter)).captured(1);
+}
+
+}  // namespace
+
+QStringList NameFilters(std::string_view filter) {
+  const QStringList parts = ShownText(filter).split('|');
+  static const QRegularExpression kPatternInDescription(R"(\s*\([^)]*\)\s*$)");
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString description = parts[i];
+    description.remove(kPatternInDescription);
+    const QString pattern = parts[i + 1];
+    const QString upper = pattern.toUpper();
+    const QString patterns = pattern == upper ? pattern : pattern + " " + upper;
+    filters += description + " (" + patterns + ")";
+  }
+  return filters;
+}
+
+std::optional<std::vector<std::string>> QtFileDialogs::Show(const FileDialogRequest& request) {
+  QFileDialog dialog(QApplication::activeWindow());
+  Prepare(dialog, request);
+  if (request.kind == FileDialogRequest::Kind::kSave) {
+    dialog.setDefaultSuffix(SuffixOf(request.filter));
+  }
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  std::vector<std::string> chosen;
+  for (const QString& file : dialog.selectedFiles()) {
+    chosen.push_back(QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString());
+  }
+  if (chosen.empty()) return std::nullopt;
+  return chosen;
+}
+
+}  // namespace tessel

@@ -1,0 +1,21 @@
+// Between the models' bytes and Qt's strings.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace tessel {
+
+/// Bytes shown as Windows-1252, one character each.
+QString ShownText(std::string_view bytes);
+/// The bytes of what a person typed; characters that Windows-1252 does not have become "?".
+std::string TypedBytes(const QString& text);
+
+/// A text with a file's name in it: read as UTF-8 where it is that, else as Windows-1252.
+QString ShownName(std::string_view bytes);
+
+/// The same with "&" doubled, for places where a single one marks a mnemonic.
+QString WithoutMnemonics(QString text);
+
+}  // namespace tessel

@@ -1,0 +1,66 @@
+#include "platform/qt/TextBoxView.h"
+
+#include <QFocusEvent>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+#include "platform/qt/ControlView.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+
+TextBoxView::TextBoxView(TextBox& model, QWidget* parent) : QLineEdit(parent), model_(model) {
+  setMaxLength(1 << 20);
+  connect(this, &QLineEdit::textEdited, this,
+          [this](const QString& text) { model_.Type(TypedBytes(text)); });
+  refresh_ = model_.Refresh.Connect([this] { Draw(); });
+  selectAll_ = model_.SelectAllRequested.Connect([this] {
+    selectAll();
+    selectAllWanted_ = true;
+  });
+  Draw();
+}
+
+void TextBoxView::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  selectAllWanted_ = false;
+  if (MovedByPerson(event->reason())) model_.Enter();
+}
+
+// The press that brought the focus would leave only a caret where everything is to be selected.
+void TextBoxView::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (selectAllWanted_ && !hasSelectedText()) selectAll();
+  selectAllWanted_ = false;
+}
+
+void TextBoxView::Draw() {
+  const QSignalBlocker quiet(this);
+  const QString wanted = ShownText(model_.Text());
+  if (text() != wanted) setText(wanted);
+  DrawState(*this, model_);
+}
+
+MultiLineTextBoxView::MultiLineTextBoxView(TextBox& model, QWidget* parent)
+    : QPlainTextEdit(parent), model_(model) {
+  setTabChangesFocus(true);
+  connect(this, &QPlainTextEdit::textChanged, this,
+          [this] { model_.Type(TypedBytes(toPlainText())); });
+  refresh_ = model_.Refresh.Connect([this] { Draw(); });
+  selectAll_ = model_.SelectAllRequested.Connect([this] { selectAll(); });
+  Draw();
+}
+
+void MultiLineTextBoxView::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  if (MovedByPerson(event->reason())) model_.Enter();
+}
+
+void MultiLineTextBoxView::Draw() {
+  const QSignalBlocker quiet(this);
+  const QString wanted = ShownText(model_.Text());
+  if (toPlainText() != wanted) setPlainText(wanted);
+  DrawState(*this, model_);
+}
+
+}  // namespace tessel

@@ -1,0 +1,35 @@
+// The colours of the program: derived from the desktop's palette, light or dark.
+#pragma once
+
+#include <QApplication>
+#include <QColor>
+#include <QPalette>
+
+namespace tessel {
+
+/// Colours for what is drawn here, from the palette of the widget that draws.
+class Theme {
+ public:
+  explicit Theme(const QPalette& palette) : palette_(palette) {}
+
+  bool Dark() const;
+  /// The area on which controls stand, inside the line around it.
+  QColor Page() const;
+  QColor Line() const;
+  QColor Hover() const;
+  QColor Pressed() const;
+  QColor Accent() const;
+  QColor QuietText() const;
+  QColor IconInk() const;
+
+ private:
+  QPalette palette_;
+};
+
+enum class ColourScheme { kDesktop, kLight, kDark };
+
+/// Gives the program its style and its palette; with kDesktop light or dark as the desktop's
+/// palette is.
+void ApplyTheme(QApplication& application, ColourScheme scheme);
+
+}  // namespace tessel

@@ -1,0 +1,101 @@
+#include "platform/qt/ToolbarStyle.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPointer>
+#include <QStyleFactory>
+#include <QStyleOptionToolButton>
+
+#include "platform/qt/Theme.h"
+
+namespace tessel {
+namespace {
+
+void PaintFace(QPainter& painter, const QRect& rect, const QColor& face, const QColor& line) {
+  painter.setPen(line.isValid() ? QPen(line) : QPen(Qt::NoPen));
+  painter.setBrush(face);
+  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+}
+
+void PaintArrow(QPainter& painter, const QRect& rect, const QColor& ink) {
+  const QPointF centre = QRectF(rect).center();
+  QPen pen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  painter.setPen(pen);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawPolyline(
+      QPolygonF{centre + QPointF(-3, -1.5), centre + QPointF(0, 1.5), centre + QPointF(3, -1.5)});
+}
+
+void PaintButton(const QStyleOptionToolButton& option, QPainter& painter, const QRect& button,
+                 const QRect& menu) {
+  const Theme theme(option.palette);
+  const bool enabled = option.state & QStyle::State_Enabled;
+  const bool hovered = enabled && (option.state & QStyle::State_MouseOver);
+  const bool down = enabled && (option.state & QStyle::State_Sunken);
+  const bool on = option.state & QStyle::State_On;
+  const bool menuDown = down && (option.activeSubControls & QStyle::SC_ToolButtonMenu);
+
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (on) {
+    PaintFace(painter, option.rect, theme.Pressed(), theme.Accent());
+  } else if (hovered || down) {
+    PaintFace(painter, option.rect, theme.Hover(), theme.Line());
+  }
+  if (down) PaintFace(painter, menuDown ? menu : button, theme.Pressed(), theme.Accent());
+  if (!menu.isEmpty()) {
+    QColor ink = theme.IconInk();
+    if (!enabled) ink.setAlphaF(0.35F);
+    PaintArrow(painter, menu, ink);
+  }
+  if (option.state & QStyle::State_HasFocus) {
+    PaintFace(painter, option.rect, Qt::transparent, theme.Accent());
+  }
+  painter.restore();
+
+  QRect icon(QPoint(), option.iconSize);
+  icon.moveCenter(button.center() + QPoint(1, 1));
+  option.icon.paint(&painter, icon, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
+}
+
+}  // namespace
+
+ToolbarStyle* ToolbarStyle::Shared() {
+  static QPointer<ToolbarStyle> shared;
+  if (shared == nullptr) {
+    shared = new ToolbarStyle;
+    shared->setBaseStyle(QStyleFactory::create("Fusion"));
+    shared->setParent(qApp);
+  }
+  return shared;
+}
+
+void ToolbarStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+  const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+  if (control != CC_ToolButton || button == nullptr || button->icon.isNull()) {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    return;
+  }
+  const bool hasMenu = button->subControls & SC_ToolButtonMenu;
+  PaintButton(*button, *painter, subControlRect(control, button, SC_ToolButton, widget),
+              hasMenu ? subControlRect(control, button, SC_ToolButtonMenu, widget) : QRect());
+}
+
+int ToolbarStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                              const QWidget* widget) const {
+  switch (metric) {
+    case PM_ToolBarItemMargin:
+      return 1;
+    case PM_ToolBarFrameWidth:
+      return 0;
+    case PM_ToolBarItemSpacing:
+      return 1;
+    case PM_MenuButtonIndicator:
+      return 14;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+}  // namespace tessel

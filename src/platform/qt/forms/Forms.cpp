@@ -1,0 +1,18 @@
+#include "platform/qt/forms/Forms.h"
+
+#include "platform/qt/forms/AddParamDialog.h"
+#include "platform/qt/forms/FindDialog.h"
+#include "platform/qt/forms/RandDialog.h"
+
+namespace tessel {
+
+FormDialog* MakeFormDialog(Form& form, WidgetMap& widgets, QWidget* parent) {
+  if (auto* find = dynamic_cast<frmFind*>(&form)) return new FindDialog(*find, widgets, parent);
+  if (auto* rand = dynamic_cast<frmRand*>(&form)) return new RandDialog(*rand, widgets, parent);
+  if (auto* words = dynamic_cast<frmAddParam*>(&form)) {
+    return new AddParamDialog(*words, widgets, parent);
+  }
+  return new FormDialog(form, widgets, parent);
+}
+
+}  // namespace tessel
