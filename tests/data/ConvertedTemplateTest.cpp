@@ -1,0 +1,54 @@
+// The older user template after its conversion: what the newer dialect adds can be set.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "converter/VersionEdits.h"
+#include "data/DataFiles.h"
+#include "platform/ControlSet.h"
+#include "platform/RichTextBox.h"
+
+namespace tessel::test {
+namespace {
+
+struct ConvertedTemplate : testing::Test {
+  ConvertedTemplate() {
+    box.SetText(ReadDataFile("zmuser.dat"));
+    results = ApplyVersionEdits(box);
+  }
+
+  ControlSet set;
+  RichTextBox box{set, "rtbCon"};
+  std::vector<StepResult> results;
+};
+
+TEST_F(ConvertedTemplate, IsChangedByEveryStepButTheOneWhoseTextStandsOnTwoLines) {
+  for (int step = 1; step <= 52; ++step) {
+    const bool found = std::any_of(results.begin(), results.end(), [step](const StepResult& r) {
+      return r.step == step && r.found && r.changed;
+    });
+    EXPECT_EQ(found, step != 32) << "step " << step;
+  }
+}
+
+TEST_F(ConvertedTemplate, DefinesTheNewerItemsBeforeAnythingElseNamesThem) {
+  for (const char* name :
+       {"BOSS4STRENGTH", "NEWBEASTSTRENGTH", "NEWBEASTSCRATCHAMOUNT", "DOLPHINSTRENGTH", "QSIZE",
+        "SWEARFREQUENCY", "TRIPBOMBLASERMODE", "GROWCRYSTALAMMOAMOUNT", "MAXXSTRETCH",
+        "MAXYSTRETCH", "MINXSTRETCH", "MINYSTRETCH"}) {
+    const std::string define = std::string("define ") + name;
+    EXPECT_EQ(box.Find(define, 0), box.Find(name, 0) - 7) << name;
+  }
+}
+
+TEST_F(ConvertedTemplate, HasASlotInTheNewerDefsTemplateForEverySound) {
+  const auto slots = Tokens(WithoutComments(ReadDataFile("zmdefsp.dat")));
+  const auto tokens = Tokens(WithoutComments(box.Text()));
+  for (std::size_t i = 0; i + 1 < tokens.size(); ++i) {
+    if (tokens[i] != "definesound") continue;
+    EXPECT_NE(std::find(slots.begin(), slots.end(), tokens[i + 1]), slots.end()) << tokens[i + 1];
+  }
+}
+
+}  // namespace
+}  // namespace tessel::test
