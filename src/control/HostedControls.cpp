@@ -135,6 +135,7 @@ HostedControls::HostedControls() {
 
   tbsRtb.Add({});
   picRtb.SetContainer(&tbsRtb);
+  picRtb.SetLeft(70);  // in the middle of the strip
   rtbCon[0].SetContainer(&picRtb);
 
   mnuRtbPopup.SetItems(EditorPopupItems());

@@ -30,7 +30,7 @@ bool TakePicture(MainWindow& window, const std::string& file) {
   return false;
 }
 
-int Run(QApplication& application, const Options& options) {
+int Run(const Options& options) {
   QStringList problems;
   FallbackSettingsStore settings(options.store, [&](const std::string& problem) {
     problems += ShownName(problem);
@@ -77,5 +77,5 @@ int main(int argc, char** argv) {
   int qtArguments = 1;
   QApplication application(qtArguments, argv);
   tessel::ApplyTheme(application, options->scheme);
-  return tessel::Run(application, *options);
+  return tessel::Run(*options);
 }

@@ -8,6 +8,10 @@
 
 #include "platform/qt/Theme.h"
 
+// Outside of the namespace, as the macro asks: a static library's resources are only there when
+// something names them.
+static void LoadIcons() { Q_INIT_RESOURCE(icons); }
+
 namespace tessel {
 namespace {
 
@@ -43,6 +47,7 @@ class SvgIconEngine : public QIconEngine {
 }  // namespace
 
 QIcon SvgIcon(const QString& name) {
+  LoadIcons();
   QFile file(":/tessel/icons/" + name + ".svg");
   if (!file.open(QIODevice::ReadOnly)) return {};
   return QIcon(new SvgIconEngine(file.readAll()));

@@ -17,6 +17,7 @@ namespace {
 // What the layout's formulas leave free for the tabs on either side.
 constexpr Twips kTabsAbove = 330;
 constexpr Twips kTabsBelow = 340;
+constexpr int kGapBelowPages = 3;
 
 }  // namespace
 
@@ -73,7 +74,7 @@ void TabStripView::changeEvent(QEvent* event) {
 void TabStripView::paintEvent(QPaintEvent*) {
   const bool south = bar_->shape() == QTabBar::RoundedSouth;
   const Theme theme(palette());
-  QRect page = rect().adjusted(0, 0, -1, -1);
+  QRect page = rect().adjusted(0, 0, -1, south ? -1 : -kGapBelowPages);
   south ? page.setBottom(bar_->geometry().top()) : page.setTop(bar_->geometry().bottom());
   QPainter painter(this);
   painter.fillRect(page, theme.Page());
