@@ -69,6 +69,11 @@ void RichTextBox::SetSelLength(Position length) {
 }
 
 void RichTextBox::SetSelText(std::string_view text) {
+  if (text.empty() && selLength_ == 0) {  // the caret's colour still waits for its text
+    EndRunOfTyping();
+    Change.Raise();
+    return;
+  }
   const Position start = selStart_;
   const Position end = start + std::ssize(text);
   const Colour colour = ColourOfNextText();

@@ -24,6 +24,7 @@ void TextStore::Assign(std::string bytes) {
 
 void TextStore::Replace(Position at, Position length, std::string_view inserted, Colour colour) {
   if (length == 0 && inserted.empty()) return;
+  const char index = PaletteIndex(colour);  // may throw: before anything has changed
   redo_.clear();
   if (!stepStarted_ || undo_.empty()) undo_.emplace_back();
   stepStarted_ = openSteps_ > 0;
@@ -35,13 +36,12 @@ void TextStore::Replace(Position at, Position length, std::string_view inserted,
   } else {
     step.push_back({at, bytes_.substr(at, length), std::string(inserted)});
   }
-  Change(at, length, inserted, colour);
+  Change(at, length, inserted, index);
 }
 
-void TextStore::Change(Position at, Position length, std::string_view inserted, Colour colour) {
-  const char index = PaletteIndex(colour);
+void TextStore::Change(Position at, Position length, std::string_view inserted, char colourIndex) {
   bytes_.replace(at, length, inserted);
-  colours_.replace(at, length, inserted.size(), index);
+  colours_.replace(at, length, inserted.size(), colourIndex);
   if (view_ != nullptr) view_->Replaced(at, length, std::ssize(inserted));
 }
 
@@ -105,7 +105,7 @@ std::optional<Position> TextStore::Undo() {
   Position caret = 0;
   for (const Edit& edit : std::views::reverse(step)) {
     const Position length = std::ssize(edit.inserted);
-    Change(edit.at, length, edit.removed, InheritedColour(edit.at, length));
+    Change(edit.at, length, edit.removed, PaletteIndex(InheritedColour(edit.at, length)));
     caret = edit.at + std::ssize(edit.removed);
   }
   redo_.push_back(std::move(step));
@@ -119,7 +119,7 @@ std::optional<Position> TextStore::Redo() {
   Position caret = 0;
   for (const Edit& edit : step) {
     const Position length = std::ssize(edit.removed);
-    Change(edit.at, length, edit.inserted, InheritedColour(edit.at, length));
+    Change(edit.at, length, edit.inserted, PaletteIndex(InheritedColour(edit.at, length)));
     caret = edit.at + std::ssize(edit.inserted);
   }
   undo_.push_back(std::move(step));

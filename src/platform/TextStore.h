@@ -74,7 +74,7 @@ class TextStore {
   };
   using Step = std::vector<Edit>;
 
-  void Change(Position at, Position length, std::string_view inserted, Colour colour);
+  void Change(Position at, Position length, std::string_view inserted, char colourIndex);
   char PaletteIndex(Colour colour);
 
   std::string bytes_;
