@@ -1,0 +1,185 @@
+#include "platform/qt/ScintillaView.h"
+
+#include <QMetaObject>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+#include "platform/RuntimeError.h"
+#include "platform/qt/ControlView.h"
+
+namespace tessel {
+
+ScintillaView::ScintillaView(RichTextBox& model, Clipboard& clipboard, QWidget* parent)
+    : QsciScintillaBase(parent),
+      model_(model),
+      clipboard_(clipboard),
+      document_(*this),
+      edits_(document_) {
+  SetUp();
+  connect(this, &QsciScintillaBase::SCN_MODIFIED, this,
+          [this](int position, int type, const char*, int length) {
+            OnModified(position, type, length);
+          });
+  connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this] { OnUpdated(); });
+  connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { ShowLineNumbers(); });
+
+  model_.Store().SetView(this);
+  const auto follow = [this] {
+    if (InSight(model_)) BringUpToDate();
+  };
+  subscriptions_ = {model_.Refresh.Connect(follow), model_.SelectionMoved.Connect(follow),
+                    model_.Change.Connect(follow)};
+  follow();
+}
+
+ScintillaView::~ScintillaView() { model_.Store().SetView(nullptr); }
+
+// --- From the model
+
+void ScintillaView::Replaced(Position at, Position removed, Position inserted) {
+  const auto& edit = handedOver_;
+  const bool expected =
+      edit && edit->at == at && edit->removed == removed && std::ssize(edit->inserted) == inserted;
+  if (expected) {
+    handedOver_.reset();
+    return;
+  }
+  if (takingOver_ || !InStep() || !edits_.Empty() || !InSight(model_)) {
+    textStale_ = true;
+    return;
+  }
+  const QScopedValueRollback guard(applying_, true);
+  document_.Replace(at, removed, model_.Bytes().substr(at, inserted));
+  document_.Paint(model_.Store().Runs(at, inserted));
+  ShowLineNumbers();
+}
+
+void ScintillaView::Painted(Position at, Position length) {
+  if (takingOver_ || !InStep() || !edits_.Empty() || !InSight(model_)) {
+    coloursStale_ = true;
+    return;
+  }
+  const QScopedValueRollback guard(applying_, true);
+  document_.Paint(model_.Store().Runs(at, length));
+}
+
+void ScintillaView::BringUpToDate() {
+  if (takingOver_ || applying_) return;
+  if (InStep() && !edits_.Empty()) return;  // TakeOver is about to follow
+  const QScopedValueRollback guard(applying_, true);
+  if (textStale_) document_.BecomeEqualTo(model_.Bytes());
+  if (!InStep()) {
+    document_.Paint(model_.Store().Runs(0, model_.Length()));
+    ShowLineNumbers();
+  }
+  textStale_ = coloursStale_ = false;
+  edits_.Forget();
+  ShowSelection();
+  ShowOrHideSelection();
+}
+
+void ScintillaView::ShowSelection() {
+  const SciPosition start = document_.PositionOf(model_.SelStart());
+  const SciPosition end = document_.PositionOf(model_.SelEnd());
+  const bool shown =
+      SendScintilla(SCI_GETSELECTIONSTART) == start && SendScintilla(SCI_GETSELECTIONEND) == end;
+  if (shown) return;
+  const QScopedValueRollback guard(applying_, true);
+  SendScintilla(SCI_SETSEL, static_cast<unsigned long>(start), end);
+}
+
+void ScintillaView::ShowOrHideSelection() {
+  const bool hidden = model_.HideSelection() && !hasFocus();
+  if (hidden == selectionHidden_) return;
+  selectionHidden_ = hidden;
+  SendScintilla(SCI_HIDESELECTION, hidden ? 1UL : 0UL);
+}
+
+// --- From Scintilla
+
+void ScintillaView::OnModified(int position, int type, int length) {
+  if (applying_) return;
+  if ((type & SC_MOD_BEFOREINSERT) != 0) edits_.BeforeInsertion(position, length);
+  if ((type & SC_MOD_BEFOREDELETE) != 0) edits_.BeforeDeletion(position, length);
+  // Not from a key or the mouse: a screen reader's editing, for instance.
+  if (hands_ == 0)
+    QMetaObject::invokeMethod(
+        this, [this] { TakeOver(); }, Qt::QueuedConnection);
+}
+
+void ScintillaView::OnUpdated() {
+  if (applying_ || takingOver_ || hands_ > 0 || !InStep()) return;
+  const bool moved =
+      SendScintilla(SCI_GETSELECTIONSTART) != document_.PositionOf(model_.SelStart()) ||
+      SendScintilla(SCI_GETSELECTIONEND) != document_.PositionOf(model_.SelEnd());
+  // It may come in the middle of a painting: no time to raise events.
+  if (moved)
+    QMetaObject::invokeMethod(
+        this, [this] { TakeOver(); }, Qt::QueuedConnection);
+}
+
+void ScintillaView::ByHand(const std::function<void()>& action, bool typing) {
+  if (hands_ == 0) {
+    BringUpToDate();
+    typing_ = typing;
+  }
+  ++hands_;
+  action();
+  --hands_;
+  if (hands_ == 0) {
+    TakeOver();
+    gesture_.reset();
+  }
+}
+
+void ScintillaView::TakeOver() {
+  if (takingOver_ || !InStep()) return;
+  {
+    const QScopedValueRollback guard(takingOver_, true);
+    TakeOverEdits();
+    if (InStep()) TakeOverSelection();
+  }
+  if (!InStep() || hands_ == 0) BringUpToDate();
+}
+
+void ScintillaView::TakeOverEdits() {
+  if (edits_.Empty()) return;
+  const auto edits = edits_.Take();
+  if (!edits) {
+    textStale_ = true;
+    Refuse(tr("A character that cannot be stored in a CON file was not inserted."));
+    return;
+  }
+  if (!gesture_) gesture_.emplace(model_, typing_);
+  Position changedFrom = model_.Length();
+  Position unchangedBehind = model_.Length();
+  for (const ScintillaViewEdit& edit : *edits) {
+    handedOver_ = edit;
+    changedFrom = std::min(changedFrom, edit.at);
+    unchangedBehind = std::min(unchangedBehind, model_.Length() - edit.at - edit.removed);
+    try {
+      model_.EditByHand(edit.at, edit.removed, edit.inserted);
+    } catch (const RuntimeError& error) {
+      textStale_ = true;
+      Refuse(QString::fromUtf8(error.what()));
+    }
+    handedOver_.reset();
+    if (textStale_) return;  // somebody changed the text meanwhile: these places are void
+  }
+  if (hands_ == 0) gesture_.reset();
+  const QScopedValueRollback guard(applying_, true);
+  document_.Paint(
+      model_.Store().Runs(changedFrom, model_.Length() - unchangedBehind - changedFrom));
+  ShowLineNumbers();
+}
+
+void ScintillaView::TakeOverSelection() {
+  const auto [start, length] = displayedSelection();
+  if (start != model_.SelStart() || length != model_.SelLength()) {
+    model_.SelectByHand(start, length);
+  }
+}
+
+void ScintillaView::Refuse(const QString& explanation) { emit textRefused(explanation); }
+
+}  // namespace tessel
