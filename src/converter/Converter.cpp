@@ -11,7 +11,6 @@
 namespace tessel {
 namespace {
 
-constexpr const char* kTitle = "Zanth Manager";
 constexpr const char* kAlreadyConverted =
     "This con appears to already be version 1.4/1.5 compatible.";
 constexpr const char* kNoUserCon = "This does not appear to be a user.con file.";
@@ -44,7 +43,7 @@ std::vector<StepResult> ConvertUserCon(HostedControls& controls, const Services&
   const Position savedLength = editor.SelLength();
 
   if (const char* refusal = Refusal(editor)) {
-    services.messages.Show(refusal, MessageIcon::kExclamation, kTitle, MessageButtons::kOk);
+    services.messages.Show(refusal, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
     editor.SetSelStart(savedStart);
     return {};
   }

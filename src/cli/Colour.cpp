@@ -1,0 +1,100 @@
+#include <unistd.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "cli/CommonOptions.h"
+#include "cli/DocumentSession.h"
+#include "cli/SafeText.h"
+#include "cli/Subcommands.h"
+
+namespace tessel::cli {
+namespace {
+
+struct Options {
+  std::string file;
+  std::string format;
+};
+
+struct Rgb {
+  unsigned red, green, blue;
+};
+
+Rgb ToRgb(Colour colour) { return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF}; }
+
+void PrintPlain(const RichTextBox& editor) { std::cout << DocumentForTerminal(editor.Bytes()); }
+
+void PrintAnsi(const RichTextBox& editor) {
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
+    const std::string text = DocumentForTerminal(editor.Bytes().substr(run.start, run.length));
+    if (run.colour == kBlack) {
+      std::cout << text;
+      continue;
+    }
+    const Rgb c = ToRgb(run.colour);
+    std::cout << "\x1b[38;2;" << c.red << ';' << c.green << ';' << c.blue << 'm' << text
+              << "\x1b[0m";
+  }
+}
+
+void PrintHtml(const RichTextBox& editor) {
+  std::cout << "<!DOCTYPE html>\n<meta charset=\"utf-8\">\n<pre>";
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
+    const std::string text = ForHtml(editor.Bytes().substr(run.start, run.length));
+    if (run.colour == kBlack) {
+      std::cout << text;
+      continue;
+    }
+    const Rgb c = ToRgb(run.colour);
+    std::cout << "<span style=\"color:rgb(" << c.red << ',' << c.green << ',' << c.blue << ")\">"
+              << text << "</span>";
+  }
+  std::cout << "</pre>\n";
+}
+
+void PrintJson(const RichTextBox& editor) {
+  nlohmann::ordered_json runs = nlohmann::ordered_json::array();
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
+    if (run.colour != kBlack) runs.push_back({run.start, run.length, run.colour});
+  }
+  std::cout << runs.dump() << '\n';
+}
+
+// Colours go to a terminal unless NO_COLOR is set; elsewhere only when asked for.
+bool TerminalWantsColour() {
+  const char* noColour = std::getenv("NO_COLOR");
+  return isatty(STDOUT_FILENO) != 0 && (noColour == nullptr || *noColour == '\0');
+}
+
+bool Run(const Options& options) {
+  DocumentSession session;
+  if (!session.Open(options.file)) return false;
+  if (!session.Run([&] { session.Controls().tbToolBar.Press("Colorize"); })) return false;
+  const RichTextBox& editor = session.Editor();
+  if (options.format == "json") {
+    PrintJson(editor);
+  } else if (options.format == "html") {
+    PrintHtml(editor);
+  } else if (options.format == "ansi" || TerminalWantsColour()) {
+    PrintAnsi(editor);
+  } else {
+    PrintPlain(editor);
+  }
+  return true;
+}
+
+}  // namespace
+
+void AddColour(CLI::App& program, int& status) {
+  auto options = std::make_shared<Options>();
+  CLI::App* command = program.add_subcommand("colour", "Print a file in colours");
+  AddFile(*command, options->file);
+  command->add_option("--format", options->format, "ansi, html or json (the coloured runs)")
+      ->check(CLI::IsMember(std::vector<std::string>{"ansi", "html", "json"}));
+  command->callback([options, &status] {
+    if (!Run(*options)) status = kFailed;
+  });
+}
+
+}  // namespace tessel::cli

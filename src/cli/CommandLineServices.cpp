@@ -1,0 +1,25 @@
+#include "cli/CommandLineServices.h"
+
+#include <iostream>
+
+#include "cli/SafeText.h"
+#include "platform/Form.h"
+
+namespace tessel::cli {
+
+void Complain(const std::string& text) { std::cerr << "tessel: " << ForTerminal(text) << '\n'; }
+
+MessageAnswer StderrMessages::Show(const std::string& text, MessageIcon, const std::string&,
+                                   MessageButtons buttons) {
+  shown_ = true;
+  Complain(text);
+  return buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kNo;
+}
+
+void AnsweredForms::ShowModal(Form& form) {
+  form.Show();
+  if (answer) answer(form);
+  if (form.Visible()) form.Hide();
+}
+
+}  // namespace tessel::cli

@@ -1,0 +1,55 @@
+#include "cli/DocumentSession.h"
+
+#include <filesystem>
+
+#include "documents/DocumentSlots.h"
+#include "platform/HostDirectory.h"
+
+namespace tessel::cli {
+
+DocumentSession::DocumentSession(std::uint32_t seed)
+    : random_(seed),
+      services_{messages_,
+                fileDialogs_,
+                forms_,
+                clipboard_,
+                settings_,
+                pointer_,
+                files_,
+                random_,
+                focus_,
+                loop_,
+                DefaultHostDirectory()},
+      control_(services_) {
+  control_.Initialize();
+  Controls().tbToolBar.SetPressed("Colorize", false);
+}
+
+bool DocumentSession::Open(const std::string& path) {
+  // The control takes an empty path for "ask": there is nobody to ask.
+  if (path.empty()) {
+    Complain("File  not found.");
+    return false;
+  }
+  return Run([&] { control_.OpenFile(std::filesystem::absolute(path).string()); });
+}
+
+bool DocumentSession::New(const std::string& code) {
+  return Run([&] {
+    const auto& menu = Controls().tbToolBar.Find("FileNew")->menu;
+    for (std::size_t i = 0; i < menu.size(); ++i) {
+      if (menu[i].key == code && !code.empty()) {
+        return Controls().tbToolBar.PressMenuItem("FileNew", static_cast<int>(i) + 1);
+      }
+    }
+  });
+}
+
+bool DocumentSession::Run(const std::function<void()>& command) {
+  command();
+  return !messages_.Shown();
+}
+
+RichTextBox& DocumentSession::Editor() { return CurrentEditor(Controls()); }
+
+}  // namespace tessel::cli

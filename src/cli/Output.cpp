@@ -1,0 +1,30 @@
+#include "cli/Output.h"
+
+#include <iostream>
+
+#include "cli/CommandLineServices.h"
+#include "platform/PosixFiles.h"
+#include "platform/RuntimeError.h"
+
+namespace tessel::cli {
+
+bool WriteResult(std::string_view bytes, const Destination& destination,
+                 const std::string& source) {
+  const std::string& file = destination.inPlace ? source : destination.file;
+  if (file.empty()) {
+    std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::cout.flush();
+    if (std::cout.good()) return true;
+    Complain("The result could not be written to standard output.");
+    return false;
+  }
+  try {
+    PosixFiles().Write(file, bytes);
+    return true;
+  } catch (const RuntimeError& error) {
+    Complain(error.what());
+    return false;
+  }
+}
+
+}  // namespace tessel::cli

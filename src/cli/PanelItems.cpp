@@ -1,0 +1,99 @@
+#include "cli/PanelItems.h"
+
+#include <algorithm>
+
+#include "platform/Text.h"
+#include "settings/Defines.h"
+#include "settings/ItemTables.h"
+
+namespace tessel::cli {
+namespace {
+
+constexpr std::string_view kDefineWord = "define ";
+// The panel never writes this text of a value box, so it marks "nothing found".
+constexpr const char* kNothingFound = "  ";
+
+std::string DefineName(std::string key) {
+  return key.starts_with(kDefineWord) ? key.substr(kDefineWord.size()) : key;
+}
+
+void AddWeapons(std::vector<PanelItem>& items) {
+  for (int category = 0; category < std::ssize(WeaponCategoryTable); ++category) {
+    const WeaponCategory& rules = WeaponCategoryTable[static_cast<std::size_t>(category)];
+    for (int i = 0; i < std::ssize(rules.weapons); ++i) {
+      const std::string weapon(rules.weapons[static_cast<std::size_t>(i)]);
+      items.push_back({"Weapon", std::string(rules.displayName) + "/" + weapon,
+                       DefineName(WeaponKey(category, weapon, i)), category, i});
+    }
+  }
+}
+
+template <class Items, class Key>
+void AddItems(std::vector<PanelItem>& items, const char* section, const Items& table, Key key) {
+  for (int i = 0; i < std::ssize(table); ++i) {
+    const Item& row = table[static_cast<std::size_t>(i)];
+    items.push_back({section, std::string(row.displayName), key(row), -1, i});
+  }
+}
+
+struct Place {
+  ListBox& list;
+  ComboBox& box;
+};
+
+Place PlaceOf(HostedControls& c, const PanelItem& item) {
+  if (item.section == "Player") return {c.lstPlayers, c.cmbweap[kPlayerPage]};
+  if (item.section == "Weapon") return {c.lstWeapon, c.cmbweap[kWeaponPage]};
+  if (item.section == "Enemy") return {c.lstEnemy, c.cmbweap[kEnemyPage]};
+  return {c.lstConMisc, c.cmbweap[kMiscPage]};
+}
+
+bool IsYesNo(const PanelItem& item) { return item.entry < 0; }
+
+}  // namespace
+
+std::vector<PanelItem> PanelItems() {
+  const auto fixedKey = [](const Item& item) { return std::string(item.key); };
+  std::vector<PanelItem> items;
+  AddItems(items, "Player", PlayerItemTable, PlayerKey);
+  AddWeapons(items);
+  AddItems(items, "Enemy", EnemyItemTable, fixedKey);
+  AddItems(items, "Misc", MiscItemTable, fixedKey);
+  items.push_back({"Misc", "Cameras Destructable", std::string(kCamerasDestructable), -1, -1});
+  items.push_back({"Misc", "Freeze Hurt Owner", std::string(kFreezerHurtOwner), -1, -1});
+  return items;
+}
+
+std::optional<PanelItem> FindPanelItem(const std::string& name) {
+  const std::vector<PanelItem> items = PanelItems();
+  const auto it = std::ranges::find_if(items, [&](const PanelItem& item) {
+    return EqualIgnoringAsciiCase(item.name, name) || EqualIgnoringAsciiCase(item.define, name);
+  });
+  if (it == items.end()) return std::nullopt;
+  return *it;
+}
+
+std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& item) {
+  HostedControls& c = session.Controls();
+  if (IsYesNo(item)) {
+    RichTextBox& editor = session.Editor();
+    if (FindDefine(editor, item.define, true) == kNotFound) return std::nullopt;
+    return ReadYesNo(editor, item.define) ? "YES" : "NO";
+  }
+  if (item.category >= 0) c.lstWeapInfo.Pick(item.category);
+  const Place place = PlaceOf(c, item);
+  place.box.SetText(kNothingFound);
+  place.list.Pick(item.entry);
+  if (place.box.Text() == kNothingFound) return std::nullopt;
+  return place.box.Text();
+}
+
+void WriteItem(DocumentSession& session, const PanelItem& item, const std::string& value) {
+  HostedControls& c = session.Controls();
+  if (!IsYesNo(item)) return PlaceOf(c, item).box.Type(value);
+  const bool yes = EqualIgnoringAsciiCase(value, "YES");
+  const bool cameras = item.define == kCamerasDestructable;
+  (cameras ? (yes ? c.optCamYes : c.optCamNo) : (yes ? c.optFreezYes : c.optFreezNo)).Press();
+}
+
+}  // namespace tessel::cli
