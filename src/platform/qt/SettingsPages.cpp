@@ -1,9 +1,10 @@
 #include "platform/qt/SettingsPages.h"
 
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QScrollArea>
+#include <algorithm>
+#include <initializer_list>
 
 #include "platform/qt/ButtonViews.h"
 #include "platform/qt/ComboBoxView.h"
@@ -16,9 +17,9 @@
 namespace tessel {
 namespace {
 
-// The common grid: columns of one width, a caption above each box.
-constexpr int kColumns = 4;
-constexpr int kColumnWidth = 230;
+constexpr int kNarrowestColumn = 120;
+constexpr int kWidestColumn = 250;
+constexpr int kValueBoxWidth = 120;
 constexpr int kColumnGap = 18;
 constexpr int kRowGap = 2;
 constexpr int kCaptionRow = 0;
@@ -27,15 +28,8 @@ constexpr int kBoxRow = 1;
 /// Puts the controls of one page on the grid and into the map.
 class PageBuilder {
  public:
-  PageBuilder(HostedControls& controls, WidgetMap& widgets, QWidget* page)
-      : c(controls), widgets_(widgets), page_(page), grid_(new QGridLayout(page)) {
-    grid_->setContentsMargins(0, 0, 0, 0);
-    grid_->setHorizontalSpacing(kColumnGap);
-    grid_->setVerticalSpacing(kRowGap);
-    grid_->setRowStretch(kBoxRow, 1);
-    for (int column = 0; column < kColumns; ++column) grid_->setColumnMinimumWidth(column, 120);
-    grid_->setColumnStretch(kColumns, 1);
-  }
+  PageBuilder(HostedControls& controls, WidgetMap& widgets, GridPage* page)
+      : c(controls), widgets_(widgets), page_(page), grid_(page->Grid()) {}
 
   template <class View, class Model>
   View* Make(Model& model, const QString& accessibleName) {
@@ -53,18 +47,16 @@ class PageBuilder {
 
   void AddList(ListBox& model, const QString& caption, const QString& name, int column) {
     auto* list = Make<ListBoxView>(model, name);
-    list->setMinimumWidth(120);
-    list->setMaximumWidth(kColumnWidth);
+    list->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     grid_->addWidget(Caption(caption, list), kCaptionRow, column);
     grid_->addWidget(list, kBoxRow, column);
-    grid_->setColumnStretch(column, 1000);
   }
 
   void AddValueBox(SettingsPage page, int column) {
     auto* box = Make<ComboBoxView>(c.cmbweap[page], QObject::tr("Current value"));
     auto* label = Make<LabelView>(c.lblValue[page], QObject::tr("Current Value:"));
     label->setBuddy(box);
-    box->setFixedWidth(120);
+    box->setFixedWidth(kValueBoxWidth);
     grid_->addWidget(label, kCaptionRow, column);
     grid_->addWidget(box, kBoxRow, column, Qt::AlignTop | Qt::AlignLeft);
   }
@@ -82,7 +74,7 @@ class PageBuilder {
 
   HostedControls& c;
   WidgetMap& widgets_;
-  QWidget* page_;
+  GridPage* page_;
   QGridLayout* grid_;
 };
 
@@ -115,39 +107,41 @@ void BuildMiscPage(PageBuilder& page) {
   page.grid_->addLayout(options, kCaptionRow, 2, 2, 1);
 }
 
+/// A box that takes the rest of its row, and its buttons.
+QHBoxLayout* RowOf(QWidget* box, std::initializer_list<QWidget*> buttons) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(8);
+  box->setMaximumWidth(2 * kWidestColumn);
+  row->addWidget(box, 1000);
+  for (QWidget* button : buttons) row->addWidget(button);
+  row->addStretch(1);
+  return row;
+}
+
 void BuildLevelPage(PageBuilder& page) {
   auto* level = page.Make<ComboBoxView>(page.c.cboEpisode, QObject::tr("Episode and level"));
-  level->setMaximumWidth(kColumnWidth);
+  level->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   auto* map = page.Make<TextBoxView>(page.c.txtMap, QObject::tr("Map file"));
-  auto* browse = page.Make<CommandButtonView>(page.c.cmdMap, QObject::tr("Browse for a map file"));
   auto* insertMap =
       page.Make<CommandButtonView>(page.c.cmdInsert[0], QObject::tr("Insert the map file"));
+  auto* browse = page.Make<CommandButtonView>(page.c.cmdMap, QObject::tr("Browse for a map file"));
   auto* title = page.Make<TextBoxView>(page.c.txtTitle, QObject::tr("Title"));
   auto* insertTitle =
       page.Make<CommandButtonView>(page.c.cmdInsert[1], QObject::tr("Insert the title"));
+  // Below the browse button there is none.
+  auto* titleRow = RowOf(title, {insertTitle});
+  titleRow->insertSpacing(2, browse->sizeHint().width() + titleRow->spacing());
 
   QGridLayout& grid = *page.grid_;
+  grid.addWidget(page.Caption(QObject::tr("&Episode/Level"), level), kCaptionRow, 0);
+  grid.addWidget(level, kBoxRow, 0);
+  grid.addWidget(page.Caption(QObject::tr("&Map file"), map), kCaptionRow, 1);
+  grid.addLayout(RowOf(map, {insertMap, browse}), kBoxRow, 1, 1, GridPage::kColumns);
+  grid.addWidget(page.Caption(QObject::tr("&Title"), title), kBoxRow + 2, 1);
+  grid.addLayout(titleRow, kBoxRow + 3, 1, 1, GridPage::kColumns);
   grid.setRowStretch(kBoxRow, 0);
-  grid.setHorizontalSpacing(8);
-  grid.addWidget(page.Caption(QObject::tr("&Episode/Level"), level), 0, 0);
-  grid.addWidget(level, 1, 0);
-  grid.addItem(new QSpacerItem(kColumnGap - 2 * 8, 1), 0, 1);
-  grid.addWidget(page.Caption(QObject::tr("&Map file"), map), 0, 2);
-  grid.addWidget(map, 1, 2);
-  grid.addWidget(insertMap, 1, 3);
-  grid.addWidget(browse, 1, 4);
-  grid.setRowMinimumHeight(2, 4);
-  grid.addWidget(page.Caption(QObject::tr("&Title"), title), 3, 2);
-  grid.addWidget(title, 4, 2);
-  grid.addWidget(insertTitle, 4, 3);
-  grid.setRowStretch(5, 1);
-  grid.setColumnMinimumWidth(1, 0);
-  grid.setColumnStretch(0, 1000);
-  grid.setColumnStretch(2, 1000);
-  grid.setColumnStretch(kColumns, 0);
-  grid.setColumnStretch(5, 1);
-  map->setMaximumWidth(2 * kColumnWidth);
-  title->setMaximumWidth(2 * kColumnWidth);
+  grid.setRowMinimumHeight(kBoxRow + 1, 2);
+  grid.setRowStretch(kBoxRow + 4, 1);
 }
 
 QWidget* MakeParameterPane(PageBuilder& page) {
@@ -156,45 +150,61 @@ QWidget* MakeParameterPane(PageBuilder& page) {
   parameters->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   parameters->setMargin(4);
   parameters->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  parameters->setBackgroundRole(QPalette::Base);
+  parameters->setAutoFillBackground(true);
   auto* pane = new QScrollArea(page.page_);
   pane->setWidget(parameters);
   pane->setWidgetResizable(true);
+  pane->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   pane->setAccessibleName(QObject::tr("Parameters"));
-  pane->setMaximumWidth(2 * kColumnWidth);
+  pane->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  pane->setMaximumWidth(2 * kWidestColumn);
   return pane;
 }
 
 void BuildFunctionsPage(PageBuilder& page) {
   auto* search = page.Make<TextBoxView>(page.c.txtSearch, QObject::tr("Search for a function"));
   search->setClearButtonEnabled(true);
-  search->setMaximumWidth(kColumnWidth);
   auto* insert =
       page.Make<CommandButtonView>(page.c.cmdInsert[2], QObject::tr("Insert the function"));
   auto* edit = page.Make<CommandButtonView>(page.c.cmdAddword,
                                             QObject::tr("Add or edit words and parameters"));
-  page.grid_->addWidget(page.Caption(QObject::tr("Searc&h:"), search), kCaptionRow, 0);
-  auto* column = new QVBoxLayout;
-  column->setSpacing(6);
-  column->addWidget(search);
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(insert);
-  buttons->addWidget(edit);
-  buttons->addStretch();
+  buttons->setSpacing(8);
+  buttons->addWidget(insert, 1);
+  buttons->addWidget(edit, 1);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(8);
+  column->addWidget(search);
   column->addLayout(buttons);
   column->addStretch();
+  page.grid_->addWidget(page.Caption(QObject::tr("Searc&h:"), search), kCaptionRow, 0);
   page.grid_->addLayout(column, kBoxRow, 0);
-  page.grid_->setColumnStretch(0, 1000);
   page.AddList(page.c.lstWords, QObject::tr("Select &Function:"), QObject::tr("Functions"), 1);
   QWidget* parameters = MakeParameterPane(page);
   page.grid_->addWidget(page.Caption(QObject::tr("&Parameters:"), parameters), kCaptionRow, 2);
-  page.grid_->addWidget(parameters, kBoxRow, 2);
-  page.grid_->setColumnStretch(2, 2000);
+  page.grid_->addWidget(parameters, kBoxRow, 2, 1, 2);
 }
 
 }  // namespace
 
+GridPage::GridPage(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)) {
+  grid_->setContentsMargins(0, 0, 0, 0);
+  grid_->setHorizontalSpacing(kColumnGap);
+  grid_->setVerticalSpacing(kRowGap);
+  grid_->setRowStretch(kBoxRow, 1);
+  grid_->setColumnStretch(kColumns, 1);
+}
+
+void GridPage::resizeEvent(QResizeEvent*) {
+  const int share = (width() - kColumns * kColumnGap) / kColumns;
+  for (int column = 0; column < kColumns; ++column) {
+    grid_->setColumnMinimumWidth(column, std::clamp(share, kNarrowestColumn, kWidestColumn));
+  }
+}
+
 PageView::PageView(PictureBox& page, Frame& frame, QWidget* parent)
-    : QWidget(parent), page_(page), frame_(frame), frameView_(new QWidget(this)) {
+    : QWidget(parent), page_(page), frame_(frame), frameView_(new GridPage(this)) {
   pageRefresh_ = page_.Refresh.Connect([this] { Draw(); });
   frameRefresh_ = frame_.Refresh.Connect([this] { Draw(); });
   Draw();

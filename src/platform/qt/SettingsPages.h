@@ -1,15 +1,32 @@
 // The pages of the settings panel on the screen.
 #pragma once
 
-#include <QFrame>
+#include <QGridLayout>
 #include <QWidget>
-#include <memory>
-#include <vector>
 
 #include "control/HostedControls.h"
 #include "platform/qt/WidgetMap.h"
 
 namespace tessel {
+
+/// A page's controls on the grid that all pages have in common: columns of one width, captions in
+/// one row above their boxes. What is left on the right goes to the column behind the last.
+class GridPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  static constexpr int kColumns = 3;
+
+  explicit GridPage(QWidget* parent);
+
+  QGridLayout* Grid() { return grid_; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QGridLayout* grid_;
+};
 
 /// Shows one picCon with its fraCon: a plain container that stands where the models say.
 class PageView : public QWidget {
@@ -19,14 +36,14 @@ class PageView : public QWidget {
   PageView(PictureBox& page, Frame& frame, QWidget* parent);
 
   /// The widget that holds the page's controls.
-  QWidget* Inside() { return frameView_; }
+  GridPage* Inside() { return frameView_; }
 
  private:
   void Draw();
 
   PictureBox& page_;
   Frame& frame_;
-  QWidget* frameView_;
+  GridPage* frameView_;
   Subscription pageRefresh_;
   Subscription frameRefresh_;
 };

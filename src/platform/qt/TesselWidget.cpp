@@ -49,6 +49,7 @@ TesselWidget::TesselWidget(const Services& services, WidgetMap& widgets, QWidget
       [this](const std::string& text) { emit statusText(ShownName(text)); }));
   tessel_->Initialize();
   resize(sizeHint());
+  CurrentEditorView()->setFocus();
 }
 
 // Views go before their models, and not while one of them has the focus: the toolkit would pass it

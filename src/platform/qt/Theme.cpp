@@ -1,6 +1,6 @@
 #include "platform/qt/Theme.h"
 
-#include <QStyleFactory>
+#include "platform/qt/TesselStyle.h"
 
 namespace tessel {
 namespace {
@@ -73,6 +73,10 @@ QColor Theme::Line() const {
                Dark() ? 0.18 : 0.2);
 }
 
+QColor Theme::Outline() const {
+  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.5);
+}
+
 QColor Theme::Hover() const {
   return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.08);
 }
@@ -98,7 +102,7 @@ QColor Theme::IconInk() const {
 void ApplyTheme(QApplication& application, ColourScheme scheme) {
   const bool dark = scheme == ColourScheme::kDesktop ? Theme(application.palette()).Dark()
                                                      : scheme == ColourScheme::kDark;
-  application.setStyle(QStyleFactory::create("Fusion"));
+  application.setStyle(new TesselStyle);
   application.setPalette(MakePalette(dark));
 }
 

@@ -16,6 +16,8 @@ class Theme {
   /// The area on which controls stand, inside the line around it.
   QColor Page() const;
   QColor Line() const;
+  /// A line that a person has to see: around what can be clicked.
+  QColor Outline() const;
   QColor Hover() const;
   QColor Pressed() const;
   QColor Accent() const;

@@ -7,8 +7,8 @@
 #include "platform/qt/ControlView.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/SvgIcon.h"
+#include "platform/qt/TesselStyle.h"
 #include "platform/qt/Theme.h"
-#include "platform/qt/ToolbarStyle.h"
 
 namespace tessel {
 namespace {
@@ -27,7 +27,7 @@ ToolbarView::ToolbarView(Toolbar& model, QWidget* parent) : QToolBar(parent), mo
   setContextMenuPolicy(Qt::PreventContextMenu);
   setIconSize({20, 20});
   setToolButtonStyle(Qt::ToolButtonIconOnly);
-  setStyle(ToolbarStyle::Shared());
+  setStyle(TesselStyle::Shared());
   for (const ToolbarButton& button : model_.Buttons()) AddButton(button);
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
   Draw();
@@ -60,6 +60,7 @@ void ToolbarView::AddButton(const ToolbarButton& button) {
     tool->setPopupMode(QToolButton::MenuButtonPopup);
   }
   tool->setObjectName(key);
+  tool->setStyle(TesselStyle::Shared());
   tool->setAccessibleName(toolTip);
   tool->setFocusPolicy(Qt::TabFocus);
   actions_[button.key] = action;

@@ -1,10 +1,11 @@
-#include "platform/qt/ToolbarStyle.h"
+#include "platform/qt/TesselStyle.h"
 
 #include <QApplication>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOptionToolButton>
+#include <algorithm>
 
 #include "platform/qt/Theme.h"
 
@@ -58,20 +59,66 @@ void PaintButton(const QStyleOptionToolButton& option, QPainter& painter, const 
   option.icon.paint(&painter, icon, Qt::AlignCenter, enabled ? QIcon::Normal : QIcon::Disabled);
 }
 
+QColor MarkOf(const QStyleOption& option, const Theme& theme) {
+  return option.state & QStyle::State_Enabled ? theme.Accent() : theme.Line();
+}
+
+/// The empty face of an option or check box, with a line that shows focus and mouse.
+void PrepareFace(QPainter& painter, const QStyleOption& option, const Theme& theme) {
+  const bool enabled = option.state & QStyle::State_Enabled;
+  const bool noticed = option.state & (QStyle::State_MouseOver | QStyle::State_HasFocus);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(!enabled ? theme.Line() : noticed ? theme.Accent() : theme.Outline(), 1));
+  painter.setBrush(option.palette.color(QPalette::Base));
+}
+
+void PaintOption(QPainter& painter, const QStyleOption& option) {
+  const Theme theme(option.palette);
+  const QRectF rect(option.rect);
+  const double radius = std::min(rect.width(), rect.height()) / 2 - 0.5;
+  painter.save();
+  PrepareFace(painter, option, theme);
+  painter.drawEllipse(rect.center(), radius, radius);
+  if (option.state & QStyle::State_On) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(MarkOf(option, theme));
+    painter.drawEllipse(rect.center(), radius * 0.55, radius * 0.55);
+  }
+  painter.restore();
+}
+
+void PaintCheckBox(QPainter& painter, const QStyleOption& option) {
+  const Theme theme(option.palette);
+  const QRectF rect = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.save();
+  PrepareFace(painter, option, theme);
+  painter.drawRoundedRect(rect, 2, 2);
+  if (option.state & QStyle::State_On) {
+    const QPointF corner = rect.topLeft();
+    const double unit = rect.width() / 12;
+    painter.setPen(QPen(MarkOf(option, theme), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{corner + QPointF(3, 6.2) * unit,
+                                   corner + QPointF(5.2, 8.6) * unit,
+                                   corner + QPointF(9.2, 3.6) * unit});
+  }
+  painter.restore();
+}
+
 }  // namespace
 
-ToolbarStyle* ToolbarStyle::Shared() {
-  static QPointer<ToolbarStyle> shared;
+TesselStyle::TesselStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+TesselStyle* TesselStyle::Shared() {
+  static QPointer<TesselStyle> shared;
   if (shared == nullptr) {
-    shared = new ToolbarStyle;
-    shared->setBaseStyle(QStyleFactory::create("Fusion"));
+    shared = new TesselStyle;
     shared->setParent(qApp);
   }
   return shared;
 }
 
-void ToolbarStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
-                                      QPainter* painter, const QWidget* widget) const {
+void TesselStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
   const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
   if (control != CC_ToolButton || button == nullptr || button->icon.isNull()) {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -82,8 +129,15 @@ void ToolbarStyle::drawComplexControl(ComplexControl control, const QStyleOption
               hasMenu ? subControlRect(control, button, SC_ToolButtonMenu, widget) : QRect());
 }
 
-int ToolbarStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
-                              const QWidget* widget) const {
+void TesselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+  if (element == PE_IndicatorRadioButton) return PaintOption(*painter, *option);
+  if (element == PE_IndicatorCheckBox) return PaintCheckBox(*painter, *option);
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+int TesselStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const {
   switch (metric) {
     case PM_ToolBarItemMargin:
       return 1;

@@ -1,0 +1,27 @@
+// How the program's parts look where the toolkit's style is not good enough.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace tessel {
+
+/// Fusion with flat toolbar buttons (a soft face under the mouse, an accented one while pressed or
+/// switched on), and with options and check boxes that can be told from a dark ground.
+class TesselStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  TesselStyle();
+
+  /// The one instance for toolbars in programs of another style; the application owns it.
+  static TesselStyle* Shared();
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+};
+
+}  // namespace tessel
