@@ -72,9 +72,7 @@ bool Remove(SettingsStore& store, const Options& options) {
 }
 
 bool Import(SettingsStore& store, const Options& options) {
-  for (const ScriptWord& word : ParseWordFile(PosixFiles().Read(options.file))) {
-    WriteScriptWord(store, word);
-  }
+  WriteScriptWords(store, ParseWordFile(PosixFiles().Read(options.file)));
   return true;
 }
 

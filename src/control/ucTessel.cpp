@@ -115,6 +115,10 @@ void ucTessel::OpenFile(const std::string& path) {
   RunCommand([&] { documents_->OpenFile(path); });
 }
 
+void ucTessel::ReloadDocument() {
+  RunCommand([this] { documents_->ReloadDocument(); });
+}
+
 bool ucTessel::CloseAll() {
   bool closed = false;
   RunCommand([&] { closed = documents_->CloseAll(); });

@@ -53,6 +53,8 @@ class ucTessel {
   const std::vector<Form*>& Forms() const { return forms_; }
   /// Opens a file as the recent list does; an empty path shows the open dialog.
   void OpenFile(const std::string& path);
+  /// Takes the current document's text from its file again.
+  void ReloadDocument();
   /// Asks for every modified document, then closes all. Returns false, with nothing closed, when
   /// one of them was cancelled.
   bool CloseAll();

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "colouring/Colouring.h"
 #include "documents/DocumentSlots.h"
 #include "documents/RecentFiles.h"
 #include "documents/Templates.h"
@@ -161,6 +162,20 @@ void Documents::SaveDocument(bool inPlace) {
   controls_.tbsRtb.SetTabImage(slot + 1, kBlackDot);
   controls_.tbsRtb.SetTabCaption(slot + 1, AsciiLower(held.fileTitle));
   controls_.tbsRtb.SetTabTag(slot + 1, held.fileName);
+}
+
+void Documents::ReloadDocument() {
+  const int slot = CurrentDocIndex(controls_);
+  RichTextBox& editor = controls_.rtbCon[slot];
+  const std::string path = controls_.tbsRtb.At(slot + 1).tag;
+  const Position caret = editor.SelStart();
+  const bool coloured = editor.Tag() == kColourMode;
+  editor.LoadFile(path, services_.files.Read(path));
+  editor.SetTag(kPlainMode);
+  if (coloured) ColorizeDocument(editor, status_);
+  editor.SetSelStart(caret);
+  controls_.tbsRtb.SetTabImage(slot + 1, kBlackDot);
+  levels_.Restart();
 }
 
 bool Documents::ConfirmClose(int slot) {

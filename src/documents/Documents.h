@@ -33,6 +33,10 @@ class Documents {
   /// was cancelled.
   bool CloseAll();
 
+  /// Takes the current document's text from its file again; it counts as unmodified then. For a host
+  /// that sees the file changed by others.
+  void ReloadDocument();
+
   /// The document tab was clicked: shows its editor and parks the others.
   void ShowSelectedDocument();
   /// The "Colorize" button changed.

@@ -50,6 +50,11 @@ void FallbackSettingsStore::SaveSetting(const std::string& section, const std::s
   Use([&](SettingsStore& store) { store.SaveSetting(section, key, value); });
 }
 
+void FallbackSettingsStore::SaveSettings(const std::string& section,
+                                         const std::vector<Entry>& entries) {
+  Use([&](SettingsStore& store) { store.SaveSettings(section, entries); });
+}
+
 void FallbackSettingsStore::DeleteSetting(const std::string& section, const std::string& key) {
   Use([&](SettingsStore& store) { store.DeleteSetting(section, key); });
 }

@@ -26,6 +26,7 @@ class FallbackSettingsStore : public SettingsStore {
   std::vector<Entry> GetAllSettings(const std::string& section) override;
   void SaveSetting(const std::string& section, const std::string& key,
                    const std::string& value) override;
+  void SaveSettings(const std::string& section, const std::vector<Entry>& entries) override;
   void DeleteSetting(const std::string& section, const std::string& key) override;
 
  private:

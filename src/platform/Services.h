@@ -76,6 +76,10 @@ class SettingsStore {
   virtual std::vector<Entry> GetAllSettings(const std::string& section) = 0;
   virtual void SaveSetting(const std::string& section, const std::string& key,
                            const std::string& value) = 0;
+  /// The same for many entries, in their order. A store in a file saves all of them or none.
+  virtual void SaveSettings(const std::string& section, const std::vector<Entry>& entries) {
+    for (const auto& [key, value] : entries) SaveSetting(section, key, value);
+  }
   /// A key that is not there is no error.
   virtual void DeleteSetting(const std::string& section, const std::string& key) = 0;
 };

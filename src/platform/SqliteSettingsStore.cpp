@@ -193,6 +193,18 @@ void SqliteSettingsStore::SaveSetting(const std::string& section, const std::str
   insert.Step();
 }
 
+void SqliteSettingsStore::SaveSettings(const std::string& section,
+                                       const std::vector<Entry>& entries) {
+  Execute("BEGIN IMMEDIATE");
+  try {
+    for (const auto& [key, value] : entries) SaveSetting(section, key, value);
+    Execute("COMMIT");
+  } catch (const RuntimeError&) {
+    sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    throw;
+  }
+}
+
 void SqliteSettingsStore::DeleteSetting(const std::string& section, const std::string& key) {
   const std::string sectionFolded = AsciiLower(section);
   const std::string keyFolded = AsciiLower(key);

@@ -22,8 +22,16 @@ std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings) {
 }
 
 void WriteScriptWord(SettingsStore& settings, const ScriptWord& word) {
-  settings.SaveSetting(kSection, NameKey(word.word), word.word);
-  settings.SaveSetting(kSection, ParametersKey(word.word), word.parameters);
+  WriteScriptWords(settings, {word});
+}
+
+void WriteScriptWords(SettingsStore& settings, const std::vector<ScriptWord>& words) {
+  std::vector<SettingsStore::Entry> entries;
+  for (const ScriptWord& word : words) {
+    entries.emplace_back(NameKey(word.word), word.word);
+    entries.emplace_back(ParametersKey(word.word), word.parameters);
+  }
+  settings.SaveSettings(kSection, entries);
 }
 
 void DeleteScriptWord(SettingsStore& settings, const std::string& word) {

@@ -19,6 +19,8 @@ struct ScriptWord {
 std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings);
 
 void WriteScriptWord(SettingsStore& settings, const ScriptWord& word);
+/// All of them or none.
+void WriteScriptWords(SettingsStore& settings, const std::vector<ScriptWord>& words);
 void DeleteScriptWord(SettingsStore& settings, const std::string& word);
 
 }  // namespace tessel

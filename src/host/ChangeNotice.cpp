@@ -1,0 +1,95 @@
+#include "host/ChangeNotice.h"
+
+#include <QFile>
+#include <QHBoxLayout>
+
+#include "documents/DocumentSlots.h"
+#include "platform/Paths.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+namespace {
+
+// A file that is being written changes several times; the notice waits until it has settled.
+constexpr int kSettleMilliseconds = 200;
+
+}  // namespace
+
+ChangeNotice::ChangeNotice(TesselWidget& control, GuardedFiles& files, QWidget* parent)
+    : QFrame(parent),
+      control_(control),
+      files_(files),
+      text_(new QLabel(this)),
+      reload_(new QPushButton(tr("&Reload"), this)),
+      keep_(new QPushButton(tr("&Keep Mine"), this)) {
+  setFrameShape(QFrame::StyledPanel);
+  setAccessibleName(tr("File changed"));
+  setBackgroundRole(QPalette::ToolTipBase);
+  setForegroundRole(QPalette::ToolTipText);
+  setAutoFillBackground(true);
+  text_->setForegroundRole(QPalette::ToolTipText);
+  text_->setTextFormat(Qt::PlainText);
+  text_->setWordWrap(true);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(8, 4, 8, 4);
+  row->addWidget(text_, 1);
+  row->addWidget(reload_);
+  row->addWidget(keep_);
+  hide();
+
+  settle_.setSingleShot(true);
+  settle_.setInterval(kSettleMilliseconds);
+  connect(&settle_, &QTimer::timeout, this, &ChangeNotice::Check);
+  connect(&watcher_, &QFileSystemWatcher::fileChanged, this, [this] { settle_.start(); });
+  connect(&control_, &TesselWidget::documentChanged, &settle_, qOverload<>(&QTimer::start));
+  connect(reload_, &QPushButton::clicked, this, &ChangeNotice::Reload);
+  connect(keep_, &QPushButton::clicked, this, &ChangeNotice::KeepMine);
+}
+
+std::string ChangeNotice::CurrentPath() const {
+  const TabStrip& tabs = control_.Tessel().Controls().tbsRtb;
+  const std::string& tag = tabs.At(tabs.Selected()).tag;
+  return tag == kUntitled ? std::string() : tag;
+}
+
+void ChangeNotice::WatchOpenFiles() {
+  const TabStrip& tabs = control_.Tessel().Controls().tbsRtb;
+  QStringList paths;
+  for (int tab = 1; tab <= tabs.Count(); ++tab) {
+    const QString path = QFile::decodeName(tabs.At(tab).tag.c_str());
+    if (QFile::exists(path)) paths += path;
+  }
+  const QStringList watched = watcher_.files();
+  for (const QString& path : watched) {
+    if (!paths.contains(path)) watcher_.removePath(path);
+  }
+  for (const QString& path : paths) {
+    if (!watched.contains(path)) watcher_.addPath(path);
+  }
+}
+
+void ChangeNotice::Check() {
+  WatchOpenFiles();
+  const std::string path = CurrentPath();
+  const bool changed = !path.empty() && files_.ChangedByOthers(path);
+  if (changed) {
+    const bool gone = !DiskStateOf(path).exists;
+    const QString name = ShownName(NameOfPath(path, files_.Separator()));
+    text_->setText(gone ? tr("%1 is gone from the disk. The text is still here.").arg(name)
+                        : tr("%1 has been changed by another program.").arg(name));
+    reload_->setVisible(!gone);
+  }
+  setVisible(changed);
+}
+
+void ChangeNotice::Reload() {
+  control_.Tessel().ReloadDocument();
+  Check();
+}
+
+void ChangeNotice::KeepMine() {
+  files_.Accept(CurrentPath());
+  Check();
+}
+
+}  // namespace tessel

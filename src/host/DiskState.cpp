@@ -1,0 +1,48 @@
+#include "host/DiskState.h"
+
+#include <sys/stat.h>
+
+#include "platform/PathResolution.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+namespace tessel {
+
+DiskState DiskStateOf(const std::string& path) {
+  struct stat found {};
+  if (stat(posix::ResolveIgnoringCase(path).c_str(), &found) != 0) return {};
+  return {true,          found.st_dev,         found.st_ino,
+          found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
+}
+
+std::string GuardedFiles::Read(const std::string& path) {
+  const DiskState before = DiskStateOf(path);  // a change while reading is a change
+  std::string bytes = files_.Read(path);
+  known_[path] = before;
+  return bytes;
+}
+
+void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
+  if (ChangedByOthers(path) && DiskStateOf(path).exists && files_.Read(path) != bytes) {
+    throw RuntimeError(NameOfPath(path, Separator()) +
+                       " has not been saved: another program has changed the file since it was "
+                       "opened. Choose Reload or Keep Mine above the text first.");
+  }
+  files_.Write(path, bytes);
+  Accept(path);
+}
+
+void GuardedFiles::SetAttributesNormal(const std::string& path) {
+  const bool changed = ChangedByOthers(path);
+  files_.SetAttributesNormal(path);
+  if (!changed && known_.contains(path)) Accept(path);
+}
+
+bool GuardedFiles::ChangedByOthers(const std::string& path) const {
+  const auto known = known_.find(path);
+  return known != known_.end() && known->second != DiskStateOf(path);
+}
+
+void GuardedFiles::Accept(const std::string& path) { known_[path] = DiskStateOf(path); }
+
+}  // namespace tessel
