@@ -259,22 +259,11 @@ RC_GTEST_PROP(ConversionProperties, AFailureLeavesTheDocumentAsItWas,
   RC_ASSERT(editor.Left() == 0 && editor.Visible());
 }
 
-// --- The template of the older dialect
+// --- The templates
 
 std::string TemplateText(const std::string& name) {
   std::ifstream file(std::string(TESSEL_TEST_DATA_DIR) + "/" + name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-TEST_F(Converting, FindsTheTextOfEveryStepInTheTemplate) {
-  Editor().SetText(TemplateText("zmuser.dat"));
-  ASSERT_GT(Editor().Length(), 0);
-  const auto results = Convert();
-  ASSERT_EQ(results.size(), 52u);
-  for (const StepResult& result : results) {
-    EXPECT_TRUE(result.found) << result.step << ": " << result.sought;
-    EXPECT_TRUE(result.changed) << result.step << ": " << result.sought;
-  }
 }
 
 TEST_F(Converting, RefusesTheConvertedTemplate) {
