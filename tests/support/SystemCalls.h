@@ -50,9 +50,9 @@ class DisturbedChild {
     int count;
     long number;
   };
-  static constexpr std::array<long, 8> kNotOfFiles = {
-      SYS_brk,   SYS_mmap,      SYS_munmap,     SYS_mprotect,
-      SYS_futex, SYS_getrandom, SYS_exit_group, SYS_rt_sigprocmask};
+  static constexpr std::array<long, 9> kNotOfFiles = {
+      SYS_brk,         SYS_mmap,      SYS_munmap,     SYS_mprotect,      SYS_futex,
+      SYS_sigaltstack, SYS_getrandom, SYS_exit_group, SYS_rt_sigprocmask};
 
   template <class OnEntry>
   Outcome Trace(OnEntry onEntry) {
