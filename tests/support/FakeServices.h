@@ -41,10 +41,12 @@ class FakeMessageBox : public MessageBox {
 
   std::vector<Shown> shown;
   std::deque<MessageAnswer> answers;
+  std::function<void()> meanwhile;  ///< runs while a box is open
 
   MessageAnswer Show(const std::string& text, MessageIcon icon, const std::string& title,
                      MessageButtons buttons) override {
     shown.push_back({text, icon, title, buttons});
+    if (meanwhile) meanwhile();
     return TakeFirst(answers).value_or(Default(buttons));
   }
 
@@ -70,9 +72,11 @@ class FakeFileDialogs : public FileDialogs {
 
   std::vector<FileDialogRequest> requests;
   std::deque<Answer> answers;
+  std::function<void()> meanwhile;  ///< runs while a dialog is open
 
   Answer Show(const FileDialogRequest& request) override {
     requests.push_back(request);
+    if (meanwhile) meanwhile();
     return TakeFirst(answers).value_or(std::nullopt);
   }
 };
