@@ -99,6 +99,14 @@ TEST_P(SettingsStoreTest, ReturnsEntriesInTheOrderOfFirstWriting) {
               ElementsAre(Pair("m", "1"), Pair("a", "1"), Pair("Z", "and anew")));
 }
 
+TEST_P(SettingsStoreTest, SavesManyEntriesInTheirOrder) {
+  store->SaveSetting("s", "b", "old");
+  store->SaveSettings("S", {{"c", "1"}, {"B", "2"}, {"a", "3"}});
+  EXPECT_THAT(store->GetAllSettings("s"),
+              ElementsAre(Pair("b", "2"), Pair("c", "1"), Pair("a", "3")));
+  EXPECT_NO_THROW(store->SaveSettings("s", {}));
+}
+
 TEST_P(SettingsStoreTest, KeepsAnyBytes) {
   std::string bytes;
   for (int i = 0; i < 256; ++i) bytes += static_cast<char>(i);

@@ -133,6 +133,17 @@ TEST_F(SqliteSettingsStoreTest, LosesNothingWhenSeveralProgramsStartAndWriteAtOn
   EXPECT_EQ(SqliteSettingsStore(path).GetAllSettings("s").size(), kPrograms * kWritings);
 }
 
+TEST_F(SqliteSettingsStoreTest, SavesAllOfManyEntriesOrNone) {
+  SqliteSettingsStore store(path);
+  RunSql(path,
+         "CREATE TRIGGER refuse BEFORE INSERT ON settings WHEN NEW.key = CAST('bad' AS BLOB)"
+         " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+  EXPECT_THROW(store.SaveSettings("s", {{"good", "1"}, {"bad", "2"}}), RuntimeError);
+  EXPECT_THAT(store.GetAllSettings("s"), IsEmpty());
+  store.SaveSettings("s", {{"good", "1"}, {"better", "2"}});
+  EXPECT_EQ(SqliteSettingsStore(path).GetAllSettings("s").size(), 2U);
+}
+
 // --- What cannot be used
 
 TEST_F(SqliteSettingsStoreTest, RefusesAFileThatIsNoDatabase) {
