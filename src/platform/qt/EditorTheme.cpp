@@ -56,7 +56,7 @@ EditorTheme ThemeOf(const QPalette& palette, QPalette::ColorGroup group) {
   theme.text = palette.color(group, QPalette::Text);
   theme.selection = palette.color(group, QPalette::Highlight);
   theme.selectedText = palette.color(group, QPalette::HighlightedText);
-  theme.currentLine = Mixed(theme.background, theme.selection, 0.08);
+  theme.currentLine = Mixed(theme.background, theme.selection, 0.12);
   theme.marginBackground = Mixed(theme.background, theme.text, 0.04);
   theme.marginText = ReadableOn(Mixed(theme.text, theme.background, 0.5), theme.marginBackground,
                                 theme.marginBackground);

@@ -13,6 +13,7 @@ ScintillaView::ScintillaView(RichTextBox& model, Clipboard& clipboard, QWidget* 
     : QsciScintillaBase(parent),
       model_(model),
       clipboard_(clipboard),
+      accessibility_(*this),
       document_(*this),
       edits_(document_) {
   SetUp();
@@ -21,7 +22,7 @@ ScintillaView::ScintillaView(RichTextBox& model, Clipboard& clipboard, QWidget* 
             OnModified(position, type, length);
           });
   connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this] { OnUpdated(); });
-  connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { ShowLineNumbers(); });
+  connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { FitLineNumbers(); });
 
   model_.Store().SetView(this);
   const auto follow = [this] {

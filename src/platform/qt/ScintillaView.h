@@ -12,6 +12,7 @@
 
 #include "platform/RichTextBox.h"
 #include "platform/Services.h"
+#include "platform/qt/ScintillaViewAccessibility.h"
 #include "platform/qt/ScintillaViewDocument.h"
 #include "platform/qt/ScintillaViewEdits.h"
 
@@ -88,6 +89,7 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   void ShowSelection();
   void ShowOrHideSelection();
   void ShowLineNumbers();
+  void FitLineNumbers();
 
   // --- From Scintilla
   void OnModified(int position, int type, int length);
@@ -123,10 +125,10 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   void UnbindKeys();
   void SetUpFont();
   void ApplyTheme();
-  void ListenForAccessibility();
 
   RichTextBox& model_;
   Clipboard& clipboard_;
+  ScintillaViewAccessibility accessibility_;
   ScintillaViewDocument document_;
   ScintillaViewEdits edits_;
   std::vector<Subscription> subscriptions_;
@@ -141,6 +143,7 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   std::optional<RichTextBox::Gesture> gesture_;
   bool selectionHidden_ = false;
   QPoint popupPosition_;
+  qsizetype digits_ = 0;  // of the line numbers
   QLabel* preedit_ = nullptr;
 };
 

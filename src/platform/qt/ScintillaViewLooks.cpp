@@ -1,5 +1,4 @@
 // How a ScintillaView is set up, and how it looks.
-#include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QFontDatabase>
@@ -17,7 +16,7 @@ using Sci = QsciScintillaBase;
 
 constexpr unsigned long kLineNumbers = 0;  // the margin's number
 constexpr int kPadding = 8;
-constexpr int kFewestDigits = 3;
+constexpr qsizetype kFewestDigits = 3;
 
 struct Setting {
   unsigned int message;
@@ -92,22 +91,15 @@ void ScintillaView::SetUp() {
     SendScintilla(setting.message, setting.value, setting.second);
   }
   UnbindKeys();
-  ListenForAccessibility();
   SetUpFont();
   ApplyTheme();
+  ShowLineNumbers();
 }
 
 void ScintillaView::UnbindKeys() {
   for (const Key& key : kUnboundKeys) {
     SendScintilla(SCI_CLEARCMDKEY, static_cast<unsigned long>(key.code | key.modifiers << 16));
   }
-}
-
-void ScintillaView::ListenForAccessibility() {
-  unsigned long events = SC_MOD_BEFOREINSERT | SC_MOD_BEFOREDELETE;
-  // These make QScintilla tell the screen reader, at a cost that grows with the caret's position.
-  if (QAccessible::isActive()) events |= SC_MOD_INSERTTEXT | SC_MOD_DELETETEXT;
-  SendScintilla(SCI_SETMODEVENTMASK, events);
 }
 
 void ScintillaView::SetUpFont() {
@@ -135,17 +127,21 @@ void ScintillaView::ApplyTheme() {
   SendScintilla(SCI_SETSELFORE, 1UL, theme.selectedText);
   SendScintilla(SCI_SETCARETFORE, theme.text);
   SendScintilla(SCI_SETCARETLINEBACK, theme.currentLine);
-  ShowLineNumbers();
 }
 
 void ScintillaView::ShowLineNumbers() {
-  const auto lines = QByteArray::number(static_cast<qlonglong>(SendScintilla(SCI_GETLINECOUNT)));
-  const QByteArray widest(std::max<qsizetype>(kFewestDigits, lines.size()), '9');
+  const auto lines = static_cast<qlonglong>(SendScintilla(SCI_GETLINECOUNT));
+  const auto digits = std::max(kFewestDigits, QByteArray::number(lines).size());
+  if (digits == digits_) return;
+  digits_ = digits;
+  FitLineNumbers();
+}
+
+void ScintillaView::FitLineNumbers() {
+  const QByteArray widest(digits_, '9');
   const long width =
-      SendScintilla(SCI_TEXTWIDTH, static_cast<uintptr_t>(STYLE_LINENUMBER), widest.constData()) +
-      2 * kPadding;
-  if (width == SendScintilla(SCI_GETMARGINWIDTHN, kLineNumbers)) return;
-  SendScintilla(SCI_SETMARGINWIDTHN, kLineNumbers, width);
+      SendScintilla(SCI_TEXTWIDTH, static_cast<uintptr_t>(STYLE_LINENUMBER), widest.constData());
+  SendScintilla(SCI_SETMARGINWIDTHN, kLineNumbers, width + kPadding + kPadding / 2);
 }
 
 void ScintillaView::changeEvent(QEvent* event) {
@@ -163,7 +159,6 @@ void ScintillaView::changeEvent(QEvent* event) {
 
 void ScintillaView::focusInEvent(QFocusEvent* event) {
   QsciScintillaBase::focusInEvent(event);
-  ListenForAccessibility();
   ApplyTheme();
   ShowOrHideSelection();
 }
