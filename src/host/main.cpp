@@ -6,9 +6,11 @@
 
 #include "host/MainWindow.h"
 #include "host/Options.h"
+#include "host/StarterWords.h"
 #include "platform/FallbackSettingsStore.h"
 #include "platform/LinearCongruentialRandom.h"
 #include "platform/PosixFiles.h"
+#include "platform/RuntimeError.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBox.h"
@@ -20,6 +22,22 @@ namespace tessel {
 namespace {
 
 constexpr QSize kDefaultSize(1000, 760);
+
+/// For a picture nobody is there to answer: the sentence goes to standard error, and every question
+/// is cancelled.
+class WrittenMessages : public MessageBox {
+ public:
+  MessageAnswer Show(const std::string& text, MessageIcon, const std::string&,
+                     MessageButtons buttons) override {
+    std::cerr << "zanth-manager: " << text << "\n";
+    ++written_;
+    return buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kCancel;
+  }
+  bool Any() const { return written_ > 0; }
+
+ private:
+  int written_ = 0;
+};
 
 /// Leaves a picture of the window and says whether that worked.
 bool TakePicture(MainWindow& window, const std::string& file) {
@@ -36,7 +54,10 @@ int Run(const Options& options) {
     problems += ShownName(problem);
     std::cerr << "zanth-manager: " << problem << "\n";
   });
-  QtMessageBox messages;
+  const bool picture = !options.screenshot.empty();
+  QtMessageBox boxes;
+  WrittenMessages written;
+  MessageBox& messages = picture ? static_cast<MessageBox&>(written) : boxes;
   QtFileDialogs fileDialogs;
   QtModalForms forms;
   QtClipboard clipboard;
@@ -50,14 +71,18 @@ int Run(const Options& options) {
       messages, fileDialogs,          forms, clipboard, settings, pointer, files, random, focus,
       loop,     options.hostDirectory};
 
+  try {
+    FillEmptyWordList(settings, files, options.hostDirectory);
+  } catch (const RuntimeError& error) {
+    problems += ShownName(error.what());
+  }
   MainWindow window(services, widgets);
-  const bool picture = !options.screenshot.empty();
   window.resize(options.size.value_or(kDefaultSize));
   if (!picture) window.RestoreLook();
   if (options.size) window.resize(*options.size);
   window.show();
   window.OpenFiles(options.files);
-  if (picture) return TakePicture(window, options.screenshot) ? 0 : 1;
+  if (picture) return TakePicture(window, options.screenshot) && !written.Any() ? 0 : 1;
 
   if (!problems.isEmpty()) window.ShowNotice(problems.first());
   return QApplication::exec();

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/ControlView.h"
 #include "platform/qt/QtText.h"
 
@@ -25,14 +26,27 @@ void ComboBoxView::MakeEditable() {
   // focus leaves. Here only a pick is a pick.
   setDuplicatesEnabled(true);
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-  connect(lineEdit(), &QLineEdit::textEdited, this,
-          [this](const QString& text) { model_.Type(TypedBytes(text)); });
+  connect(lineEdit(), &QLineEdit::textEdited, this, &ComboBoxView::Typed);
+}
+
+// The model passes through states between the old text and the new one, which are not drawn: the
+// caret stays where the person types.
+void ComboBoxView::Typed(const QString& text) {
+  const int caret = lineEdit()->cursorPosition();
+  {
+    const ScopeGuard done([this] { typing_ = false; });
+    typing_ = true;
+    model_.Type(TypedBytes(text));
+  }
+  Draw();
+  if (lineEdit()->text() == text) lineEdit()->setCursorPosition(caret);
 }
 
 // Scrolling the panel must not change values on the way.
 void ComboBoxView::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void ComboBoxView::Draw() {
+  if (typing_) return;
   const QSignalBlocker quiet(this);
   if (model_.List() != shown_) {
     const QString text = currentText();
@@ -47,8 +61,6 @@ void ComboBoxView::Draw() {
 
 void ComboBoxView::DrawText() {
   const QString text = ShownText(model_.Text());
-  const int caret = isEditable() ? lineEdit()->cursorPosition() : 0;
-  const QString before = isEditable() ? lineEdit()->text() : QString();
   if (currentIndex() != model_.ListIndex()) setCurrentIndex(model_.ListIndex());
   if (!isEditable()) {
     // What stays in the box while no entry is selected.
@@ -56,7 +68,6 @@ void ComboBoxView::DrawText() {
     return;
   }
   if (lineEdit()->text() != text) setEditText(text);
-  if (text == before) lineEdit()->setCursorPosition(caret);
 }
 
 }  // namespace tessel

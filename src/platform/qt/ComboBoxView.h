@@ -22,11 +22,13 @@ class ComboBoxView : public QComboBox {
 
  private:
   void MakeEditable();
+  void Typed(const QString& text);
   void Draw();
   void DrawText();
 
   ComboBox& model_;
   std::vector<std::string> shown_;
+  bool typing_ = false;
   Subscription refresh_;
 };
 

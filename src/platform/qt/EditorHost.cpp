@@ -21,13 +21,27 @@ EditorHost::EditorHost(QWidget* parent) : QFrame(parent), inside_(new QWidget(th
 
 void EditorHost::Place(QWidget& editor, const RichTextBox& model) {
   const bool shown = InSight(model);
-  if (shown) editor.setGeometry(PixelGeometry(model, *this));
+  if (shown) {
+    editor.setGeometry(PixelGeometry(model, *this));
+    inSight_ = &editor;
+  }
   ShowOrHide(editor, shown);
   EnableOrDisable(editor, model.Enabled());
-  if (shown && window()->focusWidget() == inside_) editor.setFocus(Qt::OtherFocusReason);
+  PassFocusOn();
 }
 
-void EditorHost::Release(QWidget& editor) { ShowOrHide(editor, false); }
+void EditorHost::Release(QWidget& editor) {
+  ShowOrHide(editor, false);
+  PassFocusOn();
+}
+
+// Hiding an editor leaves the focus inside of the host. The next one may be in sight already.
+void EditorHost::PassFocusOn() {
+  const bool waiting = window()->focusWidget() == inside_;
+  if (waiting && inSight_ != nullptr && !inSight_->isHidden()) {
+    inSight_->setFocus(Qt::OtherFocusReason);
+  }
+}
 
 void EditorHost::resizeEvent(QResizeEvent*) {
   const int border = TwipsToPixels(kBorder, logicalDpiX());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 #include "platform/Control.h"
 
@@ -29,7 +30,10 @@ class EditorHost : public QFrame {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void PassFocusOn();
+
   QWidget* inside_;
+  QPointer<QWidget> inSight_;
 };
 
 }  // namespace tessel

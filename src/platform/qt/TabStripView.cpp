@@ -54,7 +54,8 @@ void TabStripView::DrawTab(int tab) {
     bar_->setTabText(index, WithoutMnemonics(caption));
   }
   bar_->setTabToolTip(index, ShownName(shown.tag));
-  bar_->setAccessibleTabName(index, modified ? caption + tr(", modified") : caption);
+  const QString name = caption.isEmpty() ? tr("Empty document") : caption;
+  bar_->setAccessibleTabName(index, modified ? name + tr(", modified") : name);
   if (bar_->tabData(index).toString().toStdString() != shown.image) {
     bar_->setTabIcon(index, shown.image.empty() ? QIcon() : DotIcon(modified));
     bar_->setTabData(index, QString::fromStdString(shown.image));

@@ -193,7 +193,11 @@ bool TesselWidget::eventFilter(QObject* watched, QEvent* event) {
     return false;
 
   const auto& key = *static_cast<QKeyEvent*>(event);
-  if (event->type() == QEvent::KeyPress) return TakeKey(key);
+  if (event->type() == QEvent::KeyPress) {
+    // A key that nobody takes comes by again at each parent of its first receiver.
+    const QWidget* first = QApplication::focusWidget();
+    return (first == nullptr || first == watched) && TakeKey(key);
+  }
   // The control's own keys are no shortcuts of the window around it.
   if (!IsControlKey(key)) return false;
   event->accept();

@@ -29,7 +29,7 @@ constexpr Role kRoles[] = {
     {QPalette::LinkVisited, "#6b4fa0", "#b79cf0"},
     {QPalette::Light, "#ffffff", "#3a3f48"},
     {QPalette::Midlight, "#f3f5f8", "#30343b"},
-    {QPalette::Mid, "#c3cad3", "#15171b"},
+    {QPalette::Mid, "#c3cad3", "#474d58"},
     {QPalette::Dark, "#a2acb8", "#101215"},
     {QPalette::Shadow, "#7a8592", "#08090b"},
 };
