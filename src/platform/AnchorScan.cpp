@@ -23,7 +23,9 @@ constexpr std::array<unsigned char, 256> MakeRarity() {
   std::array<unsigned char, 256> rarity{};
   rarity.fill(static_cast<unsigned char>(kCommonBytes.size()));
   for (std::size_t i = 0; i < kCommonBytes.size(); ++i) {
-    rarity[static_cast<unsigned char>(kCommonBytes[i])] = static_cast<unsigned char>(i);
+    const auto byte = static_cast<unsigned char>(kCommonBytes[i]);
+    rarity[byte] = static_cast<unsigned char>(i);
+    if (byte >= 'a' && byte <= 'z') rarity[byte - 'a' + 'A'] = static_cast<unsigned char>(i);
   }
   return rarity;
 }
@@ -180,7 +182,7 @@ Anchors::Anchors(std::string_view wanted, bool matchCase) {
   int rarity = -1;
   int nextRarity = -1;
   for (std::size_t i = 0; i < std::min(wanted.size(), kAnchorReach); ++i) {
-    const int here = kRarity[ToLowerByte(static_cast<unsigned char>(wanted[i]))];
+    const int here = kRarity[static_cast<unsigned char>(wanted[i])];
     if (here > rarity) {
       nextRarest = rarity < 0 ? i : rarest;
       nextRarity = rarity;

@@ -40,9 +40,11 @@ Position FindText(std::string_view text, std::string_view wanted, Position start
   for (Position at = start; at <= last; ++at) {
     at = ScanForAnchors(text.data(), at, last, anchors);
     if (at > last) break;
+    // The neighbours first: they rule out most words that merely begin like the wanted one.
+    if (wholeWord && !StandsAlone(text, at, length)) continue;
     const bool equal =
         matchCase ? text.compare(at, length, wanted) == 0 : EqualFolded(text.data() + at, wanted);
-    if (equal && (!wholeWord || StandsAlone(text, at, length))) return at;
+    if (equal) return at;
   }
   return kNotFound;
 }
