@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "drive/HeadlessPlayer.h"
+#include "drive/Session.h"
+#include "platform/HeadlessServices.h"
+#include "platform/LinearCongruentialRandom.h"
+#include "platform/MemorySettingsStore.h"
+#include "platform/PosixFiles.h"
+
+namespace tessel::drive {
+namespace {
+
+/// The replies to all lines of a conversation without a screen.
+std::vector<Json> Replies(const std::string& input) {
+  MemorySettingsStore settings;
+  PosixFiles files;
+  MemoryClipboard clipboard;
+  IdleMessageLoop loop;
+  std::istringstream in(input);
+  std::ostringstream out;
+  HeadlessPlayer player;
+  try {
+    Session session(in, out);
+    Stage stage({settings, files, clipboard, loop,
+                 [] { return std::make_unique<LinearCongruentialRandom>(); }, "/nowhere"},
+                player, session);
+    session.Run(stage);
+  } catch (const Left&) {
+  }
+  std::vector<Json> replies;
+  std::istringstream lines(out.str());
+  for (std::string line; std::getline(lines, line);) replies.push_back(Json::parse(line));
+  return replies;
+}
+
+const std::string kOpenFind = R"({"do":"click","control":"tbToolBar","key":"Find"})"
+                              "\n";
+const std::string kCancel = R"({"do":"click","control":"cmdCancel"})"
+                            "\n";
+const std::string kState = R"({"do":"state"})"
+                           "\n";
+
+std::string FirstEvent(const Json& reply) { return reply.at("events").at(0).at("event"); }
+
+TEST(DriveSession, AnswersEveryLineOnceAlsoABadOne) {
+  const auto replies = Replies("{}\nnonsense\n\n" + kState);
+  ASSERT_EQ(replies.size(), 4u);
+  EXPECT_EQ(replies[0].at("ok"), false);
+  EXPECT_EQ(replies[1].at("ok"), false);
+  EXPECT_EQ(replies[2].at("ok"), false);
+  EXPECT_EQ(replies[3].at("ok"), true);
+}
+
+TEST(DriveSession, AnswersTheCommandThatOpensAFormAtOnce) {
+  const auto replies = Replies(kOpenFind + kState + kCancel + kState);
+  ASSERT_EQ(replies.size(), 4u);
+  EXPECT_EQ(FirstEvent(replies[0]), "modal");
+  EXPECT_TRUE(replies[1].contains("state"));
+  EXPECT_EQ(FirstEvent(replies[2]), "modal closed");
+  EXPECT_TRUE(replies[3].contains("state"));
+}
+
+TEST(DriveSession, AnswersTheCommandThatClosesAFormWhenWhatFollowsHasRun) {
+  const auto replies = Replies(kOpenFind +
+                               R"({"do":"type","control":"cboFind","text":"x"})"
+                               "\n" +
+                               R"({"do":"click","control":"cmdFind"})"
+                               "\n");
+  ASSERT_EQ(replies.size(), 3u);
+  const Json& events = replies[2].at("events");
+  ASSERT_EQ(events.size(), 2u);
+  EXPECT_EQ(events[0].at("event"), "modal closed");
+  EXPECT_EQ(events[1].at("text"), "x not found.");
+}
+
+TEST(DriveSession, ServesACommandAfterAFormWasOpenedTwice) {
+  const auto replies = Replies(kOpenFind + kCancel + kOpenFind + kCancel + kState);
+  ASSERT_EQ(replies.size(), 5u);
+  EXPECT_EQ(FirstEvent(replies[2]), "modal");
+  EXPECT_TRUE(replies[4].contains("state"));
+}
+
+TEST(DriveSession, EndsInsideAFormWithTheInputOrWithQuit) {
+  EXPECT_EQ(Replies(kOpenFind).size(), 1u);
+  const auto replies = Replies(kOpenFind +
+                               R"({"do":"quit"})"
+                               "\n" +
+                               kState);
+  ASSERT_EQ(replies.size(), 2u);
+  EXPECT_EQ(replies[1].at("ok"), true);
+}
+
+}  // namespace
+}  // namespace tessel::drive
