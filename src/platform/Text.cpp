@@ -87,7 +87,7 @@ std::string AsciiUpper(std::string_view text) {
 }
 
 bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) {
-  return AsciiLower(a) == AsciiLower(b);
+  return a.size() == b.size() && AsciiLower(a) == AsciiLower(b);
 }
 
 bool IsWordByte(unsigned char byte) {

@@ -34,7 +34,8 @@ void WordSearch::SearchPrefixes(std::string_view text, const std::vector<std::st
       return EqualIgnoringAsciiCase(std::string_view(word).substr(0, k), prefix);
     });
     LastPrefixMatched = match != words.end();
-    if (LastPrefixMatched) LastMatchIndex = static_cast<int>(match - words.begin());
+    if (!LastPrefixMatched) return;  // nor does any word share more
+    LastMatchIndex = static_cast<int>(match - words.begin());
   }
 }
 
