@@ -21,6 +21,10 @@ std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings) {
   return words;
 }
 
+bool HasScriptWordEntries(SettingsStore& settings) {
+  return !settings.GetAllSettings(kSection).empty();
+}
+
 void WriteScriptWord(SettingsStore& settings, const ScriptWord& word) {
   WriteScriptWords(settings, {word});
 }

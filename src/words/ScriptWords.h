@@ -17,6 +17,8 @@ struct ScriptWord {
 /// The words of the store, in its order. Every stored value that is not empty and holds no "[" is a
 /// word: that mark alone tells parameter texts from words.
 std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings);
+/// True when the store holds anything at all in the words' section, be it a word or not.
+bool HasScriptWordEntries(SettingsStore& settings);
 
 void WriteScriptWord(SettingsStore& settings, const ScriptWord& word);
 /// All of them or none.

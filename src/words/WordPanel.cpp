@@ -18,6 +18,7 @@ void WordPanel::LoadWordList() {
   controls_.lstWords.Clear();
   wordParams_.clear();
   try {
+    if (!HasScriptWordEntries(services_.settings)) return;
     for (const ScriptWord& word : ReadScriptWords(services_.settings)) {
       controls_.lstWords.AddItem(word.word);
       wordParams_.push_back(word.parameters);
