@@ -1,5 +1,6 @@
 #include "documents/RecentFiles.h"
 
+#include "platform/RuntimeError.h"
 #include "platform/Text.h"
 
 namespace tessel {
@@ -29,7 +30,10 @@ void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string&
 
 void LoadRecentFiles(Toolbar& toolbar, SettingsStore& settings) {
   for (const auto& [key, value] : settings.GetAllSettings(kSection)) {
-    AddRecentFile(toolbar, settings, ToUpperText(key), ToUpperText(value));
+    try {
+      AddRecentFile(toolbar, settings, ToUpperText(key), ToUpperText(value));
+    } catch (const RuntimeError&) {  // on the list, but not in the store: the next entry
+    }
   }
 }
 

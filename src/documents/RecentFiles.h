@@ -13,7 +13,7 @@ namespace tessel {
 void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string& name,
                    const std::string& path);
 
-/// Rebuilds the list from the store.
+/// Rebuilds the list from the store. An entry that cannot be written back is listed all the same.
 void LoadRecentFiles(Toolbar& toolbar, SettingsStore& settings);
 
 }  // namespace tessel
