@@ -138,9 +138,11 @@ void ucTessel::RunCommand(const std::function<void()>& command) {
 
 void ucTessel::ShowError(const std::string& text) {
   services_.pointer.SetShape(PointerShape::kDefault);
-  RichTextBox& editor = CurrentEditor(controls_);
-  editor.SetLeft(0);
-  editor.SetVisible(true);
+  // A file that was being opened may have its editor hidden beside the current one.
+  for (int slot = 0; slot < controls_.rtbCon.Count(); ++slot) {
+    controls_.rtbCon[slot].SetVisible(true);
+  }
+  CurrentEditor(controls_).SetLeft(0);
   services_.messages.Show(text, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
 }
 
