@@ -1,5 +1,7 @@
 #include "words/ScriptWords.h"
 
+#include "platform/RuntimeError.h"
+
 namespace tessel {
 namespace {
 
@@ -7,6 +9,14 @@ constexpr const char* kSection = "ConWords";
 
 std::string NameKey(const std::string& word) { return "NAME" + word; }
 std::string ParametersKey(const std::string& word) { return "PARAMS" + word; }
+
+std::string ReadParameters(SettingsStore& settings, const std::string& word) {
+  try {
+    return settings.GetSetting(kSection, ParametersKey(word)).value_or("");
+  } catch (const RuntimeError&) {
+    return {};
+  }
+}
 
 }  // namespace
 
@@ -16,7 +26,7 @@ std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings) {
     if (!value.empty() && value.find('[') == value.npos) words.push_back({value, {}});
   }
   for (ScriptWord& word : words) {
-    word.parameters = settings.GetSetting(kSection, ParametersKey(word.word)).value_or("");
+    word.parameters = ReadParameters(settings, word.word);
   }
   return words;
 }

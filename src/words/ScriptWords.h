@@ -15,7 +15,8 @@ struct ScriptWord {
 };
 
 /// The words of the store, in its order. Every stored value that is not empty and holds no "[" is a
-/// word: that mark alone tells parameter texts from words.
+/// word: that mark alone tells parameter texts from words. Parameters that are missing or cannot be
+/// read are empty.
 std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings);
 /// True when the store holds anything at all in the words' section, be it a word or not.
 bool HasScriptWordEntries(SettingsStore& settings);

@@ -2,9 +2,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
-#include <utility>
 
+#include "platform/MemorySettingsStore.h"
+#include "platform/RuntimeError.h"
 #include "support/ControlFixture.h"
 #include "words/ScriptWords.h"
 
@@ -169,6 +171,26 @@ TEST_F(WordPanel, SearchesAnEmptyListWithoutComplaint) {
   EXPECT_EQ(Selected(), kNoSelection);
   EXPECT_EQ(Params(), "");
   EXPECT_TRUE(CanAdd());
+}
+
+/// A store in which one entry cannot be read.
+class DamagedStore : public MemorySettingsStore {
+ public:
+  std::optional<std::string> GetSetting(const std::string& section,
+                                        const std::string& key) override {
+    if (key == "PARAMSone") throw RuntimeError("Cannot read it.");
+    return MemorySettingsStore::GetSetting(section, key);
+  }
+};
+
+TEST(ScriptWords, GoOnBehindParametersThatCannotBeRead) {
+  DamagedStore store;
+  WriteScriptWord(store, {"one", "[1]"});
+  WriteScriptWord(store, {"two", "[2]"});
+  const auto words = ReadScriptWords(store);
+  ASSERT_EQ(words.size(), 2U);
+  EXPECT_EQ(words[0].parameters, "");
+  EXPECT_EQ(words[1].parameters, "[2]");
 }
 
 }  // namespace
