@@ -214,6 +214,15 @@ TEST_F(ScintillaViewTyping, TextOfADriverIsOneUndoStep) {
   EXPECT_EQ(Displayed(), "old");
 }
 
+TEST_F(ScintillaViewTyping, TextOfADriverArrivesAsItIs) {
+  for (const char* before : {"", "x\r\n", "x\n", "x\r"}) {
+    model.SetText(before);
+    view.typeText(QStringLiteral("a\nb\rc\r\nd\te"));
+    EXPECT_EQ(model.Text(), "a\nb\rc\r\nd\te" + std::string(before));
+    EXPECT_EQ(Displayed(), model.Text());
+  }
+}
+
 TEST_F(ScintillaViewTyping, EditingKeysWork) {
   model.SetText("one two\r\nthree \x80\x93");
   Press(Qt::Key_Delete);

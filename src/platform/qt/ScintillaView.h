@@ -42,8 +42,9 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   QPoint popupPosition() const { return popupPosition_; }
 
   // --- For a driver that plays a person and looks at the screen. They read the widget.
-  /// Sends a key press and release for each character; a line end of any kind is the Return key,
-  /// and a character that no key makes comes as from an input method. One undo step.
+  /// Sends a key press and release for each character, and Return for a line end of the kind that
+  /// it inserts; what no key makes (a control character, another line end) comes as from an input
+  /// method, so that exactly this text arrives. One undo step.
   void typeText(const QString& text);
   QByteArray displayedBytes();
   /// Start and length in bytes.
@@ -112,6 +113,8 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   void LeaveForwards();
   void LeaveBackwards();
   void ShowMenuAtCaret();
+  /// The break that the Return key inserts: the first one of the text, else CR LF.
+  std::string_view LineEndOfText() const;
   void UseLineEndOfText();
   void MoveCaretForMenu(QPoint at);
   void PasteFromMouse(QPoint at);

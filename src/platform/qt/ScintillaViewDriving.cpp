@@ -9,16 +9,17 @@
 namespace tessel {
 namespace {
 
-struct Press {
-  int key = 0;
-  QString text;
-};
+void Press(QWidget& widget, int key, const QString& text) {
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(&widget, &event);
+  }
+}
 
-std::optional<Press> PressFor(QChar c) {
-  if (c == '\r' || c == '\n') return Press{Qt::Key_Return, QStringLiteral("\r")};
-  if (c == '\t') return Press{Qt::Key_Tab, QString(c)};
-  if (!c.isPrint()) return std::nullopt;
-  return Press{c.toUpper().unicode(), QString(c)};
+void Commit(QWidget& widget, const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  QCoreApplication::sendEvent(&widget, &event);
 }
 
 }  // namespace
@@ -26,17 +27,20 @@ std::optional<Press> PressFor(QChar c) {
 void ScintillaView::typeText(const QString& text) {
   ByHand([&] {
     for (qsizetype i = 0; i < text.size(); ++i) {
-      if (text[i] == '\n' && i > 0 && text[i - 1] == '\r') continue;
-      if (const auto press = PressFor(text[i])) {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-          QKeyEvent event(type, press->key, Qt::NoModifier, press->text);
-          QCoreApplication::sendEvent(this, &event);
-        }
-        continue;
+      const QChar c = text[i];
+      const bool pair = QStringView(text).mid(i, 2) == QLatin1String("\r\n");
+      const QString lineEnd = pair ? text.mid(i, 2) : QString(c);
+      if ((c == '\r' || c == '\n') && lineEnd.toStdString() == LineEndOfText()) {
+        Press(*this, Qt::Key_Return, QStringLiteral("\r"));
+        i += pair ? 1 : 0;
+      } else if (c == '\t') {
+        Press(*this, Qt::Key_Tab, lineEnd);
+      } else if (c.isPrint()) {
+        Press(*this, c.toUpper().unicode(), lineEnd);
+      } else {
+        Commit(*this, lineEnd);
+        i += pair ? 1 : 0;
       }
-      QInputMethodEvent event;
-      event.setCommitString(text.mid(i, 1));
-      QCoreApplication::sendEvent(this, &event);
     }
   });
 }

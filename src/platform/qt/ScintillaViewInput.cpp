@@ -107,12 +107,16 @@ void ScintillaView::keyPressEvent(QKeyEvent* event) {
   ByHand([&] { QsciScintillaBase::keyPressEvent(event); }, types);
 }
 
-void ScintillaView::UseLineEndOfText() {
+std::string_view ScintillaView::LineEndOfText() const {
   const std::string_view text = model_.Bytes();
   const auto at = text.find_first_of("\r\n");
-  int mode = SC_EOL_CRLF;
-  if (at != text.npos && text[at] == '\n') mode = SC_EOL_LF;
-  if (at != text.npos && text[at] == '\r' && text.substr(at, 2) != "\r\n") mode = SC_EOL_CR;
+  if (at == text.npos || text.substr(at, 2) == "\r\n") return "\r\n";
+  return text.substr(at, 1);
+}
+
+void ScintillaView::UseLineEndOfText() {
+  const std::string_view lineEnd = LineEndOfText();
+  const int mode = lineEnd == "\n" ? SC_EOL_LF : lineEnd == "\r" ? SC_EOL_CR : SC_EOL_CRLF;
   SendScintilla(SCI_SETEOLMODE, mode);
 }
 
