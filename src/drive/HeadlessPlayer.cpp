@@ -8,6 +8,12 @@ constexpr int kEscapeKey = 27;
 
 }  // namespace
 
+ucTessel& HeadlessPlayer::Open(const Services& services) {
+  control_ = std::make_unique<ucTessel>(services);
+  control_->Initialize();
+  return *control_;
+}
+
 void HeadlessPlayer::PressMenuItem(Toolbar& toolbar, const std::string& key, int item) {
   toolbar.PressMenuItem(key, item);
 }

@@ -1,6 +1,10 @@
 // The person without a screen.
 #pragma once
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "drive/Player.h"
 
 namespace tessel::drive {
@@ -47,11 +51,14 @@ class HeadlessPlayer : public Player {
   SelectedRange Selection(const RichTextBox& editor) const override;
   std::vector<ColourRun> Colours(const RichTextBox& editor) const override;
 
-  void Attach(ucTessel&) override {}
-  void Detach() override {}
+  ucTessel& Open(const Services& services) override;
+  void Close() override { control_.reset(); }
   void Resize(ucTessel& control, Twips width, Twips height) override;
   void Settle() override {}
   [[noreturn]] void Leave() override { throw Left(); }
+
+ private:
+  std::unique_ptr<ucTessel> control_;
 };
 
 }  // namespace tessel::drive

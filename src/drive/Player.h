@@ -35,7 +35,7 @@ class Gestures {
   /// Replace the whole text.
   virtual void Type(TextBox& box, const std::string& text) = 0;
   virtual void Type(ComboBox& box, const std::string& text) = 0;
-  /// Types over the selection.
+  /// Types over the selection; an empty text takes the selection away.
   virtual void Type(RichTextBox& editor, const std::string& text) = 0;
   virtual void SelectText(RichTextBox& editor, SelectedRange range) = 0;
   virtual void ReleaseMouse(RichTextBox& editor, MouseButton button) = 0;
@@ -74,10 +74,10 @@ class Sight {
 /// One platform's person.
 class Player : public Gestures, public Sight {
  public:
-  /// The control has been created and not yet been initialized.
-  virtual void Attach(ucTessel& control) = 0;
-  /// The control is about to be destroyed.
-  virtual void Detach() = 0;
+  /// Creates the control on the services, which outlive it, and runs its start-up.
+  virtual ucTessel& Open(const Services& services) = 0;
+  /// Destroys it.
+  virtual void Close() = 0;
   /// The host gives the control another size, in twips.
   virtual void Resize(ucTessel& control, Twips width, Twips height) = 0;
   /// Lets everything that is pending happen.

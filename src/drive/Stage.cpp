@@ -27,28 +27,26 @@ void Stage::Restart() {
 
 void Stage::Create() {
   random_ = world_.makeRandom();
-  control_ = std::make_unique<ucTessel>(Services{messages_, fileDialogs_, forms_, world_.clipboard,
-                                                 world_.settings, pointer_, world_.files, *random_,
-                                                 focus_, world_.loop, world_.hostDirectory});
-  player_.Attach(*control_);
   subscriptions_.push_back(pointer_.Changed.Connect([this](PointerShape shape) {
     log_.Add("pointer", {{"value", static_cast<int>(shape)}});
   }));
+  control_ =
+      &player_.Open({messages_, fileDialogs_, forms_, world_.clipboard, world_.settings, pointer_,
+                     world_.files, *random_, focus_, world_.loop, world_.hostDirectory});
   subscriptions_.push_back(control_->SettingTextColor.Connect([this](const std::string& text) {
     log_.Add("status", {{"text", FromBytes(text)}});
   }));
   subscriptions_.push_back(
       control_->Controls().mnuRtbPopup.Opened.Connect([this] { RecordPopup(); }));
-  control_->Initialize();
   player_.Resize(*control_, world_.width, world_.height);
 }
 
 void Stage::Destroy() {
   subscriptions_.clear();
-  player_.Detach();
-  control_.reset();
-  pointer_.SetShape(PointerShape::kDefault);
+  player_.Close();
+  control_ = nullptr;
   random_.reset();
+  pointer_.SetShape(PointerShape::kDefault);
 }
 
 void Stage::RecordPopup() {

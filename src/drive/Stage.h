@@ -29,8 +29,7 @@ struct World {
   Twips height = 9000;
 };
 
-/// Owns the control and the recorded services, and plays host: creates the control, initializes and
-/// sizes it.
+/// Owns the recorded services and plays host: has the control created, and sizes it.
 class Stage {
  public:
   Stage(World world, Player& player, ModalForms& forms);
@@ -70,7 +69,7 @@ class Stage {
   RecordedFocus focus_;
   std::vector<Form*> openForms_;
   std::unique_ptr<RandomNumbers> random_;
-  std::unique_ptr<ucTessel> control_;
+  ucTessel* control_ = nullptr;  // the player's
   std::vector<Subscription> subscriptions_;
   bool popupOpened_ = false;
 };

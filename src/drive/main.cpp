@@ -13,7 +13,7 @@
 #include "platform/PosixFiles.h"
 
 #ifdef TESSEL_DRIVE_QT
-#include "drive/qt/QtStage.h"
+#include "drive/qt/QtProgram.h"
 #endif
 
 using namespace tessel;
@@ -59,7 +59,12 @@ int main(int argc, char** argv) {
               options.width,
               options.height};
 #ifdef TESSEL_DRIVE_QT
-  if (options.qt) return PlayOnQt(argc, argv, std::move(world));
+  if (options.qt) {
+    const QtProgram program;
+    const auto player = MakeWidgetPlayer(clipboard);
+    Play(std::move(world), *player);
+    return 0;
+  }
 #endif
   try {
     HeadlessPlayer player;
