@@ -151,6 +151,7 @@ TEST_F(SettingsLists, JumpToTheSectionOfAWeaponCategory) {
                                             "// Weapon Strengths",
                                             "// Various blast radius distances"};
   for (int category = 0; category < 4; ++category) {
+    Current().SetHideSelection(false);
     C().lstWeapInfo.Pick(category);
     EXPECT_EQ(Current().SelText(), markers[static_cast<std::size_t>(category)]);
     EXPECT_TRUE(Current().HideSelection());
