@@ -7,10 +7,10 @@
 #include <QMimeData>
 #include <QSettings>
 #include <QStatusBar>
-#include <QStyle>
-#include <algorithm>
+#include <QVBoxLayout>
 
 #include "documents/DocumentSlots.h"
+#include "host/ChangeNotice.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScintillaView.h"
 
@@ -47,9 +47,15 @@ CaretPlace PlaceOfCaret(const ScintillaView& view) {
 
 }  // namespace
 
-MainWindow::MainWindow(const Services& services, WidgetMap& widgets)
+MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
     : control_(new TesselWidget(services, widgets, this)) {
-  setCentralWidget(control_);
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(new ChangeNotice(*control_, files, centre));
+  column->addWidget(control_, 1);
+  setCentralWidget(centre);
   setAcceptDrops(true);
   qApp->installEventFilter(this);
   BuildStatusBar();

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/DiskState.h"
 #include "platform/qt/TesselWidget.h"
 
 namespace tessel {
@@ -15,7 +16,8 @@ class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  MainWindow(const Services& services, WidgetMap& widgets);
+  /// `files` are those of the services.
+  MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files);
 
   TesselWidget& Control() { return *control_; }
   /// Opens files as the recent list does.

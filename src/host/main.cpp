@@ -1,22 +1,20 @@
 // Zanth Manager: a window around the control.
 #include <QApplication>
-#include <QMessageBox>
-#include <QTimer>
 #include <iostream>
 
+#include "host/DiskState.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
-#include "host/StarterWords.h"
 #include "platform/FallbackSettingsStore.h"
 #include "platform/LinearCongruentialRandom.h"
 #include "platform/PosixFiles.h"
-#include "platform/RuntimeError.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBox.h"
 #include "platform/qt/QtModalForms.h"
 #include "platform/qt/QtScreen.h"
 #include "platform/qt/QtText.h"
+#include "words/StarterWords.h"
 
 namespace tessel {
 namespace {
@@ -49,12 +47,16 @@ bool TakePicture(MainWindow& window, const std::string& file) {
 }
 
 int Run(const Options& options) {
-  QStringList problems;
-  FallbackSettingsStore settings(options.store, [&](const std::string& problem) {
-    problems += ShownName(problem);
-    std::cerr << "zanth-manager: " << problem << "\n";
-  });
   const bool picture = !options.screenshot.empty();
+  // It may come at any time, also inside of a command: the box waits until that is through.
+  FallbackSettingsStore settings(options.store, [picture](const std::string& problem) {
+    std::cerr << "zanth-manager: " << problem << "\n";
+    if (picture) return;
+    const auto say = [problem] {
+      QtMessageBox().Show(problem, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
+    };
+    QMetaObject::invokeMethod(qApp, say, Qt::QueuedConnection);
+  });
   QtMessageBox boxes;
   WrittenMessages written;
   MessageBox& messages = picture ? static_cast<MessageBox&>(written) : boxes;
@@ -62,7 +64,8 @@ int Run(const Options& options) {
   QtModalForms forms;
   QtClipboard clipboard;
   QtScreenPointer pointer;
-  PosixFiles files;
+  PosixFiles plainFiles;
+  GuardedFiles files(plainFiles);
   LinearCongruentialRandom random;
   WidgetMap widgets;
   QtFocus focus(widgets);
@@ -71,20 +74,14 @@ int Run(const Options& options) {
       messages, fileDialogs,          forms, clipboard, settings, pointer, files, random, focus,
       loop,     options.hostDirectory};
 
-  try {
-    FillEmptyWordList(settings, files, options.hostDirectory);
-  } catch (const RuntimeError& error) {
-    problems += ShownName(error.what());
-  }
-  MainWindow window(services, widgets);
+  OfferStarterWords(settings, files, options.hostDirectory + "/words.txt");
+  MainWindow window(services, widgets, files);
   window.resize(options.size.value_or(kDefaultSize));
   if (!picture) window.RestoreLook();
   if (options.size) window.resize(*options.size);
   window.show();
   window.OpenFiles(options.files);
   if (picture) return TakePicture(window, options.screenshot) && !written.Any() ? 0 : 1;
-
-  if (!problems.isEmpty()) window.ShowNotice(problems.first());
   return QApplication::exec();
 }
 
