@@ -147,7 +147,8 @@ Json Type(Stage& stage, const Fields& fields) {
     if (!combo->Editable()) throw Refusal("cannot be typed into");
     stage.Person().Type(*combo, text);
   } else if (auto* editor = dynamic_cast<RichTextBox*>(&control)) {
-    stage.Person().Type(*editor, text);
+    const bool nothing = text.empty() && editor->SelLength() == 0;
+    if (!nothing) stage.Person().Type(*editor, text);
   } else {
     throw Refusal("cannot be typed into");
   }

@@ -161,7 +161,7 @@ void WidgetPlayer::Type(ComboBox& box, const std::string& text) {
 void WidgetPlayer::Type(RichTextBox& editor, const std::string& text) {
   auto& view = As<ScintillaView>(editor);
   if (text.empty()) {
-    if (editor.SelLength() > 0) SendKey(view, Qt::Key_Delete);
+    SendKey(view, Qt::Key_Delete);
   } else if (text.find_first_of("\r\n") == std::string::npos) {
     view.typeText(ShownText(text));
   } else {  // the Return key makes the break that the document has; these are to come as they are
