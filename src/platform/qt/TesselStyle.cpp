@@ -129,6 +129,19 @@ void TesselStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
               hasMenu ? subControlRect(control, button, SC_ToolButtonMenu, widget) : QRect());
 }
 
+// Fusion's separators cannot be seen on a dark menu.
+void TesselStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  const bool separator = element == CE_MenuItem && item != nullptr &&
+                         item->menuItemType == QStyleOptionMenuItem::Separator &&
+                         item->text.isEmpty();
+  if (!separator) return QProxyStyle::drawControl(element, option, painter, widget);
+  const int y = option->rect.center().y();
+  painter->setPen(Theme(option->palette).Line());
+  painter->drawLine(option->rect.left() + 6, y, option->rect.right() - 6, y);
+}
+
 void TesselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
   if (element == PE_IndicatorRadioButton) return PaintOption(*painter, *option);
