@@ -2,17 +2,21 @@
 
 #include <iostream>
 
+#include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "platform/Form.h"
 
 namespace tessel::cli {
 
-void Complain(const std::string& text) { std::cerr << "tessel: " << ForTerminal(text) << '\n'; }
+void Complain(const std::string& text) {
+  HideProgress();
+  std::cerr << "tessel: " << ForTerminal(text) << '\n';
+}
 
 MessageAnswer StderrMessages::Show(const std::string& text, MessageIcon, const std::string&,
                                    MessageButtons buttons) {
   shown_ = true;
-  Complain(text);
+  Complain(prefix + text);
   return buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kNo;
 }
 

@@ -16,6 +16,8 @@ class StderrMessages : public MessageBox {
 
   bool Shown() const { return shown_; }
 
+  std::string prefix;  ///< put before each message: which of several files it is about
+
  private:
   bool shown_ = false;
 };

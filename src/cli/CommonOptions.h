@@ -8,15 +8,20 @@
 
 namespace tessel::cli {
 
-inline void AddFile(CLI::App& command, std::string& file) {
-  command.add_option("FILE", file, "the CON file")->required();
-}
+/// FILE, the CON file that a command works on.
+void AddFile(CLI::App& command, std::string& file);
 
-inline void AddDestination(CLI::App& command, Destination& destination) {
-  auto* output =
-      command.add_option("-o,--output", destination.file, "write the result to this file");
-  command.add_flag("--in-place", destination.inPlace, "write the result over the file itself")
-      ->excludes(output);
-}
+/// "-o FILE".
+CLI::Option* AddOutput(CLI::App& command, std::string& file);
+
+/// "-o FILE" or "--in-place".
+void AddDestination(CLI::App& command, Destination& destination);
+
+/// Refuses an empty value.
+void TakeFileName(CLI::Option& option);
+
+/// Makes an option's value the single-byte text of what the user typed (see FromTerminal); refuses
+/// what a CON file cannot hold.
+void TakeDocumentText(CLI::Option& option);
 
 }  // namespace tessel::cli

@@ -3,6 +3,7 @@
 
 #include "cli/CommonOptions.h"
 #include "cli/DocumentSession.h"
+#include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "converter/Converter.h"
@@ -22,6 +23,7 @@ const char* Describe(const StepResult& result) {
 }
 
 void Report(const std::string& file, const std::vector<StepResult>& results) {
+  HideProgress();
   std::cerr << ForTerminal(file) << ":\n";
   for (const StepResult& result : results) {
     std::cerr << "  step " << result.step << "  " << Describe(result) << "  \""
@@ -32,6 +34,7 @@ void Report(const std::string& file, const std::vector<StepResult>& results) {
 bool ConvertFile(const std::string& file, const Options& options) {
   DocumentSession session;
   if (!session.Open(file)) return false;
+  session.Messages().prefix = file + ": ";
   std::vector<StepResult> results;
   const bool converted = session.Run([&] {
     session.Control().RunCommand(

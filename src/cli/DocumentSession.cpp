@@ -31,7 +31,13 @@ bool DocumentSession::Open(const std::string& path) {
     Complain("File  not found.");
     return false;
   }
-  return Run([&] { control_.OpenFile(std::filesystem::absolute(path).string()); });
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) {
+    Complain("Cannot open " + path + ": it is a directory.");
+    return false;
+  }
+  const std::filesystem::path whole = std::filesystem::absolute(path, error);
+  return Run([&] { control_.OpenFile(error ? path : whole.string()); });
 }
 
 bool DocumentSession::New(const std::string& code) {

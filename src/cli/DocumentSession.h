@@ -31,6 +31,7 @@ class DocumentSession {
   HostedControls& Controls() { return control_.Controls(); }
   RichTextBox& Editor();
   const Services& World() const { return services_; }
+  StderrMessages& Messages() { return messages_; }
   AnsweredForms& Forms() { return forms_; }
 
  private:

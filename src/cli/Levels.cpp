@@ -51,11 +51,18 @@ int EntryOf(const ComboBox& levels, const std::string& level) {
   return kNoSelection;
 }
 
-// As a person does it: enter the box, type over its text, press Insert.
-void Replace(TextBox& box, CommandButton& insert, const std::string& text) {
+/// What a person does to change the map or the title of the chosen level: enter its box, type over
+/// its text, press Insert. False, with a complaint, when the level then shows something else.
+bool Replace(HostedControls& c, TextBox& box, CommandButton& insert, const std::string& text,
+             const char* what) {
   box.Enter();
   box.Type(text);
   insert.Press();
+  c.cboEpisode.Pick(c.cboEpisode.ListIndex());
+  if (box.Text() == text) return true;
+  Complain("\"" + ToUtf8(text) + "\" cannot be the " + what + " of level " + c.cboEpisode.Text() +
+           ".");
+  return false;
 }
 
 bool Change(const Options& options) {
@@ -74,8 +81,10 @@ bool Change(const Options& options) {
               << DocumentForTerminal(c.txtTitle.Text()) << '\n';
     return true;
   }
-  if (options.map) Replace(c.txtMap, c.cmdInsert[0], *options.map);
-  if (options.title) Replace(c.txtTitle, c.cmdInsert[1], *options.title);
+  if (options.map && !Replace(c, c.txtMap, c.cmdInsert[0], *options.map, "map")) return false;
+  if (options.title && !Replace(c, c.txtTitle, c.cmdInsert[1], *options.title, "title")) {
+    return false;
+  }
   return WriteResult(session.Editor().Bytes(), options.destination, options.file);
 }
 
@@ -97,10 +106,16 @@ void AddLevel(CLI::App& program, int& status) {
   CLI::App* command = program.add_subcommand("level", "Show or change a level's map and title");
   AddFile(*command, options->file);
   command->add_option("LEVEL", options->level, "episode and level, such as \"0 7\"")->required();
-  command->add_option("--map", options->map, "the new map file");
-  command->add_option("--title", options->title, "the new title");
+  CLI::Option* map = command->add_option("--map", options->map, "the new map file");
+  TakeDocumentText(*map);
+  TakeFileName(*map);
+  TakeDocumentText(*command->add_option("--title", options->title, "the new title"));
   AddDestination(*command, options->destination);
   command->callback([options, &status] {
+    const bool changes = options->map || options->title;
+    if (!changes && (options->destination.inPlace || !options->destination.file.empty())) {
+      throw CLI::ValidationError("level", "there is nothing to write without --map or --title");
+    }
     if (!Change(*options)) status = kFailed;
   });
 }

@@ -19,7 +19,7 @@ void AddNew(CLI::App& program, int& status) {
       ->add_option("CODE", options->code, "13DU, 15AU (user), 13DD, 15AD (defs), 13DG, 15AG (game)")
       ->required()
       ->check(CLI::IsMember(codes));
-  command->add_option("-o,--output", options->destination.file, "write the result to this file");
+  AddOutput(*command, options->destination.file);
   command->callback([options, &status] {
     DocumentSession session;
     if (!session.New(options->code) ||

@@ -14,9 +14,7 @@ bool WriteResult(std::string_view bytes, const Destination& destination,
   if (file.empty()) {
     std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     std::cout.flush();
-    if (std::cout.good()) return true;
-    Complain("The result could not be written to standard output.");
-    return false;
+    return std::cout.good();
   }
   try {
     PosixFiles().Write(file, bytes);

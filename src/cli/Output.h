@@ -13,7 +13,8 @@ struct Destination {
 };
 
 /// Writes a result byte for byte. `source` is the file it was made from. False when that failed;
-/// the user has been told, and the file is as it was.
+/// the user has been told, and the file is as it was. (Failures of standard output are told once,
+/// when the program ends.)
 bool WriteResult(std::string_view bytes, const Destination& destination, const std::string& source);
 
 }  // namespace tessel::cli

@@ -88,6 +88,10 @@ std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& i
   return place.box.Text();
 }
 
+bool IsSameValue(const PanelItem& item, const std::string& a, const std::string& b) {
+  return IsYesNo(item) ? EqualIgnoringAsciiCase(a, b) : a == b;
+}
+
 void WriteItem(DocumentSession& session, const PanelItem& item, const std::string& value) {
   HostedControls& c = session.Controls();
   if (!IsYesNo(item)) return PlaceOf(c, item).box.Type(value);

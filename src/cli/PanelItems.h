@@ -27,6 +27,9 @@ std::optional<PanelItem> FindPanelItem(const std::string& name);
 /// The value in the document, read through the panel; nothing when the define is not there.
 std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& item);
 
+/// Do two texts mean the same value? YES and NO are words, whatever their case.
+bool IsSameValue(const PanelItem& item, const std::string& a, const std::string& b);
+
 /// Writes the value through the panel. The define must be there.
 void WriteItem(DocumentSession& session, const PanelItem& item, const std::string& value);
 

@@ -1,4 +1,4 @@
-#include <array>
+#include <cmath>
 #include <iomanip>
 #include <iostream>
 #include <vector>
@@ -6,6 +6,7 @@
 #include "cli/CommonOptions.h"
 #include "cli/DocumentSession.h"
 #include "cli/PanelItems.h"
+#include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "platform/Text.h"
@@ -58,13 +59,24 @@ void Report(const std::string& section, const std::string& before, const std::st
   std::erase_if(items, [&](const PanelItem& item) {
     return item.entry < 0 || (section != "All" && item.section != section);
   });
+  HideProgress();
   const Values old = ReadValues(before, items);
   const Values now = ReadValues(after, items);
   for (std::size_t i = 0; i < items.size(); ++i) {
     std::cerr << std::left << std::setw(34) << items[i].name << std::right << std::setw(8)
-              << ForTerminal(old[i].value_or("-")) << " -> " << std::setw(8)
-              << ForTerminal(now[i].value_or("-")) << '\n';
+              << DocumentForTerminal(old[i].value_or("-")) << " -> " << std::setw(8)
+              << DocumentForTerminal(now[i].value_or("-")) << '\n';
   }
+}
+
+// A bound of 0 makes the control change nothing: here that would look like success.
+bool RefuseNothing(const Options& options) {
+  for (const std::string& bound : {options.lower, options.upper}) {
+    if (bound.empty() || std::nearbyint(NumericValue(bound)) != 0) continue;
+    Complain("\"" + bound + "\" counts as 0, and nothing is randomized when a bound is 0.");
+    return true;
+  }
+  return false;
 }
 
 bool Run(const Options& options) {
@@ -73,6 +85,7 @@ bool Run(const Options& options) {
   const std::string before = session.Editor().Text();
   session.Forms().answer = [&](Form& form) { Answer(dynamic_cast<frmRand&>(form), options); };
   if (!session.Run([&] { StartRandomizer(session, options.section); })) return false;
+  if (RefuseNothing(options)) return false;
   const std::string after = session.Editor().Text();
   if (!WriteResult(after, options.destination, options.file)) return false;
   if (options.report) Report(options.section, before, after);
@@ -93,7 +106,8 @@ void AddRandomize(CLI::App& program, int& status) {
   command->add_option("--upper", options->upper, "the largest value drawn")->required();
   command->add_flag("--keep-below", options->keepBelow, "leave smaller values as they are");
   command->add_flag("--keep-above", options->keepAbove, "leave larger values as they are");
-  command->add_option("--seed", options->seed, "start the random numbers at another place");
+  command->add_option("--seed", options->seed, "start the random numbers at another place")
+      ->check(CLI::Range(0U, (1U << 24) - 1));
   command->add_flag("--report", options->report, "list old and new values on standard error");
   AddDestination(*command, options->destination);
   command->callback([options, &status] {

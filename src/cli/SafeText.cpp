@@ -14,11 +14,49 @@ void AppendUtf8(std::string& out, char32_t c) {
   } else if (c < 0x800) {
     out += static_cast<char>(0xC0 | (c >> 6));
     tail(0);
+  } else if (c >= 0x10000) {
+    out += static_cast<char>(0xF0 | (c >> 18));
+    tail(12);
+    tail(6);
+    tail(0);
   } else {
     out += static_cast<char>(0xE0 | (c >> 12));
     tail(6);
     tail(0);
   }
+}
+
+struct SequenceKind {
+  unsigned char mask, lead;
+  std::size_t length;
+  char32_t smallest;
+};
+constexpr SequenceKind kSequences[] = {
+    {0x80, 0x00, 1, 0}, {0xE0, 0xC0, 2, 0x80}, {0xF0, 0xE0, 3, 0x800}, {0xF8, 0xF0, 4, 0x10000}};
+
+/// The code point of one whole, well-formed sequence, or nothing.
+std::optional<char32_t> Decode(std::string_view sequence, const SequenceKind& kind) {
+  char32_t c = static_cast<unsigned char>(sequence[0]) & static_cast<unsigned char>(~kind.mask);
+  for (const char next : sequence.substr(1)) {
+    if ((next & 0xC0) != 0x80) return std::nullopt;
+    c = (c << 6) | (next & 0x3F);
+  }
+  const bool surrogate = c >= 0xD800 && c < 0xE000;
+  if (c < kind.smallest || c > 0x10FFFF || surrogate) return std::nullopt;
+  return c;
+}
+
+/// Takes one character off the front of a text; of a text that does not begin with one, a byte.
+std::optional<char32_t> TakeCharacter(std::string_view& text) {
+  for (const SequenceKind& kind : kSequences) {
+    if ((text[0] & kind.mask) != kind.lead || text.size() < kind.length) continue;
+    const auto c = Decode(text.substr(0, kind.length), kind);
+    if (!c) break;
+    text.remove_prefix(kind.length);
+    return c;
+  }
+  text.remove_prefix(1);
+  return std::nullopt;
 }
 
 bool IsControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
@@ -35,10 +73,26 @@ std::string ToUtf8(std::string_view bytes) {
 }
 
 std::string ForTerminal(std::string_view text) {
-  std::string out(text);
-  for (char& c : out) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80 && IsControl(byte) && !EndsLine(byte)) c = '?';
+  std::string out;
+  while (!text.empty()) {
+    const auto c = TakeCharacter(text);
+    if (c && !IsControl(*c)) {
+      AppendUtf8(out, *c);
+    } else {
+      out += '?';
+    }
+  }
+  return out;
+}
+
+std::optional<std::string> FromTerminal(std::string_view text) {
+  std::string out;
+  for (std::string_view rest = text; !rest.empty();) {
+    const auto c = TakeCharacter(rest);
+    if (!c) return std::string(text);
+    const int byte = ByteOfCodePoint(*c);
+    if (byte < 0) return std::nullopt;
+    out += static_cast<char>(byte);
   }
   return out;
 }

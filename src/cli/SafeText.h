@@ -1,6 +1,7 @@
 // Text from files, made harmless for where it is shown.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,9 +10,13 @@ namespace tessel::cli {
 /// UTF-8 of single-byte text, one character for each byte (see CodePointOfByte).
 std::string ToUtf8(std::string_view bytes);
 
-/// Control characters (escape sequences among them) become "?"; tabs and line feeds stay. Bytes
-/// from 0x80 up are passed on: file names and messages are in the terminal's own encoding.
+/// Names and messages as one line of valid UTF-8: control characters (line ends and escape
+/// sequences among them) and bytes that are no UTF-8 become "?".
 std::string ForTerminal(std::string_view text);
+
+/// What a person typed (UTF-8) as single-byte text: the inverse of ToUtf8. Text that is no UTF-8 is
+/// taken byte for byte. Nothing, when a character has no byte.
+std::optional<std::string> FromTerminal(std::string_view text);
 
 /// Single-byte text as UTF-8 for a terminal: line ends become LF, other control characters "?".
 std::string DocumentForTerminal(std::string_view bytes);

@@ -72,8 +72,9 @@ bool Set(const Options& options) {
   const auto found = Look(session, options);
   if (!found) return false;
   WriteItem(session, found->first, options.value);
-  if (ReadItem(session, found->first) != options.value) {
-    Complain("\"" + options.value + "\" cannot be the value of " + found->first.name + ".");
+  const auto now = ReadItem(session, found->first);
+  if (!now || !IsSameValue(found->first, *now, options.value)) {
+    Complain("\"" + ToUtf8(options.value) + "\" cannot be the value of " + found->first.name + ".");
     return false;
   }
   return WriteResult(session.Editor().Bytes(), options.destination, options.file);
@@ -112,7 +113,7 @@ void AddGet(CLI::App& program, int& status) {
 void AddSet(CLI::App& program, int& status) {
   auto options = std::make_shared<Options>();
   CLI::App* command = AddItemCommand(program, "set", "Change one value of a user file", *options);
-  command->add_option("VALUE", options->value, "the new value")->required();
+  TakeDocumentText(*command->add_option("VALUE", options->value, "the new value")->required());
   AddDestination(*command, options->destination);
   command->callback([options, &status] {
     if (!Set(*options)) status = kFailed;

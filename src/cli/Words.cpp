@@ -3,7 +3,7 @@
 #include <sstream>
 
 #include "cli/CommandLineServices.h"
-#include "cli/Output.h"
+#include "cli/CommonOptions.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "platform/FallbackSettingsStore.h"
@@ -39,7 +39,7 @@ std::optional<ScriptWord> FindWord(SettingsStore& store, const std::string& word
   const auto it = std::ranges::find_if(
       words, [&](const ScriptWord& entry) { return EqualIgnoringAsciiCase(entry.word, word); });
   if (it != words.end()) return *it;
-  Complain("\"" + word + "\" is not in the word list.");
+  Complain("\"" + ToUtf8(word) + "\" is not in the word list.");
   return std::nullopt;
 }
 
@@ -56,9 +56,29 @@ bool Get(SettingsStore& store, const Options& options) {
   return word.has_value();
 }
 
+/// Why a word and its parameters cannot be kept, or null.
+const char* Refusal(const Options& options) {
+  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+  const auto holdsControl = [&](const std::string& text) {
+    return std::ranges::any_of(text, isControl);
+  };
+  const auto holdsMark = [](const std::string& text) { return text.find('[') != text.npos; };
+  if (options.word.empty()) return "A word cannot be empty.";
+  if (holdsControl(options.word) || holdsControl(options.parameters)) {
+    return "A word and its parameters cannot hold tabs, line breaks or other control characters.";
+  }
+  if (holdsMark(options.word)) {
+    return "A word cannot hold \"[\": that mark tells parameter texts from words.";
+  }
+  if (!options.parameters.empty() && !holdsMark(options.parameters)) {
+    return "Parameters need a \"[\", as in \"[amount]\": that mark tells them from words.";
+  }
+  return nullptr;
+}
+
 bool Set(SettingsStore& store, const Options& options) {
-  if (options.word.find('[') != options.word.npos) {
-    Complain("A word cannot hold \"[\": that mark tells parameter texts from words.");
+  if (const char* refusal = Refusal(options)) {
+    Complain(refusal);
     return false;
   }
   WriteScriptWord(store, {options.word, options.parameters});
@@ -86,7 +106,8 @@ void AddWords(CLI::App& program, int& status) {
   auto options = std::make_shared<Options>();
   CLI::App* words = program.add_subcommand("words", "Keep the list of script words");
   words->require_subcommand(1);
-  words->add_option("--store", options->store, "the settings file, instead of the user's own");
+  words->add_option("--store", options->store, "the settings file, instead of the user's own")
+      ->type_name("FILE");
 
   const auto add = [&](const char* name, const char* what,
                        bool (*run)(SettingsStore&, const Options&)) {
@@ -99,20 +120,20 @@ void AddWords(CLI::App& program, int& status) {
     return command;
   };
   const auto addWord = [&](CLI::App* command) {
-    command->add_option("WORD", options->word, "the word")->required();
+    TakeDocumentText(*command->add_option("WORD", options->word, "the word")->required());
   };
   add("list", "Print the words", List);
   addWord(add("get", "Print a word's parameters", Get));
   CLI::App* set = add("set", "Add a word or change its parameters", Set);
   addWord(set);
-  set->add_option("PARAMETERS", options->parameters, "what is shown about its parameters")
-      ->required();
+  TakeDocumentText(
+      *set->add_option("PARAMETERS", options->parameters, "such as \"[weapon] [amount]\"")
+           ->required());
   addWord(add("remove", "Take a word off the list", Remove));
   add("import", "Add the words of a file: one a line, word, tab, parameters", Import)
       ->add_option("FILE", options->file, "the file")
       ->required();
-  add("export", "Print the words as import reads them", Export)
-      ->add_option("-o,--output", options->file, "write them to this file");
+  AddOutput(*add("export", "Print the words as import reads them", Export), options->file);
 }
 
 }  // namespace tessel::cli
