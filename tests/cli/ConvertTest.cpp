@@ -1,0 +1,89 @@
+#include "cli/CommandLineTest.h"
+#include "support/TesselTest.h"
+
+namespace tessel::test {
+namespace {
+
+class CommandLineConvert : public CommandLineTest {
+ protected:
+  CommandLineConvert() { Put("User.con", old_); }
+
+  const std::string old_ = TemplateText("zmuser.dat");
+};
+
+/// What the control makes of a text.
+class TheControl : public TesselTest {
+ public:
+  std::string Converts(const std::string& text) {
+    Open("/User.con", text);
+    Control().Convert();
+    return Current().Text();
+  }
+  void TestBody() override {}
+};
+
+TEST_F(CommandLineConvert, GivesTheBytesThatTheControlGives) {
+  const std::string converted = OutputOf({"convert", "User.con"});
+  EXPECT_NE(converted, old_);
+  EXPECT_EQ(converted, TheControl().Converts(old_));
+  EXPECT_EQ(Bytes("User.con"), old_);
+}
+
+TEST_F(CommandLineConvert, WritesAnotherFile) {
+  EXPECT_EQ(OutputOf({"convert", "User.con", "-o", "new.con"}), "");
+  EXPECT_EQ(Bytes("new.con"), TheControl().Converts(old_));
+}
+
+TEST_F(CommandLineConvert, ConvertsSeveralFilesInPlace) {
+  Put("Two.con", old_ + "// two");
+  EXPECT_EQ(OutputOf({"convert", "User.con", "Two.con", "--in-place"}), "");
+  EXPECT_EQ(Bytes("User.con"), TheControl().Converts(old_));
+  EXPECT_EQ(Bytes("Two.con"), TheControl().Converts(old_ + "// two"));
+}
+
+TEST_F(CommandLineConvert, ConvertsTheOthersWhenOneIsRefused) {
+  Put("new.con", TemplateText("zmuserp.dat"));
+  const Outcome outcome = Tessel({"convert", "--in-place", "new.con", "none.con", "User.con"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.err,
+            "tessel: new.con: This con appears to already be version 1.4/1.5 compatible.\n"
+            "tessel: File " +
+                PathOf("none.con") + " not found.\n");
+  EXPECT_EQ(Bytes("new.con"), TemplateText("zmuserp.dat"));
+  EXPECT_EQ(Bytes("User.con"), TheControl().Converts(old_));
+}
+
+TEST_F(CommandLineConvert, NeedsInPlaceForSeveralFiles) {
+  const std::string sentence = "convert: several files need --in-place";
+  ExpectUsageError({"convert", "User.con", "User.con"}, sentence, "tessel convert");
+  ExpectUsageError({"convert", "User.con", "User.con", "-o", "x"}, sentence, "tessel convert");
+  EXPECT_EQ(Bytes("User.con"), old_);
+}
+
+TEST_F(CommandLineConvert, RefusesWhatIsNoOldUserFile) {
+  Put("new.con", "define QSIZE 64");
+  Put("other.con", "action ASTAND 0\r\n");
+  ExpectRefusal({"convert", "new.con", "--in-place"},
+                "new.con: This con appears to already be version 1.4/1.5 compatible.");
+  ExpectRefusal({"convert", "other.con", "--in-place"},
+                "other.con: This does not appear to be a user.con file.");
+}
+
+TEST_F(CommandLineConvert, LeavesTheFileAloneWhenAStepFails) {
+  Put("short.con", "definelevelname 0 0 a.map 1:1 1:1 A\r\n");
+  ExpectRefusal({"convert", "short.con", "--in-place"},
+                "short.con: The file cannot be converted: its start-up parameters lack "
+                "\"gamestartup\".");
+}
+
+TEST_F(CommandLineConvert, ReportsEveryStep) {
+  Put("User.con", With(old_, "define GOTTASMART", "// gone"));
+  const Outcome outcome = Tessel({"convert", "User.con", "--report", "--in-place"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.err.starts_with("User.con:\n  step 1  changed  \"/*\"\n")) << outcome.err;
+  EXPECT_THAT(outcome.err, testing::HasSubstr("\n  step 18  not found  \"define GOTTASMART\"\n"));
+  EXPECT_THAT(outcome.err, testing::HasSubstr("\n  step 52  "));
+}
+
+}  // namespace
+}  // namespace tessel::test

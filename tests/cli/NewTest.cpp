@@ -1,0 +1,27 @@
+#include "cli/CommandLineTest.h"
+#include "documents/Templates.h"
+
+namespace tessel::test {
+namespace {
+
+class CommandLineNew : public CommandLineTest {};
+
+TEST_F(CommandLineNew, PrintsEachTemplateByteForByte) {
+  for (const Template& entry : kTemplates) {
+    EXPECT_EQ(OutputOf({"new", std::string(entry.code)}), TemplateText(std::string(entry.file)));
+  }
+}
+
+TEST_F(CommandLineNew, WritesAFile) {
+  EXPECT_EQ(OutputOf({"new", "15AU", "-o", "User.con"}), "");
+  EXPECT_EQ(Bytes("User.con"), TemplateText("zmuserp.dat"));
+}
+
+TEST_F(CommandLineNew, KnowsItsTemplates) {
+  ExpectUsageError({"new", "14XX"}, "CODE: 14XX not in {13DU,15AU,13DD,15AD,13DG,15AG}",
+                   "tessel new");
+  EXPECT_EQ(Tessel({"new", ""}).status, 2);
+}
+
+}  // namespace
+}  // namespace tessel::test

@@ -1,0 +1,143 @@
+#include <nlohmann/json.hpp>
+
+#include "cli/CommandLineTest.h"
+
+namespace tessel::test {
+namespace {
+
+using nlohmann::json;
+using namespace std::string_literals;
+
+const std::string kText =
+    "define MAXPLAYERHEALTH   100  // health\r\n"
+    "define CAMERASDESTRUCTABLE NO // cameras\r\n"
+    "define PISTOL_WEAPON_STRENGTH 6\r\n"
+    "\xE9\0 define QSIZE 64"s;
+
+class CommandLineValues : public CommandLineTest {
+ protected:
+  CommandLineValues() { Put("User.con", kText); }
+};
+
+TEST_F(CommandLineValues, PrintsAValueByDisplayName) {
+  EXPECT_EQ(OutputOf({"get", "User.con", "Max Regular Health"}), "100\n");
+}
+
+TEST_F(CommandLineValues, PrintsAValueByDefineNameInAnyCase) {
+  EXPECT_EQ(OutputOf({"get", "User.con", "maxplayerhealth"}), "100\n");
+}
+
+TEST_F(CommandLineValues, NamesAWeaponAfterItsCategory) {
+  EXPECT_EQ(OutputOf({"get", "User.con", "Weapon Strength/Pistol"}), "6\n");
+}
+
+TEST_F(CommandLineValues, PrintsAYesNoSetting) {
+  EXPECT_EQ(OutputOf({"get", "User.con", "Cameras Destructable"}), "NO\n");
+}
+
+TEST_F(CommandLineValues, FindsAFileWithoutRegardToCase) {
+  EXPECT_EQ(OutputOf({"get", "USER.CON", "QSIZE"}), "64\n");
+}
+
+TEST_F(CommandLineValues, RefusesAnItemThatDoesNotExist) {
+  ExpectRefusal({"get", "User.con", "Max Happiness"},
+                "There is no setting \"Max Happiness\". \"tessel settings FILE\" lists them.");
+}
+
+TEST_F(CommandLineValues, RefusesADefineThatTheFileLacks) {
+  ExpectRefusal({"get", "User.con", "Armor"}, "User.con does not define STARTARMORHEALTH.");
+  ExpectRefusal({"set", "User.con", "Armor", "5", "--in-place"},
+                "User.con does not define STARTARMORHEALTH.");
+}
+
+TEST_F(CommandLineValues, SetsAValueOnStandardOutputAndLeavesTheFileAlone) {
+  EXPECT_EQ(OutputOf({"set", "User.con", "Max Regular Health", "250"}), With(kText, "100", "250"));
+  EXPECT_EQ(Bytes("User.con"), kText);
+}
+
+TEST_F(CommandLineValues, SetsAValueInPlace) {
+  EXPECT_EQ(OutputOf({"set", "User.con", "Max Regular Health", "7", "--in-place"}), "");
+  EXPECT_EQ(Bytes("User.con"), With(kText, "100", "7"));
+}
+
+TEST_F(CommandLineValues, SetsAValueIntoAnotherFile) {
+  EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "-1", "-o", "new.con"}), "");
+  EXPECT_EQ(Bytes("new.con"), With(kText, "64", "-1"));
+  EXPECT_EQ(Bytes("User.con"), kText);
+  EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "--output=new.con"}), "");
+  EXPECT_EQ(Bytes("new.con"), With(kText, "64", "9"));
+}
+
+TEST_F(CommandLineValues, SetsAYesNoSettingInAnyCase) {
+  const std::string yes = With(kText, "NO", "YES");
+  EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "yes"}), yes);
+  EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "YES"}), yes);
+  EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "no"}), kText);
+}
+
+TEST_F(CommandLineValues, RefusesWhatCannotBeAValue) {
+  for (const char* item : {"Max Regular Health", "QSIZE"}) {
+    for (const std::string value : {"", " ", "1 2", "a\nb", "5 // five"}) {
+      const Outcome outcome = Tessel({"set", "User.con", item, value, "--in-place"});
+      EXPECT_EQ(outcome.status, 1) << item << value;
+      EXPECT_THAT(outcome.err, testing::HasSubstr("cannot be the value of"));
+      EXPECT_EQ(Bytes("User.con"), kText);
+    }
+  }
+  ExpectRefusal({"set", "User.con", "Cameras Destructable", "maybe", "--in-place"},
+                "\"maybe\" cannot be the value of Cameras Destructable.");
+}
+
+TEST_F(CommandLineValues, ListsEverySettingAndADashForWhatIsMissing) {
+  const std::string list = OutputOf({"settings", "User.con"});
+  EXPECT_THAT(list, testing::HasSubstr("Player  Max Regular Health                100\n"));
+  EXPECT_THAT(list, testing::HasSubstr("Weapon  Weapon Strength/Pistol            6\n"));
+  EXPECT_THAT(list, testing::HasSubstr("Enemy   Trooper                           -\n"));
+  EXPECT_THAT(list, testing::HasSubstr("Misc    Cameras Destructable              NO\n"));
+  EXPECT_EQ(std::ranges::count(list, '\n'), 10 + 38 + 20 + 13 + 2);
+}
+
+TEST_F(CommandLineValues, ListsOneSection) {
+  const std::string list = OutputOf({"settings", "User.con", "--section", "player"});
+  EXPECT_EQ(std::ranges::count(list, '\n'), 10);
+  EXPECT_TRUE(list.starts_with("Player  Max Regular Health                100\n")) << list;
+}
+
+TEST_F(CommandLineValues, ListsAsJson) {
+  const json list = json::parse(OutputOf({"settings", "User.con", "--json"}));
+  ASSERT_EQ(list.size(), 83U);
+  EXPECT_EQ(list[0], (json{{"section", "Player"},
+                           {"item", "Max Regular Health"},
+                           {"define", "MAXPLAYERHEALTH"},
+                           {"value", "100"}}));
+  EXPECT_EQ(list[1]["value"], nullptr);
+}
+
+TEST_F(CommandLineValues, KeepsJsonValidWhateverTheValue) {
+  Put("odd.con", "define MAXPLAYERHEALTH \xE9\"\\\x1B[31m<b>&' // odd\r\n");
+  const json list = json::parse(OutputOf({"settings", "odd.con", "--json", "--section", "Player"}));
+  EXPECT_EQ(list[0]["value"], "\xC3\xA9\"\\\x1B[31m<b>&'");
+}
+
+TEST_F(CommandLineValues, PrintsNoEscapeSequences) {
+  Put("odd.con", "define MAXPLAYERHEALTH \x1B[31m9\x9B // odd\r\n");
+  EXPECT_EQ(OutputOf({"get", "odd.con", "MAXPLAYERHEALTH"}), "?[31m9\xE2\x80\xBA\n");
+  EXPECT_EQ(OutputOf({"settings", "odd.con"}).find('\x1B'), std::string::npos);
+}
+
+TEST_F(CommandLineValues, ReadsAndWritesEverySettingOfTheTemplate) {
+  Put("whole.con", TemplateText("zmuserp.dat"));
+  for (const json& row : json::parse(OutputOf({"settings", "whole.con", "--json"}))) {
+    const std::string item = row["item"];
+    ASSERT_TRUE(row["value"].is_string()) << item;
+    EXPECT_EQ(OutputOf({"get", "whole.con", item}), row["value"].get<std::string>() + "\n");
+    const std::string value = row["value"] == "YES" ? "NO" : row["value"] == "NO" ? "YES" : "4321";
+    OutputOf({"set", "whole.con", item, value, "-o", "changed.con"});
+    EXPECT_EQ(OutputOf({"get", "changed.con", item}), value + "\n");
+    OutputOf({"set", "changed.con", item, row["value"], "--in-place"});
+    EXPECT_EQ(Bytes("changed.con"), Bytes("whole.con")) << item;
+  }
+}
+
+}  // namespace
+}  // namespace tessel::test

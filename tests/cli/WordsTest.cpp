@@ -1,0 +1,87 @@
+#include "cli/CommandLineTest.h"
+
+namespace tessel::test {
+namespace {
+
+class CommandLineWords : public CommandLineTest {};
+
+TEST_F(CommandLineWords, StartsWithAnEmptyList) {
+  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  EXPECT_EQ(OutputOf({"words", "export"}), "");
+}
+
+TEST_F(CommandLineWords, KeepsWordsInTheOrderInWhichTheyCame) {
+  OutputOf({"words", "set", "sound", "[name]"});
+  OutputOf({"words", "set", "action", ""});
+  EXPECT_EQ(OutputOf({"words", "list"}), "sound\naction\n");
+  EXPECT_EQ(OutputOf({"words", "get", "SOUND"}), "[name]\n");
+  EXPECT_EQ(OutputOf({"words", "get", "action"}), "\n");
+}
+
+TEST_F(CommandLineWords, ChangesAndRemovesWords) {
+  OutputOf({"words", "set", "sound", "[name]"});
+  OutputOf({"words", "set", "sound", "[other]"});
+  EXPECT_EQ(OutputOf({"words", "export"}), "sound\t[other]\n");
+  OutputOf({"words", "remove", "Sound"});
+  EXPECT_EQ(OutputOf({"words", "list"}), "");
+}
+
+TEST_F(CommandLineWords, RefusesWordsThatAreNotListed) {
+  ExpectRefusal({"words", "get", "sound"}, "\"sound\" is not in the word list.");
+  ExpectRefusal({"words", "remove", "so\nund"}, "\"so?und\" is not in the word list.");
+}
+
+TEST_F(CommandLineWords, RefusesWhatTheListCannotTellApart) {
+  ExpectRefusal({"words", "set", "", "[x]"}, "A word cannot be empty.");
+  ExpectRefusal({"words", "set", "a[", "[x]"},
+                "A word cannot hold \"[\": that mark tells parameter texts from words.");
+  ExpectRefusal({"words", "set", "a", "x"},
+                "Parameters need a \"[\", as in \"[amount]\": that mark tells them from words.");
+  const std::string control =
+      "A word and its parameters cannot hold tabs, line breaks or other control characters.";
+  ExpectRefusal({"words", "set", "a\tb", "[x]"}, control);
+  ExpectRefusal({"words", "set", "a", "[x\ny]"}, control);
+  EXPECT_EQ(OutputOf({"words", "list"}), "");
+}
+
+TEST_F(CommandLineWords, ImportsWhatItExports) {
+  const std::string list = "sound\t[name]\naction\t\ncaf\xE9\t[\x80] <b>\n";
+  Put("words.txt", list);
+  OutputOf({"words", "import", "words.txt"});
+  EXPECT_EQ(OutputOf({"words", "export"}), list);
+  EXPECT_EQ(OutputOf({"words", "list"}), "sound\naction\ncaf\xC3\xA9\n");
+  EXPECT_EQ(OutputOf({"words", "get", "caf\xC3\xA9"}), "[\xE2\x82\xAC] <b>\n");
+  OutputOf({"words", "export", "-o", "again.txt"});
+  EXPECT_EQ(Bytes("again.txt"), list);
+}
+
+TEST_F(CommandLineWords, ImportsAllOrNothing) {
+  Put("words.txt", "sound\t[name]\nno tab\n");
+  ExpectRefusal({"words", "import", "words.txt"},
+                "Line 2 of the word list is not a word, a tab and its parameters.");
+  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  ExpectRefusal({"words", "import", "none.txt"},
+                "Cannot open none.txt: No such file or directory.");
+}
+
+TEST_F(CommandLineWords, UsesTheStoreThatItIsTold) {
+  OutputOf({"words", "--store", "other.db", "set", "sound", "[name]"});
+  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  EXPECT_EQ(OutputOf({"words", "list", "--store", "other.db"}), "sound\n");
+}
+
+TEST_F(CommandLineWords, RefusesAStoreThatCannotBeUsed) {
+  store_ = Put("damaged.db", std::string(5000, 'x'));
+  const Outcome outcome = Tessel({"words", "set", "sound", "[name]"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, testing::StartsWith("tessel: Cannot use the settings store " + store_));
+  EXPECT_EQ(Bytes("damaged.db"), std::string(5000, 'x'));
+}
+
+TEST_F(CommandLineWords, NeedsASubcommand) {
+  ExpectUsageError({"words"}, "A subcommand is required", "tessel words");
+  ExpectUsageError({"words", "eat"}, "there is no subcommand \"eat\"", "tessel words");
+}
+
+}  // namespace
+}  // namespace tessel::test
