@@ -7,6 +7,8 @@
 #include <regex>
 #include <system_error>
 
+#include "platform/HostDirectory.h"
+
 namespace tessel {
 namespace {
 
@@ -17,15 +19,6 @@ constexpr int kBadArguments = 2;
 std::string Absolute(const std::string& path) {
   std::error_code ignored;
   return fs::absolute(path, ignored).lexically_normal().string();
-}
-
-/// The installed data directory; or the sources' one for a program that runs from its build tree.
-std::string DefaultHostDirectory() {
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  const std::string buildTree = std::string(TESSEL_BUILD_DIR) + "/";
-  const bool inBuildTree = !error && program.string().starts_with(buildTree);
-  return inBuildTree ? TESSEL_SOURCE_DATA_DIR : TESSEL_DATA_DIR;
 }
 
 std::string BadSize(const std::string& text) {
