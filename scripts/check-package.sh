@@ -1,0 +1,76 @@
+#!/usr/bin/env bash
+# Builds the Debian package from a finished build and checks it.
+#
+# Usage: check-package.sh [--contents-only] [BUILD-DIRECTORY]
+#
+# Its fields and files are always checked. As root the package is also installed, its programs are
+# run, and it is removed again; --contents-only leaves that out.
+set -euo pipefail
+here=$(cd "$(dirname "$0")/.." && pwd)
+contents_only=
+[ "${1-}" = --contents-only ] && { contents_only=1; shift; }
+build=${1-$here/build/release}
+
+fail() { echo "check-package: $*" >&2; exit 1; }
+say() { echo "==> $*"; }
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+say "Building the package"
+(cd "$build" && cpack -G DEB -B "$work/package") >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log" >&2; fail "cpack failed"; }
+package=$(echo "$work"/package/*.deb)
+[ -f "$package" ] || fail "there is no package"
+name=$(dpkg-deb --field "$package" Package)
+
+say "Looking at its fields"
+for field in Package Version Architecture Maintainer Description Section Installed-Size; do
+  [ -n "$(dpkg-deb --field "$package" "$field")" ] || fail "the field $field is empty"
+done
+depends=$(dpkg-deb --field "$package" Depends)
+for library in libc6 libqt6widgets6 libqscintilla2-qt6 libsqlite3-0; do
+  [[ $depends == *$library* ]] || fail "it does not depend on $library: $depends"
+done
+
+say "Looking at its files"
+dpkg-deb --contents "$package" >"$work/contents"
+for file in bin/tessel bin/zanth-manager \
+  share/man/man1/tessel.1 share/man/man1/zanth-manager.1 \
+  share/bash-completion/completions/tessel share/bash-completion/completions/zanth-manager \
+  share/applications/zanth-manager.desktop share/icons/hicolor/scalable/apps/zanth-manager.svg \
+  share/metainfo/org.zanthman.ZanthManager.metainfo.xml share/mime/packages/zanth-manager.xml \
+  share/zanth-manager/zmuser.dat share/zanth-manager/zmuserp.dat share/zanth-manager/zmdefs.dat \
+  share/zanth-manager/zmdefsp.dat share/zanth-manager/zmgame.dat share/zanth-manager/zmgamep.dat \
+  share/zanth-manager/words.txt share/doc/zanth-manager/copyright; do
+  grep -q " \./usr/$file$" "$work/contents" || fail "it lacks /usr/$file"
+done
+awk '$2 != "root/root" || $1 ~ /^-.......w/ { exit 1 }' "$work/contents" || fail "bad owners or permissions"
+
+say "Running it where it was unpacked"
+dpkg-deb --extract "$package" "$work/root"
+"$work/root/usr/bin/tessel" new 15AU | cmp - "$work/root/usr/share/zanth-manager/zmuserp.dat"
+
+if [ -n "$contents_only" ] || [ "$(id -u)" -ne 0 ]; then
+  say "Done (not installed)"
+  exit 0
+fi
+dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'ok installed' && fail "$name is installed already; remove it first"
+
+say "Installing"
+dpkg -i "$package" >/dev/null
+trap 'dpkg -P "$name" >/dev/null 2>&1; rm -rf "$work"' EXIT
+say "Running what was installed"
+export ZANTHMAN_STORE=$work/settings.db QT_QPA_PLATFORM=offscreen
+(cd "$work" && /usr/bin/tessel new 15AU -o User.con && cmp User.con /usr/share/zanth-manager/zmuserp.dat)
+/usr/bin/tessel --version
+/usr/bin/zanth-manager --version
+/usr/bin/zanth-manager --screenshot "$work/window.png" "$work/User.con"
+[ -s "$work/window.png" ] || fail "the window left no picture"
+say "Removing"
+dpkg -r "$name" >/dev/null
+trap 'rm -rf "$work"' EXIT
+while read -r path; do
+  [ -e "$path" ] && [ ! -d "$path" ] && fail "$path is still there"
+done < <(sed -n 's|.* \./|/|p' "$work/contents")
+[ -d /usr/share/zanth-manager ] && fail "/usr/share/zanth-manager is still there"
+say "Done"
