@@ -8,6 +8,7 @@ build_packages=(
 )
 test_packages=(
   libgtest-dev libgmock-dev librapidcheck-dev
+  desktop-file-utils appstream libxml2-utils shared-mime-info groff-base dpkg-dev file
   clang clang-format clang-tidy strace util-linux
 )
 
