@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <iostream>
 #include <string>
 
 namespace tessel::cli {
@@ -13,6 +12,11 @@ namespace {
 constexpr const char* kStartOfLine = "\r\x1b[K";
 
 std::atomic<bool> lineStands = false;
+
+// Not through std::cerr, which flushes std::cout first: another thread may be writing there.
+void Put(const std::string& text) {
+  [[maybe_unused]] const ssize_t shown = ::write(STDERR_FILENO, text.data(), text.size());
+}
 
 }  // namespace
 
@@ -35,15 +39,13 @@ void Progress::Tell() {
   std::unique_lock lock(mutex_);
   for (int seconds = 1;; ++seconds) {
     if (wake_.wait_for(lock, std::chrono::seconds(1), [this] { return done_; })) return;
-    // One write, so that nothing else gets between.
-    std::cerr << kStartOfLine + std::string("tessel: working, ") + std::to_string(seconds) + " s"
-              << std::flush;
+    Put(kStartOfLine + std::string("tessel: working, ") + std::to_string(seconds) + " s");
     lineStands = true;
   }
 }
 
 void HideProgress() {
-  if (lineStands.exchange(false)) std::cerr << kStartOfLine << std::flush;
+  if (lineStands.exchange(false)) Put(kStartOfLine);
 }
 
 }  // namespace tessel::cli

@@ -16,6 +16,7 @@ namespace {
 
 void AddSubcommands(CLI::App& program, int& status) {
   program.require_subcommand(1);
+  program.footer("\"tessel SUBCOMMAND --help\" tells more.");
   AddConvert(program, status);
   AddRandomize(program, status);
   AddSettings(program, status);

@@ -38,13 +38,15 @@ class CommandLineTest : public testing::Test {
       Redirect(err, STDERR_FILENO);
       if (::chdir(Directory().c_str()) != 0) ::_exit(126);
       ::setenv("ZANTHMAN_STORE", store_.c_str(), 1);
+      // Opened first: another user may not reach it.
+      const int program = ::open(TESSEL_PROGRAM, O_RDONLY | O_CLOEXEC);
       if (before) before();
       std::vector<char*> argv = {const_cast<char*>("tessel")};
       for (const std::string& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.c_str()));
       }
       argv.push_back(nullptr);
-      ::execv(TESSEL_PROGRAM, argv.data());
+      ::fexecve(program, argv.data(), environ);
       ::_exit(127);
     }
     int status = 0;
