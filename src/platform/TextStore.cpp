@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <ranges>
 
 #include "platform/RuntimeError.h"
 
@@ -103,10 +102,10 @@ std::optional<Position> TextStore::Undo() {
   Step step = std::move(undo_.back());
   undo_.pop_back();
   Position caret = 0;
-  for (const Edit& edit : std::views::reverse(step)) {
-    const Position length = std::ssize(edit.inserted);
-    Change(edit.at, length, edit.removed, PaletteIndex(InheritedColour(edit.at, length)));
-    caret = edit.at + std::ssize(edit.removed);
+  for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
+    const Position length = std::ssize(edit->inserted);
+    Change(edit->at, length, edit->removed, PaletteIndex(InheritedColour(edit->at, length)));
+    caret = edit->at + std::ssize(edit->removed);
   }
   redo_.push_back(std::move(step));
   return caret;
