@@ -141,18 +141,25 @@ void SqliteSettingsStore::Open() {
 }
 
 void SqliteSettingsStore::MakeSchema() {
-  if (Number("PRAGMA user_version") == kSchemaVersion) return;
+  if (Number("PRAGMA user_version") == kSchemaVersion) return RefuseIfDamaged();
   // Somebody else may be making it at this moment: look again when nobody can.
   Execute("BEGIN IMMEDIATE");
   const int version = Number("PRAGMA user_version");
   if (version > kSchemaVersion) {
     Fail("it was written by a newer version of this program");
   }
-  if (version == 0) {
-    if (Number("SELECT count(*) FROM sqlite_schema") > 0) Fail("it is no settings store");
-    Execute(kSchema);
+  if (version < 0 || (version == 0 && Number("SELECT count(*) FROM sqlite_schema") > 0)) {
+    Fail("it is no settings store");
   }
+  if (version == 0) Execute(kSchema);
   Execute("COMMIT");
+}
+
+/// Of itself SQLite only notices damage that it cannot read past: the rest would give wrong
+/// answers.
+void SqliteSettingsStore::RefuseIfDamaged() {
+  Statement check(*this, "PRAGMA integrity_check(1)");
+  if (!check.Step() || check.Bytes(0) != "ok") Fail("it is damaged");
 }
 
 std::optional<std::string> SqliteSettingsStore::GetSetting(const std::string& section,

@@ -42,6 +42,7 @@ class SqliteSettingsStore : public SettingsStore {
 
   void Open();
   void MakeSchema();
+  void RefuseIfDamaged();
   void Execute(const char* sql);
   int Number(const char* sql);
   [[noreturn]] void Fail(const std::string& reason) const;
