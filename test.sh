@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # Builds and runs every test, installing what is missing: the tests themselves, once more under the
-# sanitizers, and the checks of format and lint.
+# sanitizers, a short run of every fuzz target, and the checks of format and lint.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-install_missing "${build_packages[@]}" "${test_packages[@]}"
+install_missing "${build_packages[@]}" "${test_packages[@]}" "${fuzz_packages[@]}"
 jobs=$(nproc)
 started=$SECONDS
 step() { echo "==> $* ($((SECONDS - started)) s)"; }
@@ -31,6 +31,9 @@ git ls-files 'src/*.cpp' | grep -vE '^src/(platform/qt|host|cli)/' |
 
 step "Testing under the sanitizers"
 ctest --preset asan-ubsan -j "$jobs" --output-on-failure --no-tests=error | tail -n 15
+
+step "Fuzzing (build/fuzz), ${FUZZ_SECONDS:=8} s each target"
+scripts/fuzz.sh "$FUZZ_SECONDS"
 
 step "Testing"
 ctest --preset release -j "$jobs" --output-on-failure --no-tests=error

@@ -1,0 +1,56 @@
+// Colouring a document and taking the colours away again. An input is a text.
+#include "colouring/Colouring.h"
+
+#include <string>
+
+#include "documents/ColourMode.h"
+#include "documents/DocumentSlots.h"
+#include "fuzz/Fuzzing.h"
+#include "platform/HeadlessServices.h"
+
+namespace tessel::fuzz {
+namespace {
+
+void RequireCoveringRuns(const RichTextBox& editor) {
+  Position end = 0;
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
+    Require(run.start == end && run.length > 0, "the runs of colour follow each other");
+    end += run.length;
+  }
+  Require(end == editor.Length(), "every character has a colour");
+}
+
+}  // namespace
+}  // namespace tessel::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tessel;
+  using namespace tessel::fuzz;
+  static HostedControls controls;
+  PlainScreenPointer pointer;
+  IdleMessageLoop loop;
+  const std::string text(AsText(data, size));
+  RichTextBox& editor = CurrentEditor(controls);
+  editor.SetText(text);
+  editor.SetTag("");
+
+  controls.tbToolBar.SetPressed("Colorize", true);
+  ApplyColourMode(controls, pointer, [](const std::string&) {});
+  Require(editor.Bytes() == text, "colouring changes no text");
+  Require(!editor.CanUndo(), "colouring is no edit");
+  Require(editor.SelStart() == 0 && editor.SelLength() == 0, "the caret is at the start");
+  Require(editor.Left() == 0 && editor.Visible(), "the editor is in sight");
+  RequireCoveringRuns(editor);
+
+  ColorizeWord(editor, text.substr(0, text.find(' ')), loop);
+  Require(editor.Bytes() == text, "colouring a word changes no text");
+  RequireCoveringRuns(editor);
+
+  controls.tbToolBar.SetPressed("Colorize", false);
+  ApplyColourMode(controls, pointer, [](const std::string&) {});
+  Require(editor.Bytes() == text, "plain mode changes no text");
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
+    Require(run.colour == kBlack, "plain mode is black");
+  }
+  return 0;
+}
