@@ -1,0 +1,65 @@
+// The control as a program has it: on the real files and a settings store in a file.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "control/ucTessel.h"
+#include "documents/DocumentSlots.h"
+#include "platform/FallbackSettingsStore.h"
+#include "platform/PosixFiles.h"
+#include "support/FakeServices.h"
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+
+/// One running program. Dialogs, boxes and forms are answered by the test.
+class Program {
+ public:
+  explicit Program(const std::string& store)
+      : settings(store, [this](const std::string& text) { reports.push_back(text); }) {
+    control.Initialize();
+  }
+
+  HostedControls& Controls() { return control.Controls(); }
+  RichTextBox& Editor() { return CurrentEditor(Controls()); }
+  const Tab& DocumentTab() { return Controls().tbsRtb.At(Controls().tbsRtb.Selected()); }
+  bool Modified() { return DocumentTab().image == kRedDot; }
+
+  void Open(const std::string& path) { control.OpenFile(path); }
+  void Choose(const std::string& item) { Controls().mnuRtbPopup.Choose(item); }
+  /// Saves where the document lies.
+  void Save() { Choose("mnuRtbPopupFileSave"); }
+  void SaveAs(const std::string& path) {
+    fakes.fileDialogs.answers.push_back({{path}});
+    Choose("mnuRtbPopupFileSaveAs");
+  }
+  /// Puts another text into the document, as a person does.
+  void Retype(const std::string& text) {
+    Editor().SelectByHand(0, Editor().Length());
+    Editor().Type(text);
+  }
+  /// The texts of the boxes since the last call.
+  std::vector<std::string> Told() {
+    std::vector<std::string> texts;
+    for (const auto& box : fakes.messages.shown) texts.push_back(box.text);
+    fakes.messages.shown.clear();
+    return texts;
+  }
+  /// The same, as one line.
+  std::string ToldInALine() {
+    std::string line;
+    for (const std::string& text : Told()) line += (line.empty() ? "" : " | ") + text;
+    return line;
+  }
+
+  std::vector<std::string> reports;  ///< of the settings store
+  FakeServices fakes;
+  PosixFiles files;
+  FallbackSettingsStore settings;
+  ucTessel control{{fakes.messages, fakes.fileDialogs, fakes.forms, fakes.clipboard, settings,
+                    fakes.pointer, files, fakes.random, fakes.focus, fakes.loop, "/nowhere"}};
+};
+
+}  // namespace tessel::test
