@@ -17,7 +17,7 @@ done
 install_missing "${build_packages[@]}"
 
 echo "==> Building (build/release)"
-(cd "$here" && cmake --preset release -DTESSEL_TESTS=OFF >/dev/null && cmake --build --preset release) |
+(cd "$here" && cmake --preset release -DTESSEL_TESTS=OFF >/dev/null && cmake --build --preset release --target zanth-manager tessel-drive tessel) |
   tail -n 1
 
 if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then

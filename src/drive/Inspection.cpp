@@ -24,10 +24,10 @@ Json Editors(const HostedControls& controls, const Sight& sight) {
   for (int i = 0; i < controls.rtbCon.Count(); ++i) {
     const RichTextBox& editor = controls.rtbCon[i];
     const SelectedRange range = sight.Selection(editor);
-    editors.push_back({{"left", editor.Left()},
-                       {"top", editor.Top()},
-                       {"width", editor.Width()},
-                       {"height", editor.Height()},
+    editors.push_back({{"left", FromTwips(editor.Left())},
+                       {"top", FromTwips(editor.Top())},
+                       {"width", FromTwips(editor.Width())},
+                       {"height", FromTwips(editor.Height())},
                        {"visible", editor.Visible()},
                        {"tag", FromBytes(editor.Tag())},
                        {"fileName", FromBytes(editor.FileName())},
@@ -43,9 +43,9 @@ Json Pages(const HostedControls& controls, const Sight& sight) {
   Json pages = Json::array();
   for (int i = 0; i < controls.picCon.Count(); ++i) {
     const PictureBox& page = controls.picCon[i];
-    pages.push_back({{"left", page.Left()},
-                     {"top", page.Top()},
-                     {"width", page.Width()},
+    pages.push_back({{"left", FromTwips(page.Left())},
+                     {"top", FromTwips(page.Top())},
+                     {"width", FromTwips(page.Width())},
                      {"enabled", sight.Enabled(page)}});
   }
   return pages;
@@ -54,16 +54,16 @@ Json Pages(const HostedControls& controls, const Sight& sight) {
 Json Frames(const HostedControls& controls) {
   Json frames = Json::array();
   for (int i = 0; i < controls.fraCon.Count(); ++i) {
-    frames.push_back({{"width", controls.fraCon[i].Width()}});
+    frames.push_back({{"width", FromTwips(controls.fraCon[i].Width())}});
   }
   return frames;
 }
 
 Json PlaceOf(const Control& control) {
-  return {{"left", control.Left()},
-          {"top", control.Top()},
-          {"width", control.Width()},
-          {"height", control.Height()}};
+  return {{"left", FromTwips(control.Left())},
+          {"top", FromTwips(control.Top())},
+          {"width", FromTwips(control.Width())},
+          {"height", FromTwips(control.Height())}};
 }
 
 Json Category(const TabStrip& strip, const Sight& sight) {
@@ -73,7 +73,9 @@ Json Category(const TabStrip& strip, const Sight& sight) {
 }
 
 Json EditorHost(const Control& host) {
-  return {{"top", host.Top()}, {"width", host.Width()}, {"height", host.Height()}};
+  return {{"top", FromTwips(host.Top())},
+          {"width", FromTwips(host.Width())},
+          {"height", FromTwips(host.Height())}};
 }
 
 }  // namespace

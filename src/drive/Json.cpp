@@ -1,5 +1,8 @@
 #include "drive/Json.h"
 
+#include <cmath>
+#include <cstdint>
+
 #include "drive/Refusal.h"
 
 namespace tessel::drive {
@@ -30,6 +33,11 @@ Json FromBytes(const std::vector<std::string>& texts) {
   Json list = Json::array();
   for (const std::string& text : texts) list.push_back(FromBytes(text));
   return list;
+}
+
+Json FromTwips(double twips) {
+  const double whole = std::nearbyint(twips);
+  return whole == twips ? Json(static_cast<std::int64_t>(whole)) : Json(twips);
 }
 
 std::string ToBytes(const Json& value, std::string_view what) {

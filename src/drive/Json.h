@@ -15,6 +15,9 @@ using Json = nlohmann::ordered_json;
 Json FromBytes(std::string_view bytes);
 Json FromBytes(const std::vector<std::string>& texts);
 
+/// A length or position in twips; a whole number is written as one.
+Json FromTwips(double twips);
+
 /// The bytes of such a JSON string. A Refusal that names `what` when the value is no string or
 /// holds a code point above U+00FF.
 std::string ToBytes(const Json& value, std::string_view what);

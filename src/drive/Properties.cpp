@@ -94,9 +94,9 @@ void AddValue(Json& out, const Control& control, const Sight& sight) {
 }  // namespace
 
 Json PropertiesOf(const Control& control, const Sight& sight) {
-  Json out{{"Left", control.Left()},         {"Top", control.Top()},
-           {"Width", control.Width()},       {"Height", control.Height()},
-           {"Visible", control.Visible()},   {"Enabled", sight.Enabled(control)},
+  Json out{{"Left", FromTwips(control.Left())},   {"Top", FromTwips(control.Top())},
+           {"Width", FromTwips(control.Width())}, {"Height", FromTwips(control.Height())},
+           {"Visible", control.Visible()},        {"Enabled", sight.Enabled(control)},
            {"Tag", FromBytes(control.Tag())}};
   AddCaption<Label>(out, control, sight) || AddCaption<Frame>(out, control, sight) ||
       AddCaption<CommandButton>(out, control, sight) || AddCaption<CheckBox>(out, control, sight) ||

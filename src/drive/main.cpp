@@ -1,5 +1,4 @@
 // tessel-drive: plays host and user for one control.
-#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -8,6 +7,7 @@
 #include "drive/Session.h"
 #include "platform/FallbackSettingsStore.h"
 #include "platform/HeadlessServices.h"
+#include "platform/HostDirectory.h"
 #include "platform/LinearCongruentialRandom.h"
 #include "platform/MemorySettingsStore.h"
 #include "platform/PosixFiles.h"
@@ -25,11 +25,6 @@ std::unique_ptr<SettingsStore> OpenStore(const std::string& file) {
   if (file.empty()) return std::make_unique<MemorySettingsStore>();
   return std::make_unique<FallbackSettingsStore>(
       file, [](const std::string& text) { std::cerr << text << '\n'; });
-}
-
-/// The installed one, or that of the sources when nothing is installed.
-std::string DefaultHostDirectory() {
-  return std::filesystem::is_directory(TESSEL_DATA_DIR) ? TESSEL_DATA_DIR : TESSEL_SOURCE_DATA_DIR;
 }
 
 void Play(World world, Player& player) {

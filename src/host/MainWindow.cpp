@@ -106,7 +106,8 @@ void MainWindow::ShowCaret() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (!control_->Tessel().CloseAll()) {
+  // A walk of the randomizer lets the window paint; it is no time to end.
+  if (control_->Tessel().Running() || !control_->Tessel().CloseAll()) {
     event->ignore();
     return;
   }

@@ -1,18 +1,14 @@
 // Zanth Manager: a window around the control.
 #include <QApplication>
+#include <QIcon>
 #include <iostream>
 
 #include "host/DiskState.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
 #include "platform/FallbackSettingsStore.h"
-#include "platform/LinearCongruentialRandom.h"
-#include "platform/PosixFiles.h"
-#include "platform/qt/QtClipboard.h"
-#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtMessageBox.h"
-#include "platform/qt/QtModalForms.h"
-#include "platform/qt/QtScreen.h"
 #include "platform/qt/QtText.h"
 #include "words/StarterWords.h"
 
@@ -57,25 +53,14 @@ int Run(const Options& options) {
     };
     QMetaObject::invokeMethod(qApp, say, Qt::QueuedConnection);
   });
-  QtMessageBox boxes;
+  QtDesktop desktop;
   WrittenMessages written;
-  MessageBox& messages = picture ? static_cast<MessageBox&>(written) : boxes;
-  QtFileDialogs fileDialogs;
-  QtModalForms forms;
-  QtClipboard clipboard;
-  QtScreenPointer pointer;
-  PosixFiles plainFiles;
-  GuardedFiles files(plainFiles);
-  LinearCongruentialRandom random;
-  WidgetMap widgets;
-  QtFocus focus(widgets);
-  QtMessageLoop loop;
-  const Services services{
-      messages, fileDialogs,          forms, clipboard, settings, pointer, files, random, focus,
-      loop,     options.hostDirectory};
+  MessageBox& messages = picture ? static_cast<MessageBox&>(written) : desktop.messages;
+  GuardedFiles files(desktop.files);
+  const Services services = desktop.With(settings, options.hostDirectory, messages, files);
 
   OfferStarterWords(settings, files, options.hostDirectory + "/words.txt");
-  MainWindow window(services, widgets, files);
+  MainWindow window(services, desktop.widgets, files);
   window.resize(options.size.value_or(kDefaultSize));
   if (!picture) window.RestoreLook();
   if (options.size) window.resize(*options.size);
@@ -98,6 +83,8 @@ int main(int argc, char** argv) {
   QGuiApplication::setApplicationDisplayName("Zanth Manager");
   int qtArguments = 1;
   QApplication application(qtArguments, argv);
+  QGuiApplication::setDesktopFileName("zanth-manager");
+  QGuiApplication::setWindowIcon(QIcon(":/tessel/icons/zanth-manager.svg"));
   tessel::ApplyTheme(application, options->scheme);
   return tessel::Run(*options);
 }

@@ -90,6 +90,16 @@ bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && AsciiLower(a) == AsciiLower(b);
 }
 
+std::string WithCrLf(std::string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool breaks = text[i] == '\r' || text[i] == '\n';
+    if (text.substr(i, 2) == "\r\n") ++i;
+    breaks ? result += "\r\n" : result += text[i];
+  }
+  return result;
+}
+
 bool IsWordByte(unsigned char byte) {
   return byte >= 0x80 || byte == '_' || IsDigit(static_cast<char>(byte)) ||
          (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');

@@ -26,6 +26,9 @@ std::string AsciiLower(std::string_view text);
 std::string AsciiUpper(std::string_view text);
 bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b);
 
+/// The text with each of its line breaks (CR LF, LF, CR) written as CR LF.
+std::string WithCrLf(std::string_view text);
+
 /// A table from each byte to its lower case.
 const std::array<unsigned char, 256>& LowerTable();
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/Control.h"
+#include "platform/Text.h"
 
 namespace tessel {
 
@@ -26,8 +27,9 @@ class TextBox : public Control {
   /// Selects the whole text, so that typing replaces it.
   void SelectAll() { SelectAllRequested.Raise(); }
 
-  /// What a person does: replaces the whole text by typing.
-  void Type(std::string text) { SetText(std::move(text)); }
+  /// What a person does: replaces the whole text by typing. The line breaks of a box of several
+  /// lines are CR LF.
+  void Type(std::string text) { SetText(multiLine_ ? WithCrLf(text) : std::move(text)); }
   /// What a person does: moves the focus here.
   void Enter() { GotFocus.Raise(); }
 

@@ -124,6 +124,12 @@ TEST(Paths, EndWithAName) {
 
 // --- Wildcards
 
+TEST(LineBreaks, OfEveryKindBecomeCrLf) {
+  EXPECT_EQ(WithCrLf("a\nb\rc\r\nd"), "a\r\nb\r\nc\r\nd");
+  EXPECT_EQ(WithCrLf("\n\r\n\r"), "\r\n\r\n\r\n");
+  EXPECT_EQ(WithCrLf("plain"), "plain");
+}
+
 TEST(Wildcards, StandForBytes) {
   EXPECT_TRUE(MatchesWildcards("user.con", "*"));
   EXPECT_TRUE(MatchesWildcards("", "*"));

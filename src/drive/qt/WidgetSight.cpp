@@ -9,6 +9,7 @@
 #include <QTabBar>
 
 #include "drive/qt/WidgetPlayer.h"
+#include "platform/Text.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScintillaView.h"
 #include "platform/qt/ToolbarView.h"
@@ -50,7 +51,7 @@ bool WidgetPlayer::Checked(const OptionButton& option) const {
 std::string WidgetPlayer::Text(const TextBox& box) const {
   const QWidget* widget = widgets_.Find(box);
   if (const auto* line = qobject_cast<const QLineEdit*>(widget)) return TypedBytes(line->text());
-  return TypedBytes(As<QPlainTextEdit>(box).toPlainText());
+  return WithCrLf(TypedBytes(As<QPlainTextEdit>(box).toPlainText()));
 }
 
 std::string WidgetPlayer::Text(const ComboBox& box) const {

@@ -5,6 +5,7 @@
 #include <QWheelEvent>
 
 #include "platform/ScopeGuard.h"
+#include "platform/qt/ByteValidator.h"
 #include "platform/qt/ControlView.h"
 #include "platform/qt/QtText.h"
 
@@ -22,6 +23,10 @@ void ComboBoxView::MakeEditable() {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
+  auto* validator = new ByteValidator(this);
+  setValidator(validator);
+  connect(validator, &ByteValidator::refused, this,
+          [this](const QString& reason) { ShowRefusal(*this, reason); });
   // The toolkit takes a typed text that equals an entry for a pick of it, on Return and when the
   // focus leaves. Here only a pick is a pick.
   setDuplicatesEnabled(true);

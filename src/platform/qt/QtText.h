@@ -9,7 +9,8 @@ namespace tessel {
 
 /// Bytes shown as Windows-1252, one character each.
 QString ShownText(std::string_view bytes);
-/// The bytes of what a person typed; characters that Windows-1252 does not have become "?".
+/// The bytes of a text on the screen; characters that Windows-1252 does not have (no box takes
+/// them) become "?".
 std::string TypedBytes(const QString& text);
 
 /// A text with a file's name in it: read as UTF-8 where it is that, else as Windows-1252.

@@ -44,6 +44,8 @@ constexpr Setting kSettings[] = {
     {Sci::SCI_SETSCROLLWIDTHTRACKING, 1},
     {Sci::SCI_SETBUFFEREDDRAW, 0},  // Qt buffers the whole window
     {Sci::SCI_SETLAYOUTCACHE, Sci::SC_CACHE_PAGE},
+    // What comes into sight comes with some lines around it.
+    {Sci::SCI_SETYCARETPOLICY, Sci::CARET_SLOP | Sci::CARET_EVEN, 5},
     {Sci::SCI_SETCARETWIDTH, 2},
     {Sci::SCI_SETCARETLINEVISIBLE, 1},
     {Sci::SCI_SETEXTRAASCENT, 1},

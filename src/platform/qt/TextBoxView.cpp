@@ -4,13 +4,19 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
+#include "platform/qt/ByteValidator.h"
 #include "platform/qt/ControlView.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/Windows1252Qt.h"
 
 namespace tessel {
 
 TextBoxView::TextBoxView(TextBox& model, QWidget* parent) : QLineEdit(parent), model_(model) {
   setMaxLength(1 << 20);
+  auto* validator = new ByteValidator(this);
+  setValidator(validator);
+  connect(validator, &ByteValidator::refused, this,
+          [this](const QString& reason) { ShowRefusal(*this, reason); });
   connect(this, &QLineEdit::textEdited, this,
           [this](const QString& text) { model_.Type(TypedBytes(text)); });
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
@@ -44,11 +50,17 @@ void TextBoxView::Draw() {
 MultiLineTextBoxView::MultiLineTextBoxView(TextBox& model, QWidget* parent)
     : QPlainTextEdit(parent), model_(model) {
   setTabChangesFocus(true);
-  connect(this, &QPlainTextEdit::textChanged, this,
-          [this] { model_.Type(TypedBytes(toPlainText())); });
+  connect(this, &QPlainTextEdit::textChanged, this, &MultiLineTextBoxView::TakeText);
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
   selectAll_ = model_.SelectAllRequested.Connect([this] { selectAll(); });
   Draw();
+}
+
+void MultiLineTextBoxView::TakeText() {
+  const QString text = toPlainText();
+  if (const auto bytes = BytesOfText(text)) return model_.Type(*bytes);
+  Draw();
+  ShowRefusal(*this, RefusalOf(text));
 }
 
 void MultiLineTextBoxView::focusInEvent(QFocusEvent* event) {
@@ -58,7 +70,7 @@ void MultiLineTextBoxView::focusInEvent(QFocusEvent* event) {
 
 void MultiLineTextBoxView::Draw() {
   const QSignalBlocker quiet(this);
-  const QString wanted = ShownText(model_.Text());
+  const QString wanted = ShownText(model_.Text()).replace("\r\n", "\n");
   if (toPlainText() != wanted) setPlainText(wanted);
   DrawState(*this, model_);
 }

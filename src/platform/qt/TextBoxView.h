@@ -39,6 +39,7 @@ class MultiLineTextBoxView : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  void TakeText();
   void Draw();
 
   TextBox& model_;

@@ -1,0 +1,117 @@
+// Files that another program changes while they are open.
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTest>
+#include <fstream>
+
+#include "host/ChangeNotice.h"
+#include "host/MainWindow.h"
+#include "platform/PosixFiles.h"
+#include "support/FakeServices.h"
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+namespace {
+
+constexpr int kPatience = 5000;  // milliseconds
+
+class ChangedOutside : public testing::Test {
+ protected:
+  ChangedOutside() {
+    WriteOutside("define A 1\r\n");
+    window_.show();
+    window_.OpenFiles({path_});
+    QTest::qWait(300);  // the notice has looked at the file
+  }
+
+  void WriteOutside(const std::string& text) { std::ofstream(path_, std::ios::binary) << text; }
+  std::string OnDisk() const {
+    std::ifstream file(path_, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  static Services With(FakeServices& fakes, Files& files) {
+    const Services s = fakes.Get();
+    return {s.messages, s.fileDialogs, s.forms, s.clipboard, s.settings,     s.pointer,
+            files,      s.random,      s.focus, s.loop,      s.hostDirectory};
+  }
+
+  ChangeNotice& Notice() { return *window_.findChild<ChangeNotice*>(); }
+  void Press(const QString& caption) {
+    for (auto* button : Notice().findChildren<QPushButton*>()) {
+      if (button->text() == caption) return button->click();
+    }
+    FAIL() << "no button " << caption.toStdString();
+  }
+  HostedControls& Controls() { return window_.Control().Tessel().Controls(); }
+  RichTextBox& Editor() { return Controls().rtbCon[0]; }
+  void SaveInPlace() {
+    Controls().dlgCommon.SetHeld({path_, "user.con"});
+    Controls().mnuRtbPopup.Choose("mnuRtbPopupFileSave");
+  }
+
+  TempDirectory directory_;
+  std::string path_ = directory_ / "user.con";
+  FakeServices fakes_;
+  PosixFiles plainFiles_;
+  GuardedFiles files_{plainFiles_};
+  WidgetMap widgets_;
+  MainWindow window_{With(fakes_, files_), widgets_, files_};
+};
+
+TEST_F(ChangedOutside, NobodyIsToldOfAFileThatIsAsItWas) { EXPECT_FALSE(Notice().isVisible()); }
+
+TEST_F(ChangedOutside, TheWindowSaysSo) {
+  WriteOutside("define A 2 // theirs\r\n");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  EXPECT_EQ(Editor().Text(), "define A 1\r\n");
+}
+
+TEST_F(ChangedOutside, ReloadTakesTheirText) {
+  WriteOutside("define A 2 // theirs\r\n");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  Press("&Reload");
+  EXPECT_EQ(Editor().Text(), "define A 2 // theirs\r\n");
+  EXPECT_EQ(Controls().tbsRtb.At(1).image, kBlackDot);
+  EXPECT_FALSE(Notice().isVisible());
+}
+
+TEST_F(ChangedOutside, TheirTextIsNotWrittenOver) {
+  Editor().Type("// mine\r\n");
+  WriteOutside("define A 2 // theirs\r\n");
+  SaveInPlace();
+  EXPECT_EQ(OnDisk(), "define A 2 // theirs\r\n");
+  EXPECT_EQ(Controls().tbsRtb.At(1).image, kRedDot);
+  ASSERT_EQ(fakes_.messages.shown.size(), 1U);
+  EXPECT_NE(fakes_.messages.shown[0].text.find("another program has changed the file"),
+            std::string::npos);
+}
+
+TEST_F(ChangedOutside, KeepMineLetsTheDocumentBeSaved) {
+  Editor().Type("// mine\r\n");
+  WriteOutside("define A 2 // theirs\r\n");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  Press("&Keep Mine");
+  EXPECT_FALSE(Notice().isVisible());
+  SaveInPlace();
+  EXPECT_EQ(OnDisk(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_EQ(Controls().tbsRtb.At(1).image, kBlackDot);
+}
+
+TEST_F(ChangedOutside, AFileThatIsGoneCanBeWrittenAnew) {
+  ASSERT_EQ(std::remove(path_.c_str()), 0);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  SaveInPlace();
+  EXPECT_EQ(OnDisk(), "define A 1\r\n");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !Notice().isVisible(); }, kPatience));
+}
+
+TEST_F(ChangedOutside, ASaveOfOnesOwnIsNoChange) {
+  Editor().Type("// mine\r\n");
+  SaveInPlace();
+  QTest::qWait(500);
+  EXPECT_FALSE(Notice().isVisible());
+}
+
+}  // namespace
+}  // namespace tessel::test
