@@ -9,7 +9,8 @@ build_packages=(
 test_packages=(
   libgtest-dev libgmock-dev librapidcheck-dev
   desktop-file-utils appstream libxml2-utils shared-mime-info groff-base dpkg-dev file
-  clang clang-format clang-tidy strace util-linux
+  clang clang-format clang-tidy util-linux git
+  xvfb xdotool xauth
 )
 fuzz_packages=(clang libclang-rt-14-dev)
 
