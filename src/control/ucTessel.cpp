@@ -1,6 +1,7 @@
 #include "control/ucTessel.h"
 
 #include <array>
+#include <new>
 #include <utility>
 
 #include "control/Commands.h"
@@ -133,6 +134,8 @@ void ucTessel::RunCommand(const std::function<void()>& command) {
     command();
   } catch (const RuntimeError& error) {
     ShowError(error.what());
+  } catch (const std::bad_alloc&) {  // the other documents are still there to be saved
+    ShowError("There is not enough memory for this.");
   }
 }
 

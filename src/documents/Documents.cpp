@@ -1,5 +1,6 @@
 #include "documents/Documents.h"
 
+#include <new>
 #include <utility>
 
 #include "colouring/Colouring.h"
@@ -12,6 +13,21 @@
 #include "settings/Levels.h"
 
 namespace tessel {
+namespace {
+
+/// A document that there is no room for counts as a file that cannot be read.
+std::string ReadDocument(Files& files, const std::string& path) {
+  std::string bytes = files.Read(path);
+  try {
+    // The editor keeps a colour for each byte. Better known before anything is switched.
+    ::operator delete(::operator new(bytes.size()));
+  } catch (const std::bad_alloc&) {
+    throw RuntimeError("Cannot open " + path + ": Cannot allocate memory.");
+  }
+  return bytes;
+}
+
+}  // namespace
 
 Documents::Documents(HostedControls& controls, const Services& services, Levels& levels,
                      const std::string& conPath, StatusText status)
@@ -67,7 +83,7 @@ void Documents::NewFromTemplate(const std::string& code) {
                          BackslashIfNeeded(services_.hostDirectory, separator) + std::string(file);
   if (ReportMissing(path)) return;
   std::string bytes =
-      services_.files.Read(path);  // first: a file that cannot be read opens nothing
+      ReadDocument(services_.files, path);  // first: a file that cannot be read opens nothing
 
   const int slot = PrepareSlot(kUntitled);
   controls_.tbsRtb.SetTabCaption(slot + 1, kUntitled);
@@ -95,7 +111,7 @@ void Documents::OpenFile(const std::string& path) {
     }
   }
   std::string bytes =
-      services_.files.Read(path);  // first: a file that cannot be read opens nothing
+      ReadDocument(services_.files, path);  // first: a file that cannot be read opens nothing
 
   const int slot = PrepareSlot(name);
   tabs.SetTabCaption(slot + 1, AsciiLower(name));
@@ -170,7 +186,7 @@ void Documents::ReloadDocument() {
   const std::string path = controls_.tbsRtb.At(slot + 1).tag;
   const Position caret = editor.SelStart();
   const bool coloured = editor.Tag() == kColourMode;
-  editor.LoadFile(path, services_.files.Read(path));
+  editor.LoadFile(path, ReadDocument(services_.files, path));
   editor.SetTag(kPlainMode);
   if (coloured) ColorizeDocument(editor, status_);
   editor.SetSelStart(caret);

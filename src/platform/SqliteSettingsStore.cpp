@@ -158,8 +158,14 @@ void SqliteSettingsStore::MakeSchema() {
 /// Of itself SQLite only notices damage that it cannot read past: the rest would give wrong
 /// answers.
 void SqliteSettingsStore::RefuseIfDamaged() {
-  Statement check(*this, "PRAGMA integrity_check(1)");
-  if (!check.Step() || check.Bytes(0) != "ok") Fail("it is damaged");
+  {
+    Statement check(*this, "PRAGMA integrity_check(1)");
+    if (!check.Step() || check.Bytes(0) != "ok") Fail("it is damaged");
+  }
+  // Pages that are remembered from the check would hide what happens to the file later.
+  sqlite3_db_release_memory(database_.get());
+  // The check has read every page: what becomes of the file from now on would not be noticed.
+  Execute("PRAGMA shrink_memory");
 }
 
 std::optional<std::string> SqliteSettingsStore::GetSetting(const std::string& section,

@@ -14,8 +14,8 @@ constexpr std::size_t kMostColours = 256;
 
 void TextStore::Assign(std::string bytes) {
   const Position before = Length();
+  colours_ = std::string(bytes.size(), '\0');  // may throw: before anything has changed
   bytes_ = std::move(bytes);
-  colours_.assign(bytes_.size(), '\0');
   palette_.assign(1, kBlack);
   EmptyUndoBuffer();
   if (view_ != nullptr) view_->Replaced(0, before, Length());
@@ -23,22 +23,34 @@ void TextStore::Assign(std::string bytes) {
 
 void TextStore::Replace(Position at, Position length, std::string_view inserted, Colour colour) {
   if (length == 0 && inserted.empty()) return;
-  const char index = PaletteIndex(colour);  // may throw: before anything has changed
-  redo_.clear();
-  if (!stepStarted_ || undo_.empty()) undo_.emplace_back();
-  stepStarted_ = openSteps_ > 0;
-  Step& step = undo_.back();
-  const bool continues =
-      length == 0 && !step.empty() && step.back().at + std::ssize(step.back().inserted) == at;
+  // What may throw comes first: without room nothing has changed.
+  const char index = PaletteIndex(colour);
+  MakeRoom(length, inserted);
+  Step* step = stepStarted_ && !undo_.empty() ? &undo_.back() : nullptr;
+  const bool continues = step != nullptr && length == 0 && !step->empty() &&
+                         step->back().at + std::ssize(step->back().inserted) == at;
   if (continues) {
-    step.back().inserted += inserted;
+    step->back().inserted += inserted;
   } else {
-    step.push_back({at, bytes_.substr(at, length), std::string(inserted)});
+    Edit edit{at, bytes_.substr(at, length), std::string(inserted)};
+    if (step == nullptr) step = &undo_.emplace_back();
+    step->push_back(std::move(edit));
   }
+  redo_.clear();
+  stepStarted_ = openSteps_ > 0;
   Change(at, length, inserted, index);
 }
 
+void TextStore::MakeRoom(Position length, std::string_view inserted) {
+  const std::size_t size = bytes_.size() - static_cast<std::size_t>(length) + inserted.size();
+  if (size > bytes_.size()) {
+    bytes_.reserve(size);
+    colours_.reserve(size);
+  }
+}
+
 void TextStore::Change(Position at, Position length, std::string_view inserted, char colourIndex) {
+  MakeRoom(length, inserted);
   bytes_.replace(at, length, inserted);
   colours_.replace(at, length, inserted.size(), colourIndex);
   if (view_ != nullptr) view_->Replaced(at, length, std::ssize(inserted));

@@ -74,6 +74,7 @@ class TextStore {
   };
   using Step = std::vector<Edit>;
 
+  void MakeRoom(Position length, std::string_view inserted);
   void Change(Position at, Position length, std::string_view inserted, char colourIndex);
   char PaletteIndex(Colour colour);
 

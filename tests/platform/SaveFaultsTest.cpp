@@ -3,17 +3,16 @@
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <filesystem>
 #include <string>
 
 #include "platform/PosixFiles.h"
 #include "platform/RuntimeError.h"
 #include "support/ChildProcess.h"
+#include "support/FileLimits.h"
 #include "support/SystemCalls.h"
 #include "support/TempDirectory.h"
 
@@ -38,13 +37,6 @@ ino_t InodeOf(const std::string& path) {
   struct stat status {};
   ::stat(path.c_str(), &status);
   return status.st_ino;
-}
-
-/// A writing beyond the limit fails as on a full disk.
-void LimitFileSize(rlim_t bytes) {
-  ::signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{bytes, bytes};
-  if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("no limit");
 }
 
 std::string Save(const std::string& path, std::string_view bytes = kNew) {

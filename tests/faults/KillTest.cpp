@@ -1,0 +1,135 @@
+// The program is killed while it saves: the file holds the old bytes or the new ones, the store all
+// of a writing or nothing of it.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <thread>
+
+#include "support/ChildProcess.h"
+#include "support/RealWorld.h"
+#include "words/ScriptWords.h"
+
+namespace tessel::test {
+namespace {
+
+using testing::AnyOf;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+/// TESSEL_KILL_ROUNDS, for a longer run.
+int Rounds() {
+  const char* wanted = std::getenv("TESSEL_KILL_ROUNDS");
+  return wanted == nullptr ? 100 : std::atoi(wanted);
+}
+
+/// Starts a program that gets ready with `prepare`, goes on with `work` for ever, and is killed at
+/// a random moment of it.
+template <class Prepare, class Work>
+void KillAtARandomMoment(Prepare prepare, Work work, std::chrono::microseconds moment) {
+  std::array<int, 2> ready{};
+  ASSERT_EQ(::pipe(ready.data()), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    auto state = prepare();
+    if (::write(ready[1], "x", 1) != 1) ::_exit(1);
+    for (int i = 0;; ++i) work(*state, i);
+  }
+  ::close(ready[1]);
+  char byte = 0;
+  const bool started = ::read(ready[0], &byte, 1) == 1;
+  ::close(ready[0]);
+  std::this_thread::sleep_for(moment);
+  ::kill(child, SIGKILL);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  ASSERT_TRUE(started);
+  ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "it ended by itself";
+}
+
+class KillTest : public testing::Test {
+ protected:
+  /// Some are killed during the first save, some after dozens.
+  std::chrono::microseconds Moment() {
+    return std::chrono::microseconds(std::uniform_int_distribution<int>(0, 20'000)(random));
+  }
+
+  TempDirectory directory;
+  std::string store = directory / "settings/settings.db";
+  std::mt19937 random{20'240};
+};
+
+TEST_F(KillTest, ASaveLeavesOneOfTheTwoTextsWhole) {
+  const std::array<std::string, 2> texts = {std::string(300'000, 'a'), std::string(500'000, 'b')};
+  std::string path;
+  int halfWay = 0;
+  for (int round = 0; round < Rounds(); ++round) {
+    const std::string name = "files" + std::to_string(round);
+    path = directory.Put(name + "/user.con", texts[0]);
+    ASSERT_NO_FATAL_FAILURE(KillAtARandomMoment(
+        [&] {
+          auto program = std::make_unique<Program>(store);
+          program->Open(path);
+          return program;
+        },
+        [&](Program& program, int i) {
+          program.Editor().SetText(texts[(i + 1) % 2]);
+          program.SaveAs(path);
+        },
+        Moment()));
+    const std::string bytes = BytesOf(path);
+    ASSERT_TRUE(bytes == texts[0] || bytes == texts[1])
+        << "round " << round << ": " << bytes.size() << " bytes";
+    int others = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(directory / name)) {
+      const std::string found = entry.path().filename();
+      EXPECT_THAT(found, AnyOf("user.con", StartsWith(".tessel-")));
+      if (found != "user.con") ++others;
+    }
+    EXPECT_LE(others, 1);
+    halfWay += others;
+    std::filesystem::remove_all(directory / name);
+  }
+  // The test is worth something only when kills did hit the inside of a save.
+  EXPECT_GT(halfWay, Rounds() / 20);
+  RecordProperty("KilledWithANewFileHalfWritten", halfWay);
+}
+
+TEST_F(KillTest, WordsAreInTheStoreAllOrNot) {
+  constexpr int kWords = 40;
+  int changed = 0;
+  std::string last;
+  for (int round = 0; round < Rounds(); ++round) {
+    ASSERT_NO_FATAL_FAILURE(KillAtARandomMoment(
+        [&] { return std::make_unique<Program>(store); },
+        [&](Program& program, int i) {
+          std::vector<ScriptWord> words;
+          for (int w = 0; w < kWords; ++w) {
+            words.push_back({"word" + std::to_string(w),
+                             "[" + std::to_string(round) + "/" + std::to_string(i) + "]"});
+          }
+          WriteScriptWords(program.settings, words);
+        },
+        Moment()));
+    Program program(store);
+    ASSERT_THAT(program.reports, IsEmpty());
+    const auto words = ReadScriptWords(program.settings);
+    if (words.empty()) continue;
+    ASSERT_EQ(words.size(), kWords);
+    for (const ScriptWord& word : words) {
+      ASSERT_EQ(word.parameters, words[0].parameters) << "round " << round;
+    }
+    if (words[0].parameters != last) ++changed;
+    last = words[0].parameters;
+  }
+  EXPECT_GT(changed, 0);
+}
+
+}  // namespace
+}  // namespace tessel::test
