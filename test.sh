@@ -14,7 +14,7 @@ step() { echo "==> $* ($((SECONDS - started)) s)"; }
 export QT_QPA_PLATFORM=offscreen
 
 step "Checking the format"
-git ls-files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' 'bench/*.h' 'bench/*.cpp' |
+git ls-files 'src/*.h' 'src/*.cpp' 'tests/*.h' 'tests/*.cpp' 'bench/*.h' 'bench/*.cpp' 'docs/*.cpp' 'examples/*.cpp' |
   xargs clang-format --dry-run --Werror
 
 step "Building (build/release)"
@@ -26,7 +26,7 @@ cmake --preset asan-ubsan -DTESSEL_TESTS=ON -DTESSEL_QT=OFF >/dev/null
 cmake --build --preset asan-ubsan -j "$jobs" | tail -n 1
 
 step "Linting the logic"
-git ls-files 'src/*.cpp' | grep -vE '^src/(platform/qt|host|cli)/' |
+git ls-files 'src/*.cpp' | grep -vE '^src/(platform/qt|drive/qt|host)/' |
   xargs -n 4 -P "$jobs" clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option -p build/asan-ubsan 2>/dev/null
 
 step "Testing under the sanitizers"

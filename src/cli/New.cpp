@@ -12,6 +12,7 @@ void AddNew(CLI::App& program, int& status) {
   };
   auto options = std::make_shared<Options>();
   std::vector<std::string> codes;
+  codes.reserve(kTemplates.size());
   for (const Template& entry : kTemplates) codes.emplace_back(entry.code);
 
   CLI::App* command = program.add_subcommand("new", "Start a file from a template");

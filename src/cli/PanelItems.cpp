@@ -13,7 +13,7 @@ constexpr std::string_view kDefineWord = "define ";
 // The panel never writes this text of a value box, so it marks "nothing found".
 constexpr const char* kNothingFound = "  ";
 
-std::string DefineName(std::string key) {
+std::string DefineName(const std::string& key) {
   return key.starts_with(kDefineWord) ? key.substr(kDefineWord.size()) : key;
 }
 

@@ -71,7 +71,8 @@ std::string FollowLinks(std::string path) {
     const auto length =
         Checked([&] { return ::readlink(path.c_str(), target.data(), target.size()); });
     target.resize(static_cast<std::size_t>(length));
-    path = target.starts_with('/') ? target : DirectoryPart(path) + target;
+    if (!target.starts_with('/')) target.insert(0, DirectoryPart(path));
+    path = std::move(target);
   }
   throw FileProblem(ELOOP);
 }
