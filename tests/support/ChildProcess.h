@@ -13,6 +13,9 @@
 
 #include "support/TempDirectory.h"
 
+/// Only in a build that measures coverage; such a process ends without writing it down by itself.
+extern "C" void __gcov_dump() __attribute__((weak));
+
 namespace tessel::test {
 
 /// Runs `action` in a child process and returns the text it returns, or "error: " and the text of
@@ -29,6 +32,7 @@ std::string InChild(Action action) {
     } catch (const std::exception& error) {
       result = std::string("error: ") + error.what();
     }
+    if (__gcov_dump != nullptr) __gcov_dump();
     const bool sent = ::write(ends[1], result.data(), result.size()) == std::ssize(result);
     ::_exit(sent ? 0 : 1);
   }
