@@ -16,7 +16,8 @@ constexpr std::string_view kLineBreaks = "\r\n";
 // search for the next one starts: kNotFound when there is nothing left to look for.
 
 Position ColourBlockComment(RichTextBox& editor, Position at) {
-  const Position close = editor.Find("*/", at, std::nullopt, kFindWholeWord);
+  static const TextPattern end("*/", kFindWholeWord);
+  const Position close = editor.Find(end, at);
   editor.SetSelStart(at);
   if (close == kNotFound) {
     editor.SetSelLength(editor.Length() - at);
@@ -76,9 +77,9 @@ Position ColourOccurrence(RichTextBox& editor, Position at, const ColorWord& ent
 /// Returns false when the word does not occur at all.
 template <class AfterEach>
 bool ColourOccurrences(RichTextBox& editor, const ColorWord& entry, AfterEach afterEach) {
+  const TextPattern word(entry.word, kFindWholeWord);
   const auto next = [&](Position from) {
-    return from == kNotFound ? kNotFound
-                             : editor.Find(entry.word, from, std::nullopt, kFindWholeWord);
+    return from == kNotFound ? kNotFound : editor.Find(word, from);
   };
   Position at = next(0);
   if (at == kNotFound) return false;

@@ -9,9 +9,10 @@ void ExtendToLineEnd(RichTextBox& editor) { editor.Span("\n", true, true); }
 
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
   std::string result;
+  const TextPattern pattern(from, kFindDefault);
   Position copied = 0;
-  for (Position at = FindText(text, from, 0, std::ssize(text), kFindDefault); at != kNotFound;
-       at = FindText(text, from, copied, std::ssize(text), kFindDefault)) {
+  for (Position at = pattern.FindIn(text, 0, std::ssize(text)); at != kNotFound;
+       at = pattern.FindIn(text, copied, std::ssize(text))) {
     result += text.substr(copied, at - copied);
     result += to;
     copied = at + std::ssize(from);

@@ -53,13 +53,18 @@ Position ScanPlain(const char* text, Position from, Position last, const Anchors
 
 #ifdef TESSEL_SCAN_X86
 
-// Both vector loops work alike: four blocks at a time while there is nothing to see, then block by
-// block, and at the end one block that overlaps those before.
+// Both vector loops work alike: four blocks at a time, then block by block, and at the end one
+// block that overlaps those before. A search with many hits begins here again behind each of them:
+// the first match of four blocks is found without looking at them again.
 
 inline __m128i Broadcast16(unsigned char byte) { return _mm_set1_epi8(static_cast<char>(byte)); }
 
 inline __m128i Load16(const char* at) {
   return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+}
+
+inline std::uint64_t Places16(__m128i match) {
+  return static_cast<unsigned>(_mm_movemask_epi8(match));
 }
 
 struct Lanes16 {
@@ -78,9 +83,6 @@ struct Lanes16 {
         _mm_cmpeq_epi8(_mm_or_si128(Load16(at + secondOffset), secondCase), secondValue);
     return _mm_and_si128(first, second);
   }
-  unsigned Places(const char* at) const {
-    return static_cast<unsigned>(_mm_movemask_epi8(Match(at)));
-  }
 
   Position firstOffset, secondOffset;
   __m128i firstCase, firstValue, secondCase, secondValue;
@@ -93,17 +95,22 @@ Position ScanSse2(const char* text, Position from, Position last, const Anchors&
   Position at = from;
   for (; at + 4 * kBlock - 1 <= last; at += 4 * kBlock) {
     const char* block = text + at;
-    const __m128i low = _mm_or_si128(lanes.Match(block), lanes.Match(block + kBlock));
-    const __m128i high =
-        _mm_or_si128(lanes.Match(block + 2 * kBlock), lanes.Match(block + 3 * kBlock));
-    if (_mm_movemask_epi8(_mm_or_si128(low, high)) != 0) break;
+    const __m128i m0 = lanes.Match(block);
+    const __m128i m1 = lanes.Match(block + kBlock);
+    const __m128i m2 = lanes.Match(block + 2 * kBlock);
+    const __m128i m3 = lanes.Match(block + 3 * kBlock);
+    const __m128i any = _mm_or_si128(_mm_or_si128(m0, m1), _mm_or_si128(m2, m3));
+    if (_mm_movemask_epi8(any) != 0) {
+      return at + std::countr_zero(Places16(m0) | Places16(m1) << 16 | Places16(m2) << 32 |
+                                   Places16(m3) << 48);
+    }
   }
   for (; at + kBlock - 1 <= last; at += kBlock) {
-    if (const unsigned places = lanes.Places(text + at)) return at + std::countr_zero(places);
+    if (const auto places = Places16(lanes.Match(text + at))) return at + std::countr_zero(places);
   }
   if (at > last) return last + 1;
   const Position lastBlock = last - kBlock + 1;
-  const unsigned places = lanes.Places(text + lastBlock) >> (at - lastBlock);
+  const auto places = Places16(lanes.Match(text + lastBlock)) >> (at - lastBlock);
   return places == 0 ? last + 1 : at + std::countr_zero(places);
 }
 
@@ -115,6 +122,10 @@ TESSEL_AVX2 inline __m256i Broadcast32(unsigned char byte) {
 
 TESSEL_AVX2 inline __m256i Load32(const char* at) {
   return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(at));
+}
+
+TESSEL_AVX2 inline std::uint64_t Places32(__m256i match) {
+  return static_cast<unsigned>(_mm256_movemask_epi8(match));
 }
 
 struct Lanes32 {
@@ -133,9 +144,6 @@ struct Lanes32 {
         _mm256_cmpeq_epi8(_mm256_or_si256(Load32(at + secondOffset), secondCase), secondValue);
     return _mm256_and_si256(first, second);
   }
-  TESSEL_AVX2 unsigned Places(const char* at) const {
-    return static_cast<unsigned>(_mm256_movemask_epi8(Match(at)));
-  }
 
   Position firstOffset, secondOffset;
   __m256i firstCase, firstValue, secondCase, secondValue;
@@ -149,17 +157,23 @@ TESSEL_AVX2 Position ScanAvx2(const char* text, Position from, Position last,
   Position at = from;
   for (; at + 4 * kBlock - 1 <= last; at += 4 * kBlock) {
     const char* block = text + at;
-    const __m256i low = _mm256_or_si256(lanes.Match(block), lanes.Match(block + kBlock));
-    const __m256i high =
-        _mm256_or_si256(lanes.Match(block + 2 * kBlock), lanes.Match(block + 3 * kBlock));
-    if (_mm256_movemask_epi8(_mm256_or_si256(low, high)) != 0) break;
+    const __m256i m0 = lanes.Match(block);
+    const __m256i m1 = lanes.Match(block + kBlock);
+    const __m256i m2 = lanes.Match(block + 2 * kBlock);
+    const __m256i m3 = lanes.Match(block + 3 * kBlock);
+    const __m256i any = _mm256_or_si256(_mm256_or_si256(m0, m1), _mm256_or_si256(m2, m3));
+    if (_mm256_movemask_epi8(any) != 0) {
+      const std::uint64_t low = Places32(m0) | Places32(m1) << 32;
+      const std::uint64_t high = Places32(m2) | Places32(m3) << 32;
+      return at + (low != 0 ? std::countr_zero(low) : 64 + std::countr_zero(high));
+    }
   }
   for (; at + kBlock - 1 <= last; at += kBlock) {
-    if (const unsigned places = lanes.Places(text + at)) return at + std::countr_zero(places);
+    if (const auto places = Places32(lanes.Match(text + at))) return at + std::countr_zero(places);
   }
   if (at > last) return last + 1;
   const Position lastBlock = last - kBlock + 1;
-  const unsigned places = lanes.Places(text + lastBlock) >> (at - lastBlock);
+  const auto places = Places32(lanes.Match(text + lastBlock)) >> (at - lastBlock);
   return places == 0 ? last + 1 : at + std::countr_zero(places);
 }
 
@@ -202,9 +216,6 @@ std::span<const ScanVariant> ScanVariants() {
   return variants;
 }
 
-Position ScanForAnchors(const char* text, Position from, Position last, const Anchors& anchors) {
-  static const ScanFunction scan = ScanVariants().back().scan;
-  return scan(text, from, last, anchors);
-}
+ScanFunction FastestScan() { return ScanVariants().back().scan; }
 
 }  // namespace tessel

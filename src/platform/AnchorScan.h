@@ -39,7 +39,6 @@ struct ScanVariant {
 /// All of them, the plain one first and the fastest last. They differ in speed alone.
 std::span<const ScanVariant> ScanVariants();
 
-/// The fastest one.
-Position ScanForAnchors(const char* text, Position from, Position last, const Anchors& anchors);
+ScanFunction FastestScan();
 
 }  // namespace tessel

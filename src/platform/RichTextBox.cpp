@@ -102,10 +102,14 @@ void RichTextBox::SetSelColor(Colour colour) {
 
 Position RichTextBox::Find(std::string_view wanted, Position start, std::optional<Position> end,
                            int options) {
+  return Find(TextPattern(wanted, options), start, end);
+}
+
+Position RichTextBox::Find(const TextPattern& wanted, Position start, std::optional<Position> end) {
   RejectNegative(start, "the start of a search");
   EndRunOfTyping();
-  const Position found = FindText(Bytes(), wanted, start, end.value_or(Length()), options);
-  if (found != kNotFound) MoveSelection(found, std::ssize(wanted));
+  const Position found = wanted.FindIn(Bytes(), start, end.value_or(Length()));
+  if (found != kNotFound) MoveSelection(found, wanted.Length());
   return found;
 }
 

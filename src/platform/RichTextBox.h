@@ -59,11 +59,14 @@ class RichTextBox : public Control {
   /// Of an empty selection: holds for the next text inserted at that caret.
   void SetSelColor(Colour colour);
 
-  /// Searches from `start` to `end` (to the end of the text when left out); see FindText. Selects a
-  /// hit and returns its position; a miss returns kNotFound and leaves the selection. A negative
-  /// start is a RuntimeError.
+  /// Searches from `start` to `end` (to the end of the text when left out); see TextPattern.
+  /// Selects a hit and returns its position; a miss returns kNotFound and leaves the selection. A
+  /// negative start is a RuntimeError.
   Position Find(std::string_view wanted, Position start, std::optional<Position> end = std::nullopt,
                 int options = kFindDefault);
+  /// The same with a pattern that is used again and again.
+  Position Find(const TextPattern& wanted, Position start,
+                std::optional<Position> end = std::nullopt);
   /// Forward: moves the selection's end on over characters that are in `set` (`negate`: that are
   /// not). Backward: moves its start back. The other end stays.
   void Span(std::string_view set, bool forward, bool negate);
