@@ -164,8 +164,6 @@ void SqliteSettingsStore::RefuseIfDamaged() {
   }
   // Pages that are remembered from the check would hide what happens to the file later.
   sqlite3_db_release_memory(database_.get());
-  // The check has read every page: what becomes of the file from now on would not be noticed.
-  Execute("PRAGMA shrink_memory");
 }
 
 std::optional<std::string> SqliteSettingsStore::GetSetting(const std::string& section,
