@@ -68,7 +68,7 @@ void MakePrivateFile(const std::string& path) {
 }  // namespace
 
 std::string DefaultSettingsPath() {
-  if (const std::string store = FromEnvironment("ZANTHMAN_STORE"); !store.empty()) return store;
+  if (std::string store = FromEnvironment("ZANTHMAN_STORE"); !store.empty()) return store;
   std::string directory = FromEnvironment("XDG_CONFIG_HOME");
   // A relative directory there is to be ignored, says the standard of base directories.
   if (!directory.starts_with('/')) directory = HomeDirectory() + "/.config";
