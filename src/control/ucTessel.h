@@ -65,7 +65,8 @@ class ucTessel {
   /// Runs a command as every event of a hosted control is run: a RuntimeError that ends the
   /// outermost command puts the editor and the pointer back and becomes a message.
   void RunCommand(const std::function<void()>& command);
-  /// True while a command is on its way (not while a modal form waits): no time to close the control.
+  /// True while a command is on its way (not while a modal form waits): no time to close the
+  /// control.
   bool Running() const { return commandDepth_ > 0; }
 
  private:

@@ -33,8 +33,8 @@ class Documents {
   /// was cancelled.
   bool CloseAll();
 
-  /// Takes the current document's text from its file again; it counts as unmodified then. For a host
-  /// that sees the file changed by others.
+  /// Takes the current document's text from its file again; it counts as unmodified then. For a
+  /// host that sees the file changed by others.
   void ReloadDocument();
 
   /// The document tab was clicked: shows its editor and parks the others.
