@@ -1,5 +1,7 @@
+#include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ControlsFixture.h"
@@ -55,6 +57,43 @@ TEST(EventTest, LetsAHandlerDropItselfAndRaiseAgain) {
   event.Raise();
   event.Raise();
   EXPECT_EQ(calls, 3);
+}
+
+TEST(EventTest, CallsNoHandlerThatANestedRaiseDropped) {
+  Event<> event;
+  std::vector<std::string> calls;
+  Subscription dropped;
+  bool nested = false;
+  const Subscription first = event.Connect([&] {
+    calls.push_back("first");
+    if (std::exchange(nested, true)) {
+      dropped.reset();
+    } else {
+      event.Raise();
+    }
+  });
+  dropped = event.Connect([&] { calls.push_back("dropped"); });
+  const Subscription last = event.Connect([&] { calls.push_back("last"); });
+  event.Raise();
+  EXPECT_THAT(calls, ElementsAre("first", "first", "last", "last"));
+}
+
+TEST(EventTest, FreesWhatADroppedHandlerHoldsWithALaterRaise) {
+  Event<> event;
+  const auto held = std::make_shared<int>(0);
+  const Subscription other = event.Connect([] {});
+  event.Connect([held] {}).reset();
+  event.Raise();
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST(EventTest, MayEndBeforeItsSubscriptions) {
+  Subscription subscription;
+  {
+    Event<> event;
+    subscription = event.Connect([] {});
+  }
+  EXPECT_NO_THROW(subscription.reset());
 }
 
 TEST(EventTest, StaysUsableAfterAnExceptionOfAHandler) {
