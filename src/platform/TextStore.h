@@ -39,6 +39,9 @@ class TextStore {
   std::optional<Colour> UniformColour(Position at, Position length) const;
   /// Colours are no undo step. A store holds at most 256 different colours: a RuntimeError beyond.
   void Paint(Position at, Position length, Colour colour);
+  /// For a view: each byte's colour as an index into the palette. Valid until the next change.
+  std::string_view ColourIndices() const { return colours_; }
+  const std::vector<Colour>& Palette() const { return palette_; }
   /// All maximal runs of one colour, in order; black ones too.
   std::vector<ColourRun> Runs(Position at, Position length) const;
 

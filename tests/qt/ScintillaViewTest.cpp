@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/qt/QtClipboard.h"
@@ -113,6 +114,46 @@ TEST_F(ScintillaViewShows, ColoursGivenWhileInvisible) {
   Select(2, 3);
   model.SetSelColor(kGreen);
   model.SetVisible(true);
+  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+}
+
+TEST_F(ScintillaViewShows, ColoursWhereItDrawsAndTheRestWhenThatIsDrawn) {
+  std::string text;
+  for (int line = 0; line < 5000; ++line) text += "\xE4 line\r\n";
+  model.SetText(text);
+  Select(0, model.Length());
+  Park();
+  model.SetSelColor(kRed);
+  model.SetSelStart(0);
+  Unpark();
+  view.viewport()->repaint();
+  const auto size = view.SendScintilla(QsciScintillaBase::SCI_GETLENGTH);
+  const auto styleAt = [&](long at) {
+    return view.SendScintilla(QsciScintillaBase::SCI_GETSTYLEAT, at);
+  };
+  EXPECT_NE(styleAt(0), 0);
+  EXPECT_EQ(styleAt(size - 1), 0);
+  model.SetSelStart(model.Length());
+  view.viewport()->repaint();
+  EXPECT_EQ(styleAt(size - 1), styleAt(0));
+  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+}
+
+TEST_F(ScintillaViewShows, ColoursThatAHandlerGivesWhileAPersonTypes) {
+  model.SetText("one two");
+  view.viewport()->repaint();
+  bool painted = false;
+  const Subscription handler = model.Change.Connect([&] {
+    if (std::exchange(painted, true)) return;
+    view.viewport()->repaint();  // in the middle, while the widget is ahead of the model
+    model.Store().Paint(0, 3, kRed);
+    model.Change.Raise();
+  });
+  model.SetSelStart(7);
+  view.typeText("x");
+  view.viewport()->repaint();
+  EXPECT_NE(view.SendScintilla(QsciScintillaBase::SCI_GETSTYLEAT, 0L), 0);
+  EXPECT_EQ(Displayed(), "one twox");
   EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
 }
 

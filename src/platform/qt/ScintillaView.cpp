@@ -22,6 +22,7 @@ ScintillaView::ScintillaView(RichTextBox& model, Clipboard& clipboard, QWidget* 
             OnModified(position, type, length);
           });
   connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this] { OnUpdated(); });
+  connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this, &ScintillaView::OnColoursNeeded);
   connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { FitLineNumbers(); });
 
   model_.Store().SetView(this);
@@ -51,30 +52,26 @@ void ScintillaView::Replaced(Position at, Position removed, Position inserted) {
   }
   const QScopedValueRollback guard(applying_, true);
   document_.Replace(at, removed, model_.Bytes().substr(at, inserted));
-  document_.Paint(model_.Store().Runs(at, inserted));
   ShowLineNumbers();
 }
 
-void ScintillaView::Painted(Position at, Position length) {
-  if (takingOver_ || !InStep() || !edits_.Empty() || !InSight(model_)) {
-    coloursStale_ = true;
-    return;
-  }
-  const QScopedValueRollback guard(applying_, true);
-  document_.Paint(model_.Store().Runs(at, length));
+void ScintillaView::Painted(Position at, Position /*length*/) {
+  recolourFrom_ = std::min(recolourFrom_.value_or(at), at);
 }
 
 void ScintillaView::BringUpToDate() {
   if (takingOver_ || applying_) return;
   if (InStep() && !edits_.Empty()) return;  // TakeOver is about to follow
   const QScopedValueRollback guard(applying_, true);
-  if (textStale_) document_.BecomeEqualTo(model_.Bytes());
-  if (!InStep()) {
-    document_.Paint(model_.Store().Runs(0, model_.Length()));
+  if (textStale_) {
+    document_.BecomeEqualTo(model_.Bytes());
+    recolourFrom_ = 0;  // places noted before the text changed say nothing any more
     ShowLineNumbers();
   }
-  textStale_ = coloursStale_ = false;
+  textStale_ = false;
   edits_.Forget();
+  if (recolourFrom_) document_.ForgetColours(*recolourFrom_);
+  recolourFrom_.reset();
   ShowSelection();
   ShowOrHideSelection();
 }
@@ -119,6 +116,15 @@ void ScintillaView::OnUpdated() {
         this, [this] { TakeOver(); }, Qt::QueuedConnection);
 }
 
+void ScintillaView::OnColoursNeeded(SciPosition end) {
+  if (applying_ || takingOver_ || !InStep() || !edits_.Empty()) {
+    recolourFrom_ = 0;  // the two texts differ for the moment: BringUpToDate makes it ask again
+    return;
+  }
+  const QScopedValueRollback guard(applying_, true);
+  document_.ColourUpTo(end, model_.Store());
+}
+
 void ScintillaView::ByHand(const std::function<void()>& action, bool typing) {
   if (hands_ == 0) {
     BringUpToDate();
@@ -152,12 +158,8 @@ void ScintillaView::TakeOverEdits() {
     return;
   }
   if (!gesture_) gesture_.emplace(model_, typing_);
-  Position changedFrom = model_.Length();
-  Position unchangedBehind = model_.Length();
   for (const ScintillaViewEdit& edit : *edits) {
     handedOver_ = edit;
-    changedFrom = std::min(changedFrom, edit.at);
-    unchangedBehind = std::min(unchangedBehind, model_.Length() - edit.at - edit.removed);
     try {
       model_.EditByHand(edit.at, edit.removed, edit.inserted);
     } catch (const RuntimeError& error) {
@@ -169,8 +171,6 @@ void ScintillaView::TakeOverEdits() {
   }
   if (hands_ == 0) gesture_.reset();
   const QScopedValueRollback guard(applying_, true);
-  document_.Paint(
-      model_.Store().Runs(changedFrom, model_.Length() - unchangedBehind - changedFrom));
   ShowLineNumbers();
 }
 

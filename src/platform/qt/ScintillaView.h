@@ -26,10 +26,11 @@ namespace tessel {
 /// be shown, typed (where it has a character), copied and pasted.
 ///
 /// While the model is parked or not visible its changes are only noted; the first moment in which
-/// it can be seen again brings the widget up to date at once. Place, visibility and the enabled
-/// state of the widget are its owner's affair. The model and the clipboard must outlive the view; a
-/// handler of the model's MouseUp that closes the document has to delete the view later
-/// (deleteLater).
+/// it can be seen again brings the widget up to date at once. Colours reach the widget where it is
+/// about to draw them, so that a pass over a large text costs no more than what is in sight. Place,
+/// visibility and the enabled state of the widget are its owner's affair. The model and the
+/// clipboard must outlive the view; a handler of the model's MouseUp that closes the document has
+/// to delete the view later (deleteLater).
 class ScintillaView : public QsciScintillaBase, private TextStoreView {
   Q_OBJECT
 
@@ -85,7 +86,7 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   // --- From the model (TextStoreView and its events)
   void Replaced(Position at, Position removed, Position inserted) override;
   void Painted(Position at, Position length) override;
-  bool InStep() const { return !textStale_ && !coloursStale_; }
+  bool InStep() const { return !textStale_; }
   void BringUpToDate();
   void ShowSelection();
   void ShowOrHideSelection();
@@ -95,6 +96,7 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   // --- From Scintilla
   void OnModified(int position, int type, int length);
   void OnUpdated();
+  void OnColoursNeeded(SciPosition end);
   /// Runs what a person did in the widget and takes its effect over into the model.
   void ByHand(const std::function<void()>& action, bool typing = false);
   /// Hands collected edits and the selection to the model.
@@ -137,7 +139,7 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   std::vector<Subscription> subscriptions_;
 
   bool textStale_ = true;
-  bool coloursStale_ = true;
+  std::optional<Position> recolourFrom_;         // colours changed, from there at the earliest
   bool applying_ = false;                        // the widget is being changed by code
   std::optional<ScintillaViewEdit> handedOver_;  // the edit that the model is being told of
   bool takingOver_ = false;

@@ -2,7 +2,9 @@
 
 #include <Qsci/qsciscintillabase.h>
 
+#include <QWidget>
 #include <algorithm>
+#include <array>
 
 #include "platform/qt/Windows1252Qt.h"
 
@@ -14,6 +16,17 @@ using Sci = QsciScintillaBase;
 unsigned long Unsigned(long value) { return static_cast<unsigned long>(value); }
 
 bool StartsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
+
+/// Spreads what there is one of for each character over the bytes of the characters.
+std::string OnePerByte(std::string_view perCharacter, std::string_view utf8) {
+  std::string perByte;
+  perByte.reserve(utf8.size());
+  std::size_t next = 0;
+  for (const char c : utf8) {
+    perByte += StartsCharacter(c) ? perCharacter[next++] : perByte.back();
+  }
+  return perByte;
+}
 
 }  // namespace
 
@@ -27,6 +40,10 @@ ScintillaViewDocument::ScintillaViewDocument(QsciScintillaBase& widget)
 
 SciPosition ScintillaViewDocument::Size() const {
   return widget_.SendScintilla(Sci::SCI_GETLENGTH);
+}
+
+SciPosition ScintillaViewDocument::ColouredEnd() const {
+  return widget_.SendScintilla(Sci::SCI_GETENDSTYLED);
 }
 
 std::string_view ScintillaViewDocument::Utf8(SciPosition at, SciPosition length) const {
@@ -80,30 +97,34 @@ void ScintillaViewDocument::BecomeEqualTo(std::string_view bytes) {
                                       wanted.size() - static_cast<std::size_t>(head + tail)));
 }
 
-void ScintillaViewDocument::Paint(const std::vector<ColourRun>& runs) {
-  if (runs.empty()) return;
-  const SciPosition start = PositionOf(runs.front().start);
-  const SciPosition end = PositionOf(runs.back().start + runs.back().length);
-  const bool ascii = end - start == runs.back().start + runs.back().length - runs.front().start;
-  const std::string_view text = ascii ? std::string_view() : Utf8(start, end - start);
-  std::string styles;
-  styles.reserve(static_cast<std::size_t>(end - start));
-  for (const ColourRun& run : runs) {
-    const auto style = static_cast<char>(colours_.StyleOf(run.colour));
-    if (ascii) {
-      styles.append(static_cast<std::size_t>(run.length), style);
-      continue;
-    }
-    Position characters = 0;
-    while (styles.size() < text.size()) {
-      characters += StartsCharacter(text[styles.size()]) ? 1 : 0;
-      if (characters > run.length) break;
-      styles += style;
-    }
-  }
+void ScintillaViewDocument::ForgetColours(Position from) {
+  const SciPosition start = PositionOf(from);
+  if (start >= ColouredEnd()) return;
+  widget_.SendScintilla(Sci::SCI_STARTSTYLING, Unsigned(start), 0L);
+  widget_.viewport()->update();
+}
+
+void ScintillaViewDocument::ColourUpTo(SciPosition end, const TextStore& store) {
+  const SciPosition start = ColouredEnd();
+  if (start >= end) return;
+  std::array<char, 256> styleOfIndex{};
+  std::ranges::transform(store.Palette(), styleOfIndex.begin(), [this](Colour colour) {
+    return static_cast<char>(colours_.StyleOf(colour));
+  });
+  const Position first = OffsetOf(start);
+  const Position length = OffsetOf(end) - first;
+  std::string styles(static_cast<std::size_t>(length), '\0');
+  std::ranges::transform(
+      store.ColourIndices().substr(first, length), styles.begin(),
+      [&](char index) { return styleOfIndex[static_cast<unsigned char>(index)]; });
+  if (length != end - start) styles = OnePerByte(styles, Utf8(start, end - start));
   widget_.SendScintilla(Sci::SCI_STARTSTYLING, Unsigned(start), 0L);
   widget_.SendScintilla(Sci::SCI_SETSTYLINGEX, static_cast<uintptr_t>(styles.size()),
                         styles.c_str());
+}
+
+void ScintillaViewDocument::AskForAllColours() {
+  widget_.SendScintilla(Sci::SCI_COLOURISE, Unsigned(ColouredEnd()), -1L);
 }
 
 std::string ScintillaViewDocument::Bytes() const {

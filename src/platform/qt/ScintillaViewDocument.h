@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/TextTypes.h"
+#include "platform/TextStore.h"
 #include "platform/qt/ScintillaViewColours.h"
 #include "platform/qt/ScintillaViewIndex.h"
 
@@ -27,8 +27,15 @@ class ScintillaViewDocument {
   /// Somebody else has inserted a piece.
   void NoteInsertion(SciPosition at, SciPosition length);
   void Replace(Position at, Position removed, std::string_view inserted);
-  /// `runs` are neighbours and in order.
-  void Paint(const std::vector<ColourRun>& runs);
+
+  /// Makes the widget ask for colours (SCN_STYLENEEDED) before it draws what lies behind `from`.
+  /// After a change of the text it does so by itself.
+  void ForgetColours(Position from);
+  /// Colours everything up to `end` that the widget has no colours for, as it stands in `store`.
+  void ColourUpTo(SciPosition end, const TextStore& store);
+  /// Lets the widget ask for all colours that it lacks now.
+  void AskForAllColours();
+
   /// Makes the text equal to `bytes`, by one replacement of what differs.
   void BecomeEqualTo(std::string_view bytes);
 
@@ -42,6 +49,8 @@ class ScintillaViewDocument {
 
  private:
   SciPosition Size() const;
+  /// Up to there Scintilla has the colours; a change of the text takes it back to the change.
+  SciPosition ColouredEnd() const;
   void ReplaceUtf8(SciPosition at, SciPosition removed, std::string_view inserted);
 
   QsciScintillaBase& widget_;

@@ -61,6 +61,7 @@ std::pair<Position, Position> ScintillaView::displayedSelection() {
 std::vector<ColourRun> ScintillaView::displayedColours() {
   TakeOver();
   if (!InStep() || !InSight(model_)) BringUpToDate();
+  document_.AskForAllColours();
   return document_.Runs();
 }
 
