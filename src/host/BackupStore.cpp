@@ -1,0 +1,150 @@
+#include "host/BackupStore.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <random>
+#include <stdexcept>
+#include <utility>
+
+#include "platform/PathResolution.h"
+#include "platform/Paths.h"
+#include "platform/ScopeGuard.h"
+
+namespace tessel {
+namespace {
+
+using posix::FileProblem;
+
+// A name is "<hash of the path>-<nanoseconds since 1970>-<random number>", all of fixed width:
+// names of one file sort by time.
+constexpr std::size_t kHashDigits = 16;
+constexpr std::size_t kTimeDigits = 20;
+constexpr std::size_t kNameLength = kHashDigits + 1 + kTimeDigits + 1 + 8;
+constexpr std::uint64_t kFnvBasis = 14695981039346656037U;
+constexpr std::uint64_t kFnvPrime = 1099511628211U;
+
+std::string HashOf(std::string_view path) {
+  std::uint64_t hash = kFnvBasis;
+  for (const char c : path) hash = (hash ^ static_cast<unsigned char>(c)) * kFnvPrime;
+  char digits[kHashDigits + 1];
+  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+  return digits;
+}
+
+std::string TimeIn(const std::string& name) { return name.substr(kHashDigits + 1, kTimeDigits); }
+
+bool IsBackupName(std::string_view name) {
+  return name.size() == kNameLength && name[kHashDigits] == '-' &&
+         name.find_first_not_of("0123456789abcdef-") == name.npos;
+}
+
+std::vector<std::string> BackupNames(const PrivateFolder& folder) {
+  std::vector<std::string> names = folder.Names();
+  std::erase_if(names, [](const std::string& name) { return !IsBackupName(name); });
+  return names;
+}
+
+long long NanosecondsNow() {
+  using namespace std::chrono;
+  return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
+}
+
+/// Behind all names of the file that exist, also when the clock has been put back.
+std::string NextName(const std::vector<std::string>& names, const std::string& hash) {
+  long long time = NanosecondsNow();
+  for (const std::string& name : names) {
+    if (name.starts_with(hash)) time = std::max(time, std::atoll(TimeIn(name).c_str()) + 1);
+  }
+  char rest[kTimeDigits + 16];
+  std::snprintf(rest, sizeof rest, "-%020lld-%08x", time, std::random_device()());
+  return hash + rest;
+}
+
+bool Belongs(const PrivateFolder& folder, const std::string& name, const std::string& path) {
+  const auto text = DescribeKeptText(folder, name);
+  return text && text->path == path;
+}
+
+}  // namespace
+
+BackupStore::BackupStore(std::string folder, BackupLimits limits)
+    : folder_(std::move(folder)), limits_(limits) {}
+
+void BackupStore::Keep(const std::string& path, std::string_view bytes) {
+  if (bytes.size() > limits_.totalBytes) {
+    throw FileProblem("it is larger than all backups together may be");
+  }
+  const PrivateFolder folder(folder_);
+  // Another program that holds the lock, perhaps for ever, keeps nobody from saving.
+  const posix::Descriptor lock(folder.Lock(".lock", false));
+  if (lock.Number() != -1) folder.RemoveLeftovers();
+  const std::string hash = HashOf(path);
+  const std::string name = NextName(BackupNames(folder), hash);
+  folder.Write(name, HeadOfKeptText({path, NanosecondsNow() / 1'000'000'000, bytes.size()}), bytes);
+  Prune(folder, name);
+}
+
+void BackupStore::Prune(const PrivateFolder& folder, const std::string& newest) const {
+  std::vector<std::string> names = BackupNames(folder);
+  const std::string path = DescribeKeptText(folder, newest).value_or(KeptText{}).path;
+  std::size_t ofThisFile = 0;
+  for (auto name = names.rbegin(); name != names.rend(); ++name) {
+    if (!name->starts_with(newest.substr(0, kHashDigits))) continue;
+    if (!Belongs(folder, *name, path) || ++ofThisFile <= limits_.perFile) continue;
+    folder.Remove(*name);
+    name->clear();
+  }
+  std::erase(names, "");
+  std::ranges::sort(names, {}, TimeIn);
+  std::size_t total = 0;
+  for (const std::string& name : names) total += folder.SizeOf(name).value_or(0);
+  for (const std::string& name : names) {
+    if (total <= limits_.totalBytes) break;
+    if (name == newest) continue;
+    total -= folder.SizeOf(name).value_or(0);
+    folder.Remove(name);
+  }
+}
+
+std::vector<Backup> BackupStore::List() const {
+  if (!posix::StatusOf(folder_)) return {};
+  const PrivateFolder folder(folder_);
+  std::vector<std::string> names = BackupNames(folder);
+  std::ranges::sort(names, std::ranges::greater{}, TimeIn);
+  std::vector<Backup> backups;
+  for (const std::string& name : names) {
+    if (auto text = DescribeKeptText(folder, name)) backups.push_back({std::move(*text), name});
+  }
+  return backups;
+}
+
+std::string BackupStore::Read(const Backup& backup) const {
+  return ReadKeptText(PrivateFolder(folder_), backup.name);
+}
+
+std::string PathOfFile(const std::string& path) {
+  const std::string resolved = posix::ResolveIgnoringCase(path);
+  const std::unique_ptr<char, void (*)(void*)> real(::realpath(resolved.c_str(), nullptr),
+                                                    std::free);
+  return real == nullptr ? resolved : std::string(real.get());
+}
+
+void BackupFiles::Write(const std::string& path, std::string_view bytes) {
+  if (FileExists(files_, path)) KeepOldBytes(path, bytes);
+  files_.Write(path, bytes);
+}
+
+void BackupFiles::KeepOldBytes(const std::string& path, std::string_view replacement) try {
+  const std::string old = files_.Read(path);
+  if (old == replacement) return;
+  backups_.Keep(PathOfFile(path), old);
+  told_ = false;
+} catch (const std::exception& problem) {  // also when there is no memory for it
+  if (std::exchange(told_, true) || !tell_) return;
+  tell_("No backup of the old " + NameOfPath(path, Separator()) + " was kept: " + problem.what());
+}
+
+}  // namespace tessel

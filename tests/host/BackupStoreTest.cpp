@@ -1,0 +1,188 @@
+// Backups, without a window.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <set>
+
+#include "host/BackupStore.h"
+#include "platform/PosixFiles.h"
+#include "support/ChildProcess.h"
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+namespace {
+
+class Backups : public testing::Test {
+ protected:
+  void Save(const std::string& path, const std::string& bytes) { files_.Write(path, bytes); }
+  std::vector<std::string> Texts() const {
+    std::vector<std::string> texts;
+    for (const Backup& backup : store_.List()) texts.push_back(store_.Read(backup));
+    return texts;
+  }
+  static void ExpectPrivate(const std::string& folder) {
+    EXPECT_EQ(ModeOf(folder), 0700U);
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+      EXPECT_EQ(ModeOf(entry.path()), 0600U) << entry.path();
+      EXPECT_TRUE(std::filesystem::is_regular_file(entry.symlink_status())) << entry.path();
+    }
+  }
+
+  TempDirectory directory_;
+  std::string folder_ = directory_ / "state/ZanthMan/backups";
+  PosixFiles plain_;
+  BackupStore store_{folder_};
+  BackupFiles files_{plain_, store_};
+};
+
+TEST_F(Backups, ThereAreNoneBeforeTheFirstSave) { EXPECT_TRUE(store_.List().empty()); }
+
+TEST_F(Backups, ASaveKeepsTheBytesThatItReplaces) {
+  const std::string old("define A 1\r\n\x80\0\xff", 15);
+  const std::string path = directory_.Put("user.con", old);
+  Save(path, "define A 2\r\n");
+  EXPECT_EQ(BytesOf(path), "define A 2\r\n");
+  EXPECT_EQ(Texts(), std::vector{old});
+  const Backup backup = store_.List().at(0);
+  EXPECT_EQ(backup.path, path);
+  EXPECT_EQ(backup.size, old.size());
+  EXPECT_NEAR(static_cast<double>(backup.seconds), static_cast<double>(::time(nullptr)), 5);
+}
+
+TEST_F(Backups, AreForTheOwnersEyesAlone) {
+  const mode_t before = ::umask(0);
+  Save(directory_.Put("user.con", "old"), "new");
+  ::umask(before);
+  ExpectPrivate(folder_);
+}
+
+TEST_F(Backups, AFolderThatOthersCouldReadIsClosedToThem) {
+  std::filesystem::create_directories(folder_);
+  ::chmod(folder_.c_str(), 0777);
+  Save(directory_.Put("user.con", "old"), "new");
+  ExpectPrivate(folder_);
+}
+
+TEST_F(Backups, ANewFileAndEqualBytesNeedNone) {
+  Save(directory_ / "fresh.con", "text");
+  Save(directory_ / "fresh.con", "text");
+  EXPECT_TRUE(store_.List().empty());
+}
+
+TEST_F(Backups, OfTwentyFiveSavesTheLastTwentyAreKept) {
+  const std::string path = directory_.Put("user.con", "text 0");
+  Save(directory_.Put("other.con", "other"), "changed");
+  for (int i = 1; i <= 25; ++i) Save(path, "text " + std::to_string(i));
+  const std::vector<std::string> texts = Texts();
+  ASSERT_EQ(texts.size(), 21U);
+  for (int i = 0; i < 20; ++i) {
+    EXPECT_EQ(texts[static_cast<std::size_t>(i)], "text " + std::to_string(24 - i));
+  }
+  EXPECT_EQ(texts[20], "other");
+}
+
+TEST_F(Backups, TheOldestMakeRoomWhenAllTogetherAreTooMuch) {
+  BackupStore small(folder_, {20, 1000});
+  for (int i = 0; i < 10; ++i) {
+    small.Keep("/file" + std::to_string(i), std::string(300, static_cast<char>('0' + i)));
+  }
+  const std::vector<Backup> left = small.List();
+  ASSERT_EQ(left.size(), 2U);  // three with what describes them are more than 1000 bytes
+  EXPECT_EQ(left[0].path, "/file9");
+  EXPECT_EQ(left[1].path, "/file8");
+}
+
+TEST_F(Backups, OneThatIsTooMuchByItselfIsRefusedAndTakesNoOthersPlace) {
+  BackupStore small(folder_, {20, 1000});
+  small.Keep("/file", "text");
+  EXPECT_THROW(small.Keep("/huge", std::string(1001, 'x')), posix::FileProblem);
+  EXPECT_EQ(small.List().size(), 1U);
+}
+
+TEST_F(Backups, HostileNamesOfFilesNeverBecomeNamesInTheFolder) {
+  const std::string longName = "/" + std::string(4000, 'n');
+  const std::vector<std::string> paths = {"../../escape", "/a/../../b", "/new\nline 1 2\n", "", "/",
+                                          longName,       "/\xff\x80"};
+  for (const std::string& path : paths) store_.Keep(path, "text of " + path);
+  std::set<std::string> listed;
+  for (const Backup& backup : store_.List()) {
+    listed.insert(backup.path);
+    EXPECT_EQ(store_.Read(backup), "text of " + backup.path);
+  }
+  EXPECT_EQ(listed, std::set<std::string>(paths.begin(), paths.end()));
+  EXPECT_EQ(directory_.Names(), std::vector<std::string>{"state"});
+  ExpectPrivate(folder_);
+}
+
+TEST_F(Backups, AFileIsTheSameFileThroughALink) {
+  const std::string path = directory_.Put("user.con", "one");
+  ASSERT_EQ(::symlink(path.c_str(), (directory_ / "link.con").c_str()), 0);
+  Save(directory_ / "link.con", "two");
+  Save(directory_ / "USER.CON", "three");
+  ASSERT_EQ(store_.List().size(), 2U);
+  EXPECT_EQ(store_.List()[0].path, path);
+  EXPECT_EQ(store_.List()[1].path, path);
+}
+
+TEST_F(Backups, DamagedOnesAreNotListed) {
+  const std::string path = directory_.Put("user.con", "one");
+  Save(path, "two");
+  Save(path, "three");
+  const std::string newest = folder_ + "/" + store_.List()[0].name;
+  std::filesystem::resize_file(newest, std::filesystem::file_size(newest) - 1);
+  EXPECT_EQ(Texts(), std::vector<std::string>{"one"});
+}
+
+TEST_F(Backups, OneThatCannotBeKeptIsToldOnceAndTheSaveGoesOn) {
+  directory_.Put("state/ZanthMan", "a file where the folder should be");
+  std::vector<std::string> told;
+  files_.TellProblems([&](const std::string& problem) { told.push_back(problem); });
+  const std::string path = directory_.Put("user.con", "old");
+  Save(path, "new");
+  Save(path, "newer");
+  EXPECT_EQ(BytesOf(path), "newer");
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_NE(told[0].find("No backup of the old user.con was kept"), std::string::npos);
+}
+
+TEST_F(Backups, AFolderThatCannotBeWrittenKeepsNobodyFromSaving) {
+  GiveToOrdinaryUser(directory_.Path());
+  const std::string path = directory_.Put("user.con", "old");
+  GiveToOrdinaryUser(path);
+  std::filesystem::create_directories(directory_ / "state");
+  ::chmod((directory_ / "state").c_str(), 0555);
+  const std::string told = AsOrdinaryUser([&] {
+    std::string problems;
+    files_.TellProblems([&](const std::string& problem) { problems += problem; });
+    Save(path, "new");
+    return problems;
+  });
+  EXPECT_EQ(told, "No backup of the old user.con was kept: Permission denied");
+  EXPECT_EQ(BytesOf(path), "new");
+}
+
+TEST_F(Backups, ALinkInPlaceOfTheFolderIsRefused) {
+  std::filesystem::create_directories(directory_ / "elsewhere");
+  std::filesystem::create_directories(directory_ / "state/ZanthMan");
+  std::filesystem::create_directory_symlink(directory_ / "elsewhere", folder_);
+  EXPECT_THROW(store_.Keep("/file", "text"), posix::FileProblem);
+  EXPECT_TRUE(std::filesystem::is_empty(directory_ / "elsewhere"));
+}
+
+TEST_F(Backups, TheStateFolderFollowsTheEnvironment) {
+  EXPECT_EQ(InChild([] {
+              ::setenv("XDG_STATE_HOME", "/somewhere", 1);
+              return DefaultStateFolder();
+            }),
+            "/somewhere/ZanthMan");
+  EXPECT_EQ(InChild([] {
+              ::setenv("XDG_STATE_HOME", "relative", 1);  // which counts for nothing
+              ::setenv("HOME", "/home/somebody", 1);
+              return DefaultStateFolder();
+            }),
+            "/home/somebody/.local/state/ZanthMan");
+}
+
+}  // namespace
+}  // namespace tessel::test
