@@ -1,0 +1,105 @@
+// Unsaved texts, kept on disk for the case that the program ends without asking.
+#pragma once
+
+#include <condition_variable>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "host/PrivateFolder.h"
+
+namespace tessel {
+
+/// The unsaved texts of this run, in a folder of its own that stays locked while the program lives.
+/// The texts are written by a thread; nothing here waits for the disk but Flush and the end. Texts
+/// stay there for the next run unless Finish was called.
+class RecoveryStore {
+ public:
+  using Id = int;
+
+  /// `folder` is that of all runs. When it cannot be used, that is the problem to tell, and nothing
+  /// is kept.
+  explicit RecoveryStore(std::string folder);
+  ~RecoveryStore();
+  RecoveryStore(const RecoveryStore&) = delete;
+  RecoveryStore& operator=(const RecoveryStore&) = delete;
+
+  /// Keeps the text of a document under a number of the caller's choice, in place of the text that
+  /// had it. `path` is empty for a document without a file.
+  void Keep(Id id, std::string path, std::string bytes);
+  void Drop(Id id);
+  /// Waits until everything is on the disk. Returns false when something could not be kept.
+  bool Flush();
+  /// The program ends normally: nothing that is kept here is needed any more.
+  void Finish();
+  /// What went wrong, once until it works again.
+  std::optional<std::string> TakeProblem();
+
+ private:
+  struct Order {
+    bool keep = false;
+    KeptText text;
+    std::string bytes;
+  };
+
+  void MakeFolder();
+  void Work();
+  void Carry(Id id, const Order& order);
+
+  std::string parent_;
+  std::string name_;
+  std::optional<PrivateFolder> folder_;
+  int lock_ = -1;
+
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::map<Id, Order> orders_;
+  bool working_ = false;
+  bool ending_ = false;
+  std::set<Id> failing_;  // texts that are not on the disk as they should be
+  bool told_ = false;
+  std::string problem_;
+  std::thread worker_;
+};
+
+/// The unsaved texts of runs that ended without asking: killed, crashed, or without power. While it
+/// lives they are offered to nobody else.
+class AbandonedTexts {
+ public:
+  struct Text : KeptText {
+    std::string bytes;
+  };
+  /// The bytes of a file now, or nothing when there is none.
+  using OnDisk = std::function<std::optional<std::string>(const std::string& path)>;
+
+  /// Texts that are safe (their file holds the same bytes) are taken away at once. A folder that
+  /// cannot be used holds no texts.
+  AbandonedTexts(const std::string& folder, const OnDisk& onDisk);
+  ~AbandonedTexts();
+  AbandonedTexts(const AbandonedTexts&) = delete;
+  AbandonedTexts& operator=(const AbandonedTexts&) = delete;
+
+  /// The oldest first.
+  const std::vector<Text>& Texts() const { return texts_; }
+  /// Takes them away for good.
+  void Discard();
+
+ private:
+  struct Run {
+    std::string path;
+    int lock;
+  };
+
+  void Adopt(const std::string& path, const OnDisk& onDisk);
+
+  std::vector<Run> runs_;
+  std::vector<Text> texts_;
+};
+
+}  // namespace tessel

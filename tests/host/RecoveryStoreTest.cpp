@@ -1,0 +1,217 @@
+// Unsaved texts on disk, without a window.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+
+#include "host/RecoveryStore.h"
+#include "support/ChildProcess.h"
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+namespace {
+
+class Recovery : public testing::Test {
+ protected:
+  static std::optional<std::string> OnDisk(const std::string& path) {
+    if (!std::filesystem::exists(path)) return std::nullopt;
+    return BytesOf(path);
+  }
+  AbandonedTexts Abandoned() const { return {folder_, OnDisk}; }
+  std::vector<std::string> Offered() const {
+    std::vector<std::string> texts;
+    const AbandonedTexts abandoned = Abandoned();
+    for (const auto& text : abandoned.Texts()) texts.push_back(text.path + ": " + text.bytes);
+    return texts;
+  }
+  std::vector<std::string> Runs() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+      const std::string name = entry.path().filename();
+      if (!name.starts_with('.')) names.push_back(name);
+    }
+    return names;
+  }
+  /// What a program leaves that keeps these texts and is killed.
+  template <class Action>
+  void KilledAfter(Action action) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+      RecoveryStore store(folder_);
+      action(store);
+      const char done = store.Flush() ? 'y' : 'n';
+      if (::write(ends[1], &done, 1) != 1) ::_exit(1);
+      for (;;) ::pause();
+    }
+    char done = 0;
+    EXPECT_EQ(::read(ends[0], &done, 1), 1);
+    EXPECT_EQ(done, 'y');
+    EXPECT_TRUE(Offered().empty()) << "the program still lives";
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ::close(ends[0]);
+    ::close(ends[1]);
+  }
+
+  TempDirectory directory_;
+  std::string folder_ = directory_ / "state/ZanthMan/recovery";
+};
+
+TEST_F(Recovery, ThereIsNothingToOfferAtTheFirstStart) { EXPECT_TRUE(Offered().empty()); }
+
+TEST_F(Recovery, TheTextOfAKilledProgramIsOffered) {
+  const std::string path = directory_.Put("user.con", "old");
+  KilledAfter([&](RecoveryStore& store) {
+    store.Keep(1, path, std::string("new\0\x80", 5));
+    store.Keep(2, "", "untitled");
+  });
+  const AbandonedTexts abandoned = Abandoned();
+  ASSERT_EQ(abandoned.Texts().size(), 2U);
+  EXPECT_EQ(abandoned.Texts()[0].path, path);
+  EXPECT_EQ(abandoned.Texts()[0].bytes, std::string("new\0\x80", 5));
+  EXPECT_NEAR(static_cast<double>(abandoned.Texts()[0].seconds),
+              static_cast<double>(::time(nullptr)), 10);
+  EXPECT_EQ(abandoned.Texts()[1].path, "");
+}
+
+TEST_F(Recovery, ATextReplacesTheOneOfTheSameDocument) {
+  KilledAfter([&](RecoveryStore& store) {
+    store.Keep(1, "/a", "first");
+    store.Flush();
+    store.Keep(1, "/a", "second");
+  });
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/a: second"});
+}
+
+TEST_F(Recovery, ATextThatWasDroppedIsNotOffered) {
+  KilledAfter([&](RecoveryStore& store) {
+    store.Keep(1, "/a", "saved");
+    store.Keep(2, "/b", "unsaved");
+    store.Flush();
+    store.Drop(1);
+  });
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/b: unsaved"});
+}
+
+TEST_F(Recovery, ATextThatIsSafeOnTheDiskIsNotOfferedAndGoes) {
+  const std::string path = directory_.Put("user.con", "text");
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, path, "text"); });
+  EXPECT_TRUE(Offered().empty());
+  EXPECT_TRUE(Runs().empty());
+}
+
+TEST_F(Recovery, ATextIsOfferedUntilItIsDiscarded) {
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, "/a", "text"); });
+  EXPECT_EQ(Offered().size(), 1U);
+  EXPECT_EQ(Offered().size(), 1U);
+  Abandoned().Discard();
+  EXPECT_TRUE(Offered().empty());
+  EXPECT_TRUE(Runs().empty());
+}
+
+TEST_F(Recovery, TwoProgramsAreNotOfferedTheSame) {
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, "/a", "text"); });
+  const AbandonedTexts first = Abandoned();
+  EXPECT_EQ(first.Texts().size(), 1U);
+  EXPECT_TRUE(Offered().empty());
+}
+
+TEST_F(Recovery, ANormalEndLeavesNothing) {
+  {
+    RecoveryStore store(folder_);
+    store.Keep(1, "/a", "text");
+    store.Finish();
+  }
+  EXPECT_TRUE(Runs().empty());
+}
+
+TEST_F(Recovery, AnEndWithoutGoodByeLeavesTheTexts) {
+  { RecoveryStore(folder_).Keep(1, "/a", "text"); }
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/a: text"});
+}
+
+TEST_F(Recovery, FilesAreForTheOwnersEyesAlone) {
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, "/a", "text"); });
+  EXPECT_EQ(ModeOf(folder_), 0700U);
+  const std::string run = folder_ + "/" + Runs().at(0);
+  EXPECT_EQ(ModeOf(run), 0700U);
+  for (const auto& entry : std::filesystem::directory_iterator(run)) {
+    EXPECT_EQ(ModeOf(entry.path()), 0600U) << entry.path();
+  }
+}
+
+TEST_F(Recovery, ALinkOfThatNameIsReplacedNotFollowed) {
+  const std::string victim = directory_.Put("victim", "precious");
+  {
+    RecoveryStore store(folder_);
+    const std::string run = folder_ + "/" + Runs().at(0);
+    std::filesystem::create_symlink(victim, run + "/text-1");
+    store.Keep(1, "/a", "text");
+    EXPECT_TRUE(store.Flush());
+  }
+  EXPECT_EQ(BytesOf(victim), "precious");
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/a: text"});
+}
+
+TEST_F(Recovery, ALinkInARunsFolderIsNotRead) {
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, "/a", "text"); });
+  const std::string run = folder_ + "/" + Runs().at(0);
+  std::filesystem::copy(run + "/text-1", directory_ / "elsewhere");
+  std::filesystem::create_symlink(directory_ / "elsewhere", run + "/text-2");
+  std::filesystem::create_directory_symlink(run, folder_ + "/run-link");
+  EXPECT_EQ(Offered().size(), 1U);
+}
+
+TEST_F(Recovery, HalfAFileIsNotOfferedAndDoesNoHarmToOthers) {
+  KilledAfter([&](RecoveryStore& store) {
+    store.Keep(1, "/a", "text");
+    store.Keep(2, "/b", "other");
+  });
+  const std::string run = folder_ + "/" + Runs().at(0);
+  std::filesystem::resize_file(run + "/text-1", 30);
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/b: other"});
+}
+
+TEST_F(Recovery, AFolderThatCannotBeUsedIsToldOnce) {
+  directory_.Put("state", "a file where the folder should be");
+  RecoveryStore store(folder_);
+  store.Keep(1, "/a", "text");
+  EXPECT_FALSE(store.Flush());
+  EXPECT_TRUE(store.TakeProblem().has_value());
+  EXPECT_FALSE(store.TakeProblem().has_value());
+  EXPECT_TRUE(Offered().empty());
+}
+
+TEST_F(Recovery, ATextThatCannotBeWrittenIsToldUntilItCan) {
+  RecoveryStore store(folder_);
+  store.Keep(1, "/a", "first");
+  ASSERT_TRUE(store.Flush());
+  const std::string run = folder_ + "/" + Runs().at(0);
+  std::filesystem::rename(run + "/text-1", directory_ / "aside");
+  std::filesystem::create_directories(run + "/text-1/occupied");  // no file can take its place
+  store.Keep(1, "/a", "second");
+  EXPECT_FALSE(store.Flush());
+  EXPECT_TRUE(store.TakeProblem().has_value());
+  std::filesystem::remove_all(run + "/text-1");
+  store.Keep(1, "/a", "third");
+  EXPECT_TRUE(store.Flush());
+}
+
+TEST_F(Recovery, KeepingTenMegabytesTakesNoTimeOfTheCaller) {
+  RecoveryStore store(folder_);
+  std::string bytes(10 << 20, 'x');
+  const auto start = std::chrono::steady_clock::now();
+  for (int i = 0; i < 20; ++i) store.Keep(1, "/a", bytes);
+  const std::chrono::duration<double, std::milli> spent = std::chrono::steady_clock::now() - start;
+  RecordProperty("milliseconds_each", std::to_string(spent.count() / 20));
+  EXPECT_LT(spent.count() / 20, 50);
+  EXPECT_TRUE(store.Flush());
+}
+
+}  // namespace
+}  // namespace tessel::test
