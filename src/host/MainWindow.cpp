@@ -10,7 +10,15 @@
 #include <QVBoxLayout>
 
 #include "documents/DocumentSlots.h"
+#include "host/BackupsDialog.h"
 #include "host/ChangeNotice.h"
+#include "host/RecoveryKeeper.h"
+#include "host/RecoveryOffer.h"
+#include "host/RestoredText.h"
+#include "host/Session.h"
+#include "platform/Paths.h"
+#include "platform/PosixFiles.h"
+#include "platform/RuntimeError.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScintillaView.h"
 
@@ -18,6 +26,7 @@ namespace tessel {
 namespace {
 
 constexpr int kNoticeMilliseconds = 8000;
+constexpr int kSessionMilliseconds = 1000;
 constexpr const char* kToggles[] = {"Colorize", "ShowTabs"};
 
 /// The local files of a drag, or nothing when it holds anything else.
@@ -29,6 +38,14 @@ std::vector<std::string> FilesOf(const QMimeData* data) {
     files.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
   }
   return files;
+}
+
+/// The path by which a file is open, when it is; else its own.
+std::string OpenedPathOf(TesselWidget& control, const std::string& file) {
+  for (const std::string& path : OpenDocumentsOf(control.Tessel().Controls()).paths) {
+    if (PathOfFile(path) == file) return path;
+  }
+  return file;
 }
 
 struct CaretPlace {
@@ -48,7 +65,9 @@ CaretPlace PlaceOfCaret(const ScintillaView& view) {
 }  // namespace
 
 MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
-    : control_(new TesselWidget(services, widgets, this)) {
+    : control_(new TesselWidget(services, widgets, this)),
+      files_(files),
+      messages_(services.messages) {
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
@@ -58,12 +77,30 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   setCentralWidget(centre);
   setAcceptDrops(true);
   qApp->installEventFilter(this);
+  BuildMenu();
   BuildStatusBar();
   connect(control_, &TesselWidget::statusText, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::textRefused, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::documentChanged, this, &MainWindow::ShowDocument);
   connect(control_, &TesselWidget::caretMoved, this, &MainWindow::ShowCaret);
   ShowDocument();
+}
+
+void MainWindow::BuildMenu() {
+  menu_ = BuildMainMenu(*this);
+  // A walk of the randomizer lets the window paint, and take keys: no time for another command.
+  connect(menu_.open, &QAction::triggered, this, [this] {
+    if (!control_->Tessel().Running()) control_->Tessel().OpenFile({});
+  });
+  connect(menu_.backups, &QAction::triggered, this, &MainWindow::ShowBackups);
+  connect(menu_.reopen, &QAction::toggled, this, [this](bool wanted) {
+    SetReopeningWanted(wanted);
+    RememberDocuments(OpenDocumentsOf(control_->Tessel().Controls()));
+  });
+  connect(menu_.quit, &QAction::triggered, this, &QWidget::close);
+  connect(menu_.about, &QAction::triggered, this, [this] { ShowAbout(this); });
+  const QSignalBlocker quietly(menu_.reopen);
+  menu_.reopen->setChecked(ReopeningWanted());
 }
 
 void MainWindow::BuildStatusBar() {
@@ -106,13 +143,85 @@ void MainWindow::ShowCaret() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  const OpenDocuments open = OpenDocumentsOf(control_->Tessel().Controls());
   // A walk of the randomizer lets the window paint; it is no time to end.
   if (control_->Tessel().Running() || !control_->Tessel().CloseAll()) {
     event->ignore();
     return;
   }
+  session_.stop();
+  RememberDocuments(open);
+  if (keeper_ != nullptr) keeper_->Finish();
   SaveLook();
   event->accept();
+}
+
+// --- Text that comes back: backups, texts of a run that was killed, documents of the last run
+
+void MainWindow::OfferBackups(BackupStore& backups) {
+  backups_ = &backups;
+  menu_.backups->setEnabled(true);
+}
+
+void MainWindow::ShowBackups() {
+  if (control_->Tessel().Running()) return;
+  try {
+    const std::string path = OpenDocumentsOf(control_->Tessel().Controls()).current;
+    auto* dialog =
+        new BackupsDialog(backups_->List(), path.empty() ? path : PathOfFile(path), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &BackupsDialog::chosen, this, &MainWindow::RestoreBackup);
+    dialog->open();
+  } catch (const posix::FileProblem& problem) {
+    ShowNotice(tr("The backups cannot be read: %1.").arg(ShownName(problem.what())));
+  }
+}
+
+void MainWindow::RestoreBackup(const Backup& backup) {
+  try {
+    ShowRestoredText(control_->Tessel(), files_, OpenedPathOf(*control_, backup.path),
+                     backups_->Read(backup));
+  } catch (const posix::FileProblem& problem) {
+    ShowNotice(tr("The backup cannot be read: %1.").arg(ShownName(problem.what())));
+  }
+}
+
+void MainWindow::KeepUnsavedText(const std::string& folder) {
+  // Not through the guarded files: this is no look that the user has taken.
+  const auto onDisk = [](const std::string& path) -> std::optional<std::string> {
+    try {
+      return PosixFiles().Read(path);
+    } catch (const RuntimeError&) {
+      return std::nullopt;
+    }
+  };
+  auto texts = std::make_unique<AbandonedTexts>(folder, onDisk);
+  keeper_ = new RecoveryKeeper(control_->Tessel(), folder, this);
+  connect(keeper_, &RecoveryKeeper::failed, this, &MainWindow::ShowNotice);
+  if (texts->Texts().empty()) return;
+  auto* offer = new RecoveryOffer(
+      control_->Tessel(), files_, messages_, std::move(texts),
+      [this] { return keeper_->KeepNow(); }, centralWidget());
+  static_cast<QVBoxLayout*>(centralWidget()->layout())->insertWidget(0, offer);
+}
+
+void MainWindow::StartSession() {
+  if (ReopeningWanted()) {
+    QStringList missing;
+    for (const std::string& path :
+         ReopenDocuments(control_->Tessel(), files_, RememberedDocuments())) {
+      missing += ShownName(NameOfPath(path, files_.Separator()));
+    }
+    if (!missing.isEmpty()) {
+      ShowNotice(tr("Not there any more and not opened again: %1").arg(missing.join(", ")));
+    }
+  }
+  // Remembered while the program runs, too: it may be killed.
+  session_.setSingleShot(true);
+  session_.setInterval(kSessionMilliseconds);
+  connect(&session_, &QTimer::timeout, this,
+          [this] { RememberDocuments(OpenDocumentsOf(control_->Tessel().Controls())); });
+  connect(control_, &TesselWidget::documentChanged, &session_, qOverload<>(&QTimer::start));
 }
 
 // --- Files dropped anywhere in the window are opened, on the editor too

@@ -3,13 +3,18 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QTimer>
 #include <string>
 #include <vector>
 
+#include "host/BackupStore.h"
 #include "host/DiskState.h"
+#include "host/MainMenu.h"
 #include "platform/qt/TesselWidget.h"
 
 namespace tessel {
+
+class RecoveryKeeper;
 
 /// A window that the control fills, with a status bar for what the control has to say.
 class MainWindow : public QMainWindow {
@@ -27,6 +32,14 @@ class MainWindow : public QMainWindow {
   /// The window as it was left: its place, and what the toggles of the toolbar say.
   void RestoreLook();
 
+  /// Lets the user look into the backups. They outlive the window.
+  void OfferBackups(BackupStore& backups);
+  /// Keeps unsaved text in that folder until the window is closed, and offers what is there of runs
+  /// that ended otherwise.
+  void KeepUnsavedText(const std::string& folder);
+  /// Opens the documents of the last run, if the user wants that, and remembers those of this run.
+  void StartSession();
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -34,12 +47,21 @@ class MainWindow : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void BuildMenu();
   void BuildStatusBar();
+  void ShowBackups();
+  void RestoreBackup(const Backup& backup);
   void ShowDocument();
   void ShowCaret();
   void SaveLook();
 
   TesselWidget* control_;
+  GuardedFiles& files_;
+  MessageBox& messages_;
+  MainMenu menu_{};
+  BackupStore* backups_ = nullptr;
+  RecoveryKeeper* keeper_ = nullptr;
+  QTimer session_;
   QLabel* caret_ = nullptr;
   QLabel* modified_ = nullptr;
 };

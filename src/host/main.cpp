@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <iostream>
 
+#include "host/BackupStore.h"
 #include "host/DiskState.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
@@ -56,7 +57,10 @@ int Run(const Options& options) {
   QtDesktop desktop;
   WrittenMessages written;
   MessageBox& messages = picture ? static_cast<MessageBox&>(written) : desktop.messages;
-  GuardedFiles files(desktop.files);
+  const std::string state = DefaultStateFolder();
+  BackupStore backups(state + "/backups");
+  BackupFiles keptFiles(desktop.files, backups);
+  GuardedFiles files(keptFiles);
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);
 
   OfferStarterWords(settings, files, options.hostDirectory + "/words.txt");
@@ -64,7 +68,14 @@ int Run(const Options& options) {
   window.resize(options.size.value_or(kDefaultSize));
   if (!picture) window.RestoreLook();
   if (options.size) window.resize(*options.size);
+  keptFiles.TellProblems(
+      [&window](const std::string& problem) { window.ShowNotice(ShownName(problem)); });
+  window.OfferBackups(backups);
   window.show();
+  if (!picture) {
+    window.StartSession();
+    window.KeepUnsavedText(state + "/recovery");
+  }
   window.OpenFiles(options.files);
   if (picture) return TakePicture(window, options.screenshot) && !written.Any() ? 0 : 1;
   return QApplication::exec();
@@ -80,6 +91,7 @@ int main(int argc, char** argv) {
 
   QCoreApplication::setOrganizationName("ZanthMan");
   QCoreApplication::setApplicationName("zanth-manager");
+  QCoreApplication::setApplicationVersion(TESSEL_VERSION);
   QGuiApplication::setApplicationDisplayName("Zanth Manager");
   int qtArguments = 1;
   QApplication application(qtArguments, argv);

@@ -178,9 +178,9 @@ void BuildFunctionsPage(PageBuilder& page) {
   column->addWidget(search);
   column->addLayout(buttons);
   column->addStretch();
-  page.grid_->addWidget(page.Caption(QObject::tr("Searc&h:"), search), kCaptionRow, 0);
+  page.grid_->addWidget(page.Caption(QObject::tr("&Search:"), search), kCaptionRow, 0);
   page.grid_->addLayout(column, kBoxRow, 0);
-  page.AddList(page.c.lstWords, QObject::tr("Select &Function:"), QObject::tr("Functions"), 1);
+  page.AddList(page.c.lstWords, QObject::tr("Select F&unction:"), QObject::tr("Functions"), 1);
   QWidget* parameters = MakeParameterPane(page);
   page.grid_->addWidget(page.Caption(QObject::tr("&Parameters:"), parameters), kCaptionRow, 2);
   page.grid_->addWidget(parameters, kBoxRow, 2, 1, 2);

@@ -1,0 +1,139 @@
+#include "host/RecoveryKeeper.h"
+
+#include <algorithm>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+#include "documents/DocumentSlots.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+namespace {
+
+// With what writing takes, less than 2 seconds.
+constexpr int kDelayMilliseconds = 1500;
+constexpr int kUntilProblemsShow = 500;
+constexpr std::size_t kMostDropped = 20;
+
+}  // namespace
+
+RecoveryKeeper::RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent)
+    : QObject(parent), tessel_(tessel), store_(std::move(folder)) {
+  timer_.setSingleShot(true);
+  timer_.setInterval(kDelayMilliseconds);
+  connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::KeepChanges);
+  HostedControls& controls = tessel_.Controls();
+  for (int slot = 0; slot < controls.rtbCon.Count(); ++slot) Watch(controls.rtbCon[slot]);
+  subscriptions_ = {
+      controls.rtbCon.Loaded.Connect([this](RichTextBox& editor) { Watch(editor); }),
+      controls.rtbCon.Unloading.Connect([this](RichTextBox&) {
+        LetGo(slots_.back());
+        slots_.pop_back();
+      }),
+      controls.tbsRtb.Refresh.Connect([this] { TabsChanged(); }),
+  };
+  QTimer::singleShot(0, this, &RecoveryKeeper::TellProblem);
+}
+
+void RecoveryKeeper::Watch(RichTextBox& editor) {
+  const int slot = editor.Index();
+  slots_.emplace_back().subscriptions = {
+      editor.Change.Connect([this, slot] { EditorChanged(slot); }),
+      editor.Refresh.Connect([this] { KeepBeforeItIsDropped(); }),
+  };
+}
+
+bool RecoveryKeeper::Modified(int slot) const {
+  const TabStrip& tabs = tessel_.Controls().tbsRtb;
+  return slot < tabs.Count() && tabs.At(slot + 1).image == kRedDot;
+}
+
+std::string RecoveryKeeper::PathOf(int slot) const {
+  const TabStrip& tabs = tessel_.Controls().tbsRtb;
+  if (slot >= tabs.Count() || tabs.At(slot + 1).tag == kUntitled) return {};
+  return tabs.At(slot + 1).tag;
+}
+
+// Raised for every character that a pass colours, too: only flags here.
+void RecoveryKeeper::EditorChanged(int index) {
+  Slot& slot = At(index);
+  const TextStore& store = std::as_const(tessel_.Controls()).rtbCon[index].Store();
+  if (!store.CanUndo() && !store.CanRedo()) {
+    // Another text altogether, whose path the tab does not have yet.
+    LetGo(slot);
+    slot.path.reset();
+  } else if (!slot.changed || !slot.path) {
+    slot.path = PathOf(index);
+  }
+  slot.changed = true;
+  if (!timer_.isActive()) timer_.start();
+}
+
+void RecoveryKeeper::TabsChanged() {
+  for (int index = 0; index < std::ssize(slots_); ++index) {
+    Slot& slot = At(index);
+    if (!slot.kept || Modified(index)) continue;
+    store_.Drop(slot.kept->id);  // saved
+    slot.kept.reset();
+  }
+  if (!timer_.isActive()) timer_.start();
+}
+
+void RecoveryKeeper::KeepBeforeItIsDropped() {
+  if (std::ranges::any_of(slots_, &Slot::changed)) KeepChanges();
+}
+
+void RecoveryKeeper::KeepChanges() {
+  timer_.stop();
+  for (int slot = 0; slot < std::ssize(slots_); ++slot) KeepSlot(slot);
+  DropMovedTexts();
+  QTimer::singleShot(kUntilProblemsShow, this, &RecoveryKeeper::TellProblem);
+}
+
+void RecoveryKeeper::KeepSlot(int index) {
+  Slot& slot = At(index);
+  const bool changed = std::exchange(slot.changed, false);
+  if (!Modified(index) || (!changed && slot.kept)) return;
+  const RichTextBox& editor = std::as_const(tessel_.Controls()).rtbCon[index];
+  const std::string_view bytes = editor.Bytes();
+  const Fingerprint print{bytes.size(), std::hash<std::string_view>{}(bytes)};
+  if (slot.kept && slot.kept->print == print) return;  // only its colours have changed
+  if (!slot.path) slot.path = PathOf(index);
+  if (!slot.kept) slot.kept = Kept{nextId_++, {}};
+  slot.kept->print = print;
+  store_.Keep(slot.kept->id, *slot.path, editor.Text());
+}
+
+/// Its text stays where it is kept, until it is seen that another editor has taken it over.
+void RecoveryKeeper::LetGo(Slot& slot) {
+  if (!slot.kept) return;
+  dropped_.push_back(*slot.kept);
+  slot.kept.reset();
+  if (dropped_.size() <= kMostDropped) return;
+  store_.Drop(dropped_.front().id);
+  dropped_.erase(dropped_.begin());
+}
+
+// When a document is closed, the texts behind it move to the editors before theirs.
+void RecoveryKeeper::DropMovedTexts() {
+  std::erase_if(dropped_, [this](const Kept& text) {
+    const bool moved = std::ranges::any_of(
+        slots_, [&](const Slot& slot) { return slot.kept && slot.kept->print == text.print; });
+    if (moved) store_.Drop(text.id);
+    return moved;
+  });
+}
+
+bool RecoveryKeeper::KeepNow() {
+  KeepChanges();
+  return store_.Flush();
+}
+
+void RecoveryKeeper::TellProblem() {
+  if (const auto problem = store_.TakeProblem()) {
+    emit failed(tr("Unsaved text cannot be kept for recovery: %1.").arg(ShownName(*problem)));
+  }
+}
+
+}  // namespace tessel

@@ -1,0 +1,91 @@
+#include "host/RecoveryOffer.h"
+
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QLocale>
+#include <QPushButton>
+#include <utility>
+
+#include "documents/DocumentSlots.h"
+#include "host/RestoredText.h"
+#include "platform/Paths.h"
+#include "platform/qt/QtText.h"
+
+namespace tessel {
+namespace {
+
+constexpr std::size_t kMostNamed = 4;
+
+QString Named(const KeptText& text, char separator) {
+  const QString name =
+      text.path.empty() ? QString(kUntitled) : ShownName(NameOfPath(text.path, separator));
+  const QDateTime time = QDateTime::fromSecsSinceEpoch(text.seconds);
+  return QObject::tr("%1 (%2)").arg(name.simplified(),
+                                    QLocale().toString(time, QLocale::ShortFormat));
+}
+
+}  // namespace
+
+RecoveryOffer::RecoveryOffer(ucTessel& tessel, Files& files, MessageBox& messages,
+                             std::unique_ptr<AbandonedTexts> texts, std::function<bool()> keepNow,
+                             QWidget* parent)
+    : QFrame(parent),
+      tessel_(tessel),
+      files_(files),
+      messages_(messages),
+      texts_(std::move(texts)),
+      keepNow_(std::move(keepNow)) {
+  setFrameShape(QFrame::StyledPanel);
+  setAccessibleName(tr("Unsaved text found"));
+  setBackgroundRole(QPalette::ToolTipBase);
+  setForegroundRole(QPalette::ToolTipText);
+  setAutoFillBackground(true);
+  auto* text = new QLabel(Sentence(), this);
+  text->setForegroundRole(QPalette::ToolTipText);
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(8, 4, 8, 4);
+  row->addWidget(text, 1);
+  const auto button = [&](const QString& caption, void (RecoveryOffer::*action)()) {
+    auto* made = new QPushButton(caption, this);
+    connect(made, &QPushButton::clicked, this, action);
+    row->addWidget(made);
+  };
+  button(tr("&Recover"), &RecoveryOffer::Recover);
+  button(tr("&Discard"), &RecoveryOffer::Discard);
+  button(tr("&Later"), &RecoveryOffer::Later);
+  setVisible(!texts_->Texts().empty());
+}
+
+QString RecoveryOffer::Sentence() const {
+  const auto& texts = texts_->Texts();
+  QStringList names;
+  for (std::size_t i = 0; i < texts.size() && i < kMostNamed; ++i) {
+    names += Named(texts[i], files_.Separator());
+  }
+  if (texts.size() > kMostNamed) names += tr("%1 more").arg(texts.size() - kMostNamed);
+  return tr("Text that was not saved when the program ended: %1.").arg(names.join(", "));
+}
+
+void RecoveryOffer::Recover() {
+  if (tessel_.Running()) return;
+  hide();
+  for (const AbandonedTexts::Text& text : texts_->Texts()) {
+    ShowRestoredText(tessel_, files_, text.path, text.bytes);
+  }
+  if (keepNow_()) texts_->Discard();
+}
+
+void RecoveryOffer::Discard() {
+  const MessageAnswer answer =
+      messages_.Show("Discard the text for good? It cannot be brought back.",
+                     MessageIcon::kQuestion, kProgramTitle, MessageButtons::kYesNo);
+  if (answer != MessageAnswer::kYes) return;
+  texts_->Discard();
+  hide();
+}
+
+void RecoveryOffer::Later() { hide(); }
+
+}  // namespace tessel

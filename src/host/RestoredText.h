@@ -1,0 +1,16 @@
+// Texts that come back into the editor from where the program kept them.
+#pragma once
+
+#include <string>
+
+#include "control/ucTessel.h"
+
+namespace tessel {
+
+/// Shows the text as a modified document; no file is written. It becomes one edit, which Undo takes
+/// back, of the document with that path, opened if necessary; and a new "Untitled" document when
+/// there is no such file, or when its document has changes of its own.
+void ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
+                      const std::string& bytes);
+
+}  // namespace tessel

@@ -1,0 +1,102 @@
+// The host's window with a state folder and settings of a test's own.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QSettings>
+#include <QTest>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/BackupStore.h"
+#include "host/MainWindow.h"
+#include "platform/PosixFiles.h"
+#include "support/FakeServices.h"
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+
+/// One run of the program: a window, and what stands behind it. Its end is that of a program that
+/// is killed, unless the window was closed.
+struct HostRun {
+  explicit HostRun(const std::string& state)
+      : backups(state + "/backups"), keptFiles(plainFiles, backups), files(keptFiles) {
+    const Services s = fakes.Get();
+    const Services services{s.messages, s.fileDialogs, s.forms,        s.clipboard,
+                            s.settings, s.pointer,     files,          s.random,
+                            s.focus,    s.loop,        s.hostDirectory};
+    window = std::make_unique<MainWindow>(services, widgets, files);
+    keptFiles.TellProblems([this](const std::string& problem) { problems.push_back(problem); });
+    window->OfferBackups(backups);
+    window->show();
+    window->StartSession();
+    window->KeepUnsavedText(state + "/recovery");
+  }
+
+  HostedControls& Controls() { return window->Control().Tessel().Controls(); }
+  TabStrip& Tabs() { return Controls().tbsRtb; }
+  RichTextBox& Editor(int slot) { return Controls().rtbCon[slot]; }
+  void SaveInPlace(const std::string& path) {
+    Controls().dlgCommon.SetHeld({path, path.substr(path.rfind('/') + 1)});
+    Controls().mnuRtbPopup.Choose("mnuRtbPopupFileSave");
+  }
+  template <class Widget>
+  bool Press(const QString& caption) {
+    for (auto* part : window->findChildren<Widget*>()) {
+      for (auto* button : part->template findChildren<QPushButton*>()) {
+        if (button->text() != caption) continue;
+        button->click();
+        return true;
+      }
+    }
+    return false;
+  }
+  QAction* MenuItem(const QString& caption) {
+    for (auto* action : window->findChildren<QAction*>()) {
+      if (action->text() == caption) return action;
+    }
+    return nullptr;
+  }
+
+  FakeServices fakes;
+  PosixFiles plainFiles;
+  BackupStore backups;
+  BackupFiles keptFiles;
+  GuardedFiles files;
+  WidgetMap widgets;
+  std::vector<std::string> problems;
+  std::unique_ptr<MainWindow> window;
+};
+
+class HostTest : public testing::Test {
+ protected:
+  HostTest() {
+    ::setenv("XDG_STATE_HOME", (directory_ / "state").c_str(), 1);
+    QCoreApplication::setOrganizationName("ZanthMan");
+    QCoreApplication::setApplicationName("zanth-manager-test");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       QString::fromStdString(directory_ / "config"));
+    run_ = std::make_unique<HostRun>(State());
+  }
+
+  std::string State() const { return DefaultStateFolder(); }
+  HostRun& Run() { return *run_; }
+  /// The program is killed, and started again.
+  void Restart() {
+    run_.reset();
+    run_ = std::make_unique<HostRun>(State());
+  }
+  void CloseAndStartAgain() {
+    run_->window->close();
+    Restart();
+  }
+
+  TempDirectory directory_;
+  std::unique_ptr<HostRun> run_;
+};
+
+}  // namespace tessel::test

@@ -1,0 +1,306 @@
+// What the window does so that nothing is lost: backups, recovery, the documents of the last run.
+#include <QLabel>
+#include <QStatusBar>
+#include <QTreeWidget>
+
+#include "HostFixture.h"
+#include "documents/DocumentSlots.h"
+#include "host/BackupsDialog.h"
+#include "host/RecoveryKeeper.h"
+#include "host/RecoveryOffer.h"
+
+namespace tessel::test {
+namespace {
+
+constexpr int kTwoSeconds = 2000;
+
+class Safekeeping : public HostTest {
+ protected:
+  std::string Offer() {
+    const auto* offer = Run().window->findChild<RecoveryOffer*>();
+    return offer == nullptr ? "" : offer->findChild<QLabel*>()->text().toStdString();
+  }
+  bool OfferVisible() {
+    const auto* offer = Run().window->findChild<RecoveryOffer*>();
+    return offer != nullptr && offer->isVisible();
+  }
+  void KeepNow() { ASSERT_TRUE(Run().window->findChild<RecoveryKeeper*>()->KeepNow()); }
+  std::vector<std::string> KeptTexts() const {
+    std::vector<std::string> texts;
+    const std::string folder = State() + "/recovery";
+    if (!std::filesystem::exists(folder)) return texts;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+      const std::string name = entry.path().filename();
+      if (!name.starts_with("text-")) continue;
+      const PrivateFolder run(entry.path().parent_path());
+      texts.push_back(DescribeKeptText(run, name)->path + ": " + ReadKeptText(run, name));
+    }
+    std::ranges::sort(texts);
+    return texts;
+  }
+  bool KeptBecomes(const std::vector<std::string>& wanted) {
+    return QTest::qWaitFor([&] { return KeptTexts() == wanted; }, kTwoSeconds);
+  }
+  BackupsDialog* OpenBackups() {
+    Run().MenuItem("&Backups...")->trigger();
+    return Run().window->findChild<BackupsDialog*>();
+  }
+
+  std::string user_ = directory_.Put("user.con", "define A 1\r\n");
+  std::string game_ = directory_.Put("game.con", "define G 1\r\n");
+};
+
+// --- Recovery
+
+TEST_F(Safekeeping, AChangeIsKeptWithinTwoSecondsOfTheFirstOneUnderSteadyTyping) {
+  Run().window->OpenFiles({user_});
+  const auto start = std::chrono::steady_clock::now();
+  while (KeptTexts().empty()) {
+    ASSERT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(kTwoSeconds));
+    Run().Editor(0).Type("x");
+    QTest::qWait(20);
+  }
+}
+
+TEST_F(Safekeeping, AnUnchangedDocumentIsNotKept) {
+  Run().window->OpenFiles({user_, game_});
+  KeepNow();
+  EXPECT_TRUE(KeptTexts().empty());
+}
+
+TEST_F(Safekeeping, ASavedDocumentIsNotKeptAnyMore) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("// mine\r\n");
+  KeepNow();
+  EXPECT_EQ(KeptTexts(), std::vector{user_ + ": // mine\r\ndefine A 1\r\n"});
+  Run().SaveInPlace(user_);
+  EXPECT_TRUE(KeptBecomes({}));
+}
+
+TEST_F(Safekeeping, ATextIsKeptAtOnceWhenItsDocumentIsClosedWithNo) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  Run().Editor(0).Type("dropped ");
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  Run().Controls().tbToolBar.Press("FileClose");
+  ASSERT_EQ(Run().Tabs().Count(), 1);
+  KeepNow();
+  EXPECT_EQ(KeptTexts(), std::vector{user_ + ": dropped define A 1\r\n"});
+}
+
+TEST_F(Safekeeping, ATextIsKeptAtOnceWhenAFileIsLoadedOverIt) {
+  Run().Editor(0).Type("typed before anything was open");
+  Run().window->OpenFiles({user_});
+  ASSERT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
+  KeepNow();
+  EXPECT_EQ(KeptTexts(), std::vector<std::string>{": typed before anything was open"});
+}
+
+TEST_F(Safekeeping, ATextIsKeptAtOnceWhenItIsLoadedAnew) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("mine ");
+  Run().window->Control().Tessel().ReloadDocument();
+  EXPECT_TRUE(KeptBecomes({user_ + ": mine define A 1\r\n"}));
+}
+
+TEST_F(Safekeeping, TextsThatMoveToOtherEditorsAreKeptOnceUnderTheirOwnPath) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Editor(1).Type("changed ");
+  KeepNow();
+  Run().Tabs().Select(1);
+  Run().Controls().tbToolBar.Press("FileClose");
+  ASSERT_EQ(Run().Tabs().Count(), 1);
+  KeepNow();
+  EXPECT_EQ(KeptTexts(), std::vector{game_ + ": changed define G 1\r\n"});
+}
+
+TEST_F(Safekeeping, AfterAKillTheTextIsOfferedAndRecoveredAsAChangedDocument) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("// mine\r\n");
+  KeepNow();
+  Restart();
+  EXPECT_TRUE(OfferVisible());
+  EXPECT_NE(Offer().find("user.con"), std::string::npos);
+  ASSERT_TRUE(Run().Press<RecoveryOffer>("&Recover"));
+  EXPECT_FALSE(OfferVisible());
+  EXPECT_EQ(Run().Editor(0).Text(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(Run().Tabs().At(1).image, kRedDot);
+  EXPECT_EQ(BytesOf(user_), "define A 1\r\n");
+  EXPECT_EQ(KeptTexts().size(), 1U) << "the recovered text is kept again, the old one is gone";
+  Run().Editor(0).Undo();
+  EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
+}
+
+TEST_F(Safekeeping, AKillRightAfterRecoveringLosesNothing) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("// mine\r\n");
+  KeepNow();
+  Restart();
+  Run().Press<RecoveryOffer>("&Recover");
+  Restart();
+  EXPECT_TRUE(OfferVisible());
+}
+
+TEST_F(Safekeeping, TheTextOfAFileThatIsGoneComesBackWithoutOne) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("// mine\r\n");
+  KeepNow();
+  std::filesystem::remove(user_);
+  Restart();
+  Run().Press<RecoveryOffer>("&Recover");
+  EXPECT_EQ(Run().Editor(0).Text(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
+  EXPECT_EQ(Run().Tabs().At(1).image, kRedDot);
+  EXPECT_TRUE(Run().fakes.messages.shown.empty());
+}
+
+TEST_F(Safekeeping, RecoveringTouchesNoDocumentWithChangesOfItsOwn) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("old ");
+  KeepNow();
+  Restart();
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("new ");
+  Run().Press<RecoveryOffer>("&Recover");
+  ASSERT_EQ(Run().Tabs().Count(), 2);
+  EXPECT_EQ(Run().Editor(0).Text(), "new define A 1\r\n");
+  EXPECT_EQ(Run().Editor(1).Text(), "old define A 1\r\n");
+}
+
+TEST_F(Safekeeping, LaterAsksAgainAtTheNextStart) {
+  Run().Editor(0).Type("text");
+  KeepNow();
+  Restart();
+  Run().Press<RecoveryOffer>("&Later");
+  EXPECT_FALSE(OfferVisible());
+  CloseAndStartAgain();
+  EXPECT_TRUE(OfferVisible());
+}
+
+TEST_F(Safekeeping, DiscardAsksOnceMoreAndThenForgets) {
+  Run().Editor(0).Type("text");
+  KeepNow();
+  Restart();
+  Run().fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kYes};
+  Run().Press<RecoveryOffer>("&Discard");
+  EXPECT_TRUE(OfferVisible());
+  Run().Press<RecoveryOffer>("&Discard");
+  EXPECT_FALSE(OfferVisible());
+  EXPECT_TRUE(KeptTexts().empty());
+}
+
+TEST_F(Safekeeping, ANormalEndLeavesNothingToRecover) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("text");
+  KeepNow();
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  CloseAndStartAgain();
+  EXPECT_FALSE(OfferVisible());
+  EXPECT_TRUE(KeptTexts().empty());
+}
+
+TEST_F(Safekeeping, AnEndThatTheUserCancelledKeepsTheText) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("text");
+  KeepNow();
+  Run().fakes.messages.answers = {MessageAnswer::kCancel};
+  EXPECT_FALSE(Run().window->close());
+  EXPECT_EQ(KeptTexts().size(), 1U);
+}
+
+// --- Backups
+
+TEST_F(Safekeeping, TheBackupsOfTheCurrentFileComeFirst) {
+  Run().window->OpenFiles({game_, user_});
+  Run().Editor(1).Type("2 ");
+  Run().SaveInPlace(user_);
+  Run().Tabs().Select(1);
+  Run().Editor(0).Type("2 ");
+  Run().SaveInPlace(game_);
+  Run().Tabs().Select(2);
+  const auto* list = OpenBackups()->findChild<QTreeWidget*>();
+  ASSERT_EQ(list->topLevelItemCount(), 2);
+  EXPECT_EQ(list->topLevelItem(0)->text(0), "user.con");
+  EXPECT_EQ(list->topLevelItem(1)->text(0), "game.con");
+}
+
+TEST_F(Safekeeping, ABackupComesBackAsAChangeThatUndoTakesBack) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("2 ");
+  Run().SaveInPlace(user_);
+  OpenBackups();
+  ASSERT_TRUE(Run().Press<BackupsDialog>("&Open"));
+  EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
+  EXPECT_EQ(Run().Tabs().At(1).image, kRedDot);
+  EXPECT_EQ(BytesOf(user_), "2 define A 1\r\n") << "nothing is written before the user saves";
+  Run().Editor(0).Undo();
+  EXPECT_EQ(Run().Editor(0).Text(), "2 define A 1\r\n");
+}
+
+TEST_F(Safekeeping, ASaveThatHitTheWrongFileCanBePutRight) {
+  Run().window->OpenFiles({game_, user_});
+  Run().SaveInPlace(game_);  // the user file's document now belongs to the game file
+  ASSERT_EQ(Run().Tabs().At(2).tag, game_);
+  Run().Editor(1).Type("2 ");
+  Run().SaveInPlace(game_);
+  EXPECT_EQ(BytesOf(game_), "2 define A 1\r\n");
+  OpenBackups();
+  Run().Press<BackupsDialog>("&Open");
+  EXPECT_EQ(CurrentEditor(Run().Controls()).Text(), "define G 1\r\n");
+}
+
+TEST_F(Safekeeping, ABackupThatCannotBeKeptIsToldAndTheFileIsSaved) {
+  std::filesystem::create_directories(State());
+  directory_.Put("state/ZanthMan/backups", "no folder");
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("2 ");
+  Run().SaveInPlace(user_);
+  EXPECT_EQ(BytesOf(user_), "2 define A 1\r\n");
+  EXPECT_EQ(Run().problems.size(), 1U);
+  EXPECT_TRUE(Run().fakes.messages.shown.empty());
+}
+
+// --- The documents of the last run
+
+TEST_F(Safekeeping, DocumentsAreNotReopenedUnlessTheUserWantsThat) {
+  EXPECT_FALSE(Run().MenuItem("&Reopen Documents at Start")->isChecked());
+  Run().window->OpenFiles({user_});
+  CloseAndStartAgain();
+  EXPECT_EQ(Run().Tabs().At(1).tag, "");
+}
+
+TEST_F(Safekeeping, DocumentsAreReopenedWithTheCurrentOneInFront) {
+  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  CloseAndStartAgain();
+  EXPECT_TRUE(Run().MenuItem("&Reopen Documents at Start")->isChecked());
+  ASSERT_EQ(Run().Tabs().Count(), 2);
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(Run().Tabs().At(2).tag, game_);
+  EXPECT_EQ(Run().Tabs().Selected(), 1);
+  EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
+}
+
+TEST_F(Safekeeping, DocumentsAreReopenedAfterAKillToo) {
+  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().window->OpenFiles({user_});
+  QTest::qWait(1300);
+  Restart();
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+}
+
+TEST_F(Safekeeping, AFileThatIsGoneIsSkippedWithANoticeAndNoBox) {
+  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().window->OpenFiles({user_, game_});
+  Run().window->close();
+  std::filesystem::remove(game_);
+  Restart();
+  EXPECT_EQ(Run().Tabs().Count(), 1);
+  EXPECT_TRUE(Run().fakes.messages.shown.empty());
+  EXPECT_TRUE(Run().window->statusBar()->currentMessage().contains("game.con"));
+}
+
+}  // namespace
+}  // namespace tessel::test
