@@ -1,25 +1,27 @@
 #!/usr/bin/env python3
 """Changes one line of the logic at a time and looks whether a test notices: scripts/mutate.py [COUNT [SEED]]
 
-Works on a copy of the tree under build/mutate. Each mutant is built and judged by the tests of its folder,
-then by those of the whole control. Prints every survivor, and the score at the end.
+The sources stay as they are: a mutant is a file of its own, compiled and linked in front of the library, first into
+the tests of its folder, then into those that use it. Prints every survivor, and the score at the end. MUTATE_BUILD
+names a build that is there already; the default is made under build/mutate.
 """
+import json
+import os
 import pathlib
 import random
 import re
-import shutil
+import shlex
 import subprocess
 import sys
+import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-WORK = ROOT / "build" / "mutate"
-TREE = WORK / "tree"
-BUILD = WORK / "build"
+BUILD = pathlib.Path(os.environ.get("MUTATE_BUILD", ROOT / "build" / "mutate")).resolve()
 FOLDERS = ["control", "documents", "colouring", "tools", "words", "settings", "randomizer", "converter"]
 # After the tests of the folder itself come those that use it.
 NEIGHBOURS = {"control": ["documents", "settings"], "documents": ["control", "colouring"], "colouring": ["documents"],
               "settings": ["randomizer", "data"], "converter": ["data"]}
-SECONDS_TO_BUILD, SECONDS_TO_TEST = 600, 60
+SECONDS_TO_TEST = 60
 
 # What is looked for, and what takes its place.
 REPLACEMENTS = [
@@ -45,16 +47,12 @@ def mutants_of(path):
             yield number, "  // dropped"
 
 
-def run(command, seconds):
+def run(command, seconds=600):
     try:
-        done = subprocess.run(command, cwd=TREE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=seconds)
+        done = subprocess.run(command, cwd=BUILD, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=seconds)
     except subprocess.TimeoutExpired:
         return False
     return done.returncode == 0
-
-
-def build(programs):
-    return run(["nice", "-n", "10", "cmake", "--build", str(BUILD), "-j1", "--target", *programs], SECONDS_TO_BUILD)
 
 
 def programs_for(folder):
@@ -62,52 +60,86 @@ def programs_for(folder):
 
 
 def prepare():
-    shutil.rmtree(TREE, ignore_errors=True)
-    files = subprocess.run(["git", "ls-files"], cwd=ROOT, check=True, capture_output=True, text=True).stdout.split("\n")
-    for name in filter(None, files):
-        if (ROOT / name).exists():
-            (TREE / name).parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(ROOT / name, TREE / name)
-    configured = run(["cmake", "-S", str(TREE), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
-                      "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -Wno-error", "-DTESSEL_QT=OFF"], 120)
-    if not configured or not build([f"test_{f}" for f in [*FOLDERS, "data"]]):
+    if "MUTATE_BUILD" in os.environ:
+        return
+    BUILD.mkdir(parents=True, exist_ok=True)
+    programs = [f"test_{folder}" for folder in [*FOLDERS, "data"]]
+    if not run(["cmake", "-S", str(ROOT), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
+                "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DTESSEL_QT=OFF"]):
+        sys.exit("The build cannot be configured.")
+    if not run(["cmake", "--build", str(BUILD), "--target", *programs], 3600):
         sys.exit("The tree does not build as it is.")
-    for folder in FOLDERS:
-        if not survives(folder):
-            sys.exit(f"The tests of {folder} fail as they are.")
 
 
-def survives(folder):
-    return all(run([str(BUILD / "tests" / program), "--gtest_brief=1"], SECONDS_TO_TEST)
-               for program in programs_for(folder))
+def compile_commands():
+    return {entry["file"]: entry["command"] for entry in json.loads((BUILD / "compile_commands.json").read_text())}
 
 
-def judge(path, folder, number, line):
-    original = path.read_text()
-    lines = original.splitlines()
+class Compiler:
+    """Compiles a mutant in a source's place, and links it into test programs."""
+
+    def __init__(self, place):
+        self.place = pathlib.Path(place)
+        self.commands = compile_commands()
+        self.links = {}
+
+    def compile(self, source, text):
+        mutant = self.place / source.name
+        mutant.write_text(text)
+        words = [word for word in shlex.split(self.commands[str(source)]) if "ccache" not in word]
+        words[words.index("-o") + 1] = str(self.place / "mutant.o")
+        words = [str(mutant) if word == str(source) else word for word in words]
+        return run([*words, "-O0", "-Wno-error"])
+
+    def link(self, program, mutated):
+        if program not in self.links:
+            commands = subprocess.run(["ninja", "-t", "commands", f"tests/{program}"], cwd=BUILD, check=True,
+                                      capture_output=True, text=True).stdout.splitlines()
+            # The link stands between other commands of the same line.
+            self.links[program] = next(c for c in commands[-1].split(" && ") if f" -o tests/{program} " in c)
+        words = shlex.split(self.links[program])
+        output = words.index("-o") + 1
+        words[output] = str(self.place / program)
+        if mutated:
+            words.insert(output + 1, str(self.place / "mutant.o"))
+        return run(words)
+
+    def passes(self, program):
+        return run([str(self.place / program), "--gtest_brief=1"], SECONDS_TO_TEST)
+
+
+def judge(compiler, path, folder, number, line):
+    lines = path.read_text().splitlines()
     lines[number - 1] = line
-    path.write_text("\n".join(lines) + "\n")
-    try:
-        if not build(programs_for(folder)):
+    if not compiler.compile(path, "\n".join(lines) + "\n"):
+        return "does not build"
+    for program in programs_for(folder):
+        if not compiler.link(program, mutated=True):
             return "does not build"
-        return "survived" if survives(folder) else "killed"
-    finally:
-        path.write_text(original)
+        if not compiler.passes(program):
+            return "killed"
+    return "survived"
 
 
 def main():
     count = int(sys.argv[1]) if len(sys.argv) > 1 else 80
     seed = int(sys.argv[2]) if len(sys.argv) > 2 else 1
     prepare()
-    everything = [(path, folder, *mutant) for folder in FOLDERS for path in sorted((TREE / "src" / folder).glob("*.cpp"))
-                  for mutant in mutants_of(path)]
-    print(f"{len(everything)} mutants, of which {count} are tried", flush=True)
+    built = compile_commands()
+    everything = [(path, folder, *mutant) for folder in FOLDERS for path in sorted((ROOT / "src" / folder).glob("*.cpp"))
+                  if str(path) in built for mutant in mutants_of(path)]
     results = {"killed": 0, "survived": 0, "does not build": 0}
-    for path, folder, number, line in random.Random(seed).sample(everything, min(count, len(everything))):
-        result = judge(path, folder, number, line)
-        results[result] += 1
-        if result == "survived":
-            print(f"survived: {path.relative_to(TREE)}:{number}: {line.strip()}", flush=True)
+    with tempfile.TemporaryDirectory() as place:
+        compiler = Compiler(place)
+        for program in {program for folder in FOLDERS for program in programs_for(folder)}:
+            if not compiler.link(program, mutated=False) or not compiler.passes(program):
+                sys.exit(f"{program} fails as it is.")
+        print(f"{len(everything)} mutants, of which {count} are tried", flush=True)
+        for path, folder, number, line in random.Random(seed).sample(everything, min(count, len(everything))):
+            result = judge(compiler, path, folder, number, line)
+            results[result] += 1
+            if result == "survived":
+                print(f"survived: {path.relative_to(ROOT)}:{number}: {line.strip()}", flush=True)
     judged = results["killed"] + results["survived"]
     print(f"{results['killed']} of {judged} killed ({100 * results['killed'] / max(judged, 1):.1f} %), "
           f"{results['does not build']} did not build")
