@@ -7,6 +7,11 @@
 #include "platform/RuntimeError.h"
 
 namespace tessel {
+namespace {
+
+constexpr long long kLargeFile = 8 << 20;
+
+}  // namespace
 
 DiskState DiskStateOf(const std::string& path) {
   struct stat found {};
@@ -15,14 +20,33 @@ DiskState DiskStateOf(const std::string& path) {
           found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
 }
 
+/// Says what is being done for as long as it lives, when it may take a while.
+class GuardedFiles::LongWork {
+ public:
+  LongWork(const GuardedFiles& files, const char* what, const std::string& path, long long size)
+      : tell_(size >= kLargeFile ? files.tellLongWork_ : nullptr) {
+    if (tell_) tell_(what + NameOfPath(path, files.Separator()) + "...");
+  }
+  ~LongWork() {
+    if (tell_) tell_("");
+  }
+  LongWork(const LongWork&) = delete;
+  LongWork& operator=(const LongWork&) = delete;
+
+ private:
+  std::function<void(const std::string&)> tell_;
+};
+
 std::string GuardedFiles::Read(const std::string& path) {
   const DiskState before = DiskStateOf(path);  // a change while reading is a change
+  const LongWork work(*this, "Opening ", path, before.size);
   std::string bytes = files_.Read(path);
   known_[path] = before;
   return bytes;
 }
 
 void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
+  const LongWork work(*this, "Saving ", path, std::ssize(bytes));
   if (ChangedByOthers(path) && DiskStateOf(path).exists && files_.Read(path) != bytes) {
     throw RuntimeError(NameOfPath(path, Separator()) +
                        " has not been saved: another program has changed the file since it was "

@@ -1,6 +1,7 @@
 // What a file on disk looked like when the program last read or wrote it.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -39,6 +40,11 @@ class GuardedFiles : public Files {
   }
   char Separator() const override { return files_.Separator(); }
 
+  /// Is given a line for the user before work on a large file begins, and an empty one afterwards.
+  void TellLongWork(std::function<void(const std::string&)> tell) {
+    tellLongWork_ = std::move(tell);
+  }
+
   /// True when the file was read or written here and is another one now.
   bool ChangedByOthers(const std::string& path) const;
   /// Takes the file as it is now: it may be written over.
@@ -47,7 +53,10 @@ class GuardedFiles : public Files {
   void Forget(const std::string& path) { known_.erase(path); }
 
  private:
+  class LongWork;
+
   Files& files_;
+  std::function<void(const std::string&)> tellLongWork_;
   std::map<std::string, DiskState> known_;
 };
 

@@ -122,6 +122,8 @@ void MainWindow::OpenFiles(const std::vector<std::string>& paths) {
 
 void MainWindow::ShowNotice(const QString& text) {
   statusBar()->showMessage(text, kNoticeMilliseconds);
+  // A command on its way lets nothing else paint.
+  if (control_->Tessel().Running()) statusBar()->repaint();
 }
 
 void MainWindow::ShowDocument() {

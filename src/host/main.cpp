@@ -70,6 +70,7 @@ int Run(const Options& options) {
   if (options.size) window.resize(*options.size);
   keptFiles.TellProblems(
       [&window](const std::string& problem) { window.ShowNotice(ShownName(problem)); });
+  files.TellLongWork([&window](const std::string& work) { window.ShowNotice(ShownName(work)); });
   window.OfferBackups(backups);
   window.show();
   if (!picture) {

@@ -4,6 +4,11 @@ namespace tessel {
 
 void ListControl::AddItem(std::string entry) { InsertItem(ListCount(), std::move(entry)); }
 
+void ListControl::AddItems(const std::vector<std::string>& entries) {
+  list_.insert(list_.end(), entries.begin(), entries.end());
+  Refresh.Raise();
+}
+
 void ListControl::InsertItem(int position, std::string entry) {
   list_.insert(list_.begin() + position, std::move(entry));
   if (listIndex_ >= position) ++listIndex_;

@@ -22,8 +22,9 @@ class ListControl : public Control {
   const std::string& List(int entry) const { return list_.at(static_cast<std::size_t>(entry)); }
   int ListIndex() const { return listIndex_; }
 
-  /// Appends an entry, or inserts it in front of `position`.
+  /// Appends an entry, or many at once, or inserts one in front of `position`.
   void AddItem(std::string entry);
+  void AddItems(const std::vector<std::string>& entries);
   void InsertItem(int position, std::string entry);
   /// Takes an entry out. Its selection, if it was selected, is gone without an event.
   void RemoveItem(int position);

@@ -1,6 +1,8 @@
 #include "settings/Levels.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "documents/DocumentSlots.h"
 #include "platform/ScopeGuard.h"
@@ -64,11 +66,13 @@ void Levels::FillLevelList() {
   editor.SetSelStart(0);
   editor.SetSelLength(0);
   editor.SetHideSelection(true);
+  std::vector<std::string> entries;
   for (Position at = editor.Find(kLevelWord, 0); at != kNotFound;
        at = editor.Find(kLevelWord, at + 4)) {
     editor.Span(kLineEnds, true, true);
-    if (auto entry = EpisodeAndLevel(editor.SelBytes())) controls_.cboEpisode.AddItem(*entry);
+    if (auto entry = EpisodeAndLevel(editor.SelBytes())) entries.push_back(std::move(*entry));
   }
+  controls_.cboEpisode.AddItems(entries);
 }
 
 void Levels::ShowLevel(const std::string& entry) {

@@ -4,6 +4,7 @@
 
 #include "platform/ScopeGuard.h"
 #include "platform/Text.h"
+#include "words/WordList.h"
 
 namespace tessel {
 
@@ -17,12 +18,7 @@ void WordEditor::Show(const std::string& word) {
 }
 
 void WordEditor::LoadList() {
-  form_.lstWords.Clear();
-  params_.clear();
-  for (const ScriptWord& word : ReadScriptWords(services_.settings)) {
-    form_.lstWords.AddItem(word.word);
-    params_.push_back(word.parameters);
-  }
+  params_ = ShowScriptWords(form_.lstWords, ReadScriptWords(services_.settings));
 }
 
 void WordEditor::ClearFields() {

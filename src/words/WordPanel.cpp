@@ -3,6 +3,7 @@
 #include "documents/DocumentSlots.h"
 #include "platform/RuntimeError.h"
 #include "platform/ScopeGuard.h"
+#include "words/WordList.h"
 
 namespace tessel {
 namespace {
@@ -19,10 +20,7 @@ void WordPanel::LoadWordList() {
   wordParams_.clear();
   try {
     if (!HasScriptWordEntries(services_.settings)) return;
-    for (const ScriptWord& word : ReadScriptWords(services_.settings)) {
-      controls_.lstWords.AddItem(word.word);
-      wordParams_.push_back(word.parameters);
-    }
+    wordParams_ = ShowScriptWords(controls_.lstWords, ReadScriptWords(services_.settings));
   } catch (const RuntimeError&) {
     return;  // no words, then
   }

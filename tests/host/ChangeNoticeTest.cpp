@@ -106,6 +106,24 @@ TEST_F(ChangedOutside, AFileThatIsGoneCanBeWrittenAnew) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return !Notice().isVisible(); }, kPatience));
 }
 
+TEST_F(ChangedOutside, ASmallFileIsOpenedWithoutATalk) {
+  std::vector<std::string> told;
+  files_.TellLongWork([&](const std::string& work) { told.push_back(work); });
+  window_.Control().Tessel().ReloadDocument();
+  EXPECT_TRUE(told.empty());
+}
+
+TEST_F(ChangedOutside, WorkOnALargeFileIsToldOf) {
+  std::vector<std::string> told;
+  files_.TellLongWork([&](const std::string& work) { told.push_back(work); });
+  WriteOutside(std::string(9 << 20, 'x'));
+  window_.Control().Tessel().ReloadDocument();
+  EXPECT_EQ(told, (std::vector<std::string>{"Opening user.con...", ""}));
+  told.clear();
+  SaveInPlace();
+  EXPECT_EQ(told, (std::vector<std::string>{"Saving user.con...", ""}));
+}
+
 TEST_F(ChangedOutside, ASaveOfOnesOwnIsNoChange) {
   Editor().Type("// mine\r\n");
   SaveInPlace();

@@ -94,6 +94,17 @@ TEST_F(ControlsTest, RaiseChangeForEveryAssignedTextOfAComboBox) {
 
 // --- Text boxes
 
+TEST_F(ControlsTest, TellTheirViewsOnceOfManyNewEntries) {
+  ListBox list(controls, "lst");
+  list.AddItem("a");
+  list.SetListIndex(0);
+  const Count refreshes(list.Refresh);
+  list.AddItems({"b", "c", "d"});
+  EXPECT_EQ(list.List(), (std::vector<std::string>{"a", "b", "c", "d"}));
+  EXPECT_EQ(list.ListIndex(), 0);
+  EXPECT_EQ(refreshes, 1);
+}
+
 TEST_F(ControlsTest, RaiseChangeForEveryAssignedTextOfATextBox) {
   TextBox box(controls, "txt");
   const Count changes(box.Change);

@@ -56,7 +56,9 @@ void ComboBoxView::Draw() {
   if (model_.List() != shown_) {
     const QString text = currentText();
     clear();
-    for (const std::string& entry : model_.List()) addItem(ShownText(entry));
+    QStringList entries;
+    for (const std::string& entry : model_.List()) entries += ShownText(entry);
+    addItems(entries);
     if (isEditable()) setEditText(text);
     shown_ = model_.List();
   }

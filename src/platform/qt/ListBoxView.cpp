@@ -62,7 +62,9 @@ void ListBoxView::DrawEntries() {
     clear();
     shown_.clear();
   }
-  for (std::size_t i = shown_.size(); i < entries.size(); ++i) addItem(ShownText(entries[i]));
+  QStringList more;
+  for (std::size_t i = shown_.size(); i < entries.size(); ++i) more += ShownText(entries[i]);
+  addItems(more);
   shown_ = entries;
 }
 
