@@ -5,6 +5,7 @@ The sources stay as they are: a mutant is a file of its own, compiled and linked
 the tests of its folder, then into those that use it. Prints every survivor, and the score at the end. MUTATE_BUILD
 names a build that is there already; the default is made under build/mutate.
 """
+import contextlib
 import json
 import os
 import pathlib
@@ -129,7 +130,7 @@ def main():
     everything = [(path, folder, *mutant) for folder in FOLDERS for path in sorted((ROOT / "src" / folder).glob("*.cpp"))
                   if str(path) in built for mutant in mutants_of(path)]
     results = {"killed": 0, "survived": 0, "does not build": 0}
-    with tempfile.TemporaryDirectory() as place:
+    with tempfile.TemporaryDirectory() as place, contextlib.suppress(KeyboardInterrupt):
         compiler = Compiler(place)
         for program in {program for folder in FOLDERS for program in programs_for(folder)}:
             if not compiler.link(program, mutated=False) or not compiler.passes(program):
