@@ -35,8 +35,8 @@ await() { timeout 15 xdotool search --sync --onlyvisible --name "$1" >/dev/null;
 click() { xdotool mousemove "$1" "$2" click "${3-1}"; sleep 0.3; }
 shows() { xdotool getwindowname "$window"; }
 
-# The geometry of the window: toolbar and settings panel at 96 dots per inch.
-click 59 "$((toolbar_y = ${TOOLBAR_Y:-15}))"
+# Where things are in the window, at 96 dots per inch: the toolbar, and the settings panel below it.
+click 59 "$((toolbar_y = ${TOOLBAR_Y:-34}))"
 await 'Open'
 dialog=$(xdotool search --onlyvisible --name '^Open' | tail -n 1)
 xdotool windowfocus --sync "$dialog"
