@@ -2,6 +2,7 @@
 #pragma once
 
 #include <grp.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,6 +19,14 @@ extern "C" void __gcov_dump() __attribute__((weak));
 
 namespace tessel::test {
 
+/// Writes down what a coverage build counted in a child; not under a limit that would tear the
+/// file.
+inline void WriteCoverage() {
+  rlimit size{};
+  ::getrlimit(RLIMIT_FSIZE, &size);
+  if (__gcov_dump != nullptr && size.rlim_cur == RLIM_INFINITY) __gcov_dump();
+}
+
 /// Runs `action` in a child process and returns the text it returns, or "error: " and the text of
 /// the exception it ends with. Expectations belong in the parent.
 template <class Action>
@@ -32,7 +41,7 @@ std::string InChild(Action action) {
     } catch (const std::exception& error) {
       result = std::string("error: ") + error.what();
     }
-    if (__gcov_dump != nullptr) __gcov_dump();
+    WriteCoverage();
     const bool sent = ::write(ends[1], result.data(), result.size()) == std::ssize(result);
     ::_exit(sent ? 0 : 1);
   }
