@@ -46,6 +46,6 @@ echo "What changed in the file:"
 diff --text "$source_file" "$copy" | sed 's/^/  /' | tr -d '\r' || true
 
 mkdir -p "$here/build"
-QT_QPA_PLATFORM=offscreen ZANTHMAN_STORE=$work/settings.db \
+QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*.warning=false' XDG_RUNTIME_DIR=$work XDG_STATE_HOME=$work/state ZANTHMAN_STORE=$work/settings.db \
   "$build/src/host/zanth-manager" --host-dir "$here/data" --screenshot "$screenshot" "$copy"
 echo "A screenshot of the window: build/screenshot.png"
