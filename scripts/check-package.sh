@@ -47,8 +47,8 @@ done
 awk '$2 != "root/root" || $1 ~ /^-.......w/ { exit 1 }' "$work/contents" || fail "bad owners or permissions"
 
 say "Running it where it was unpacked"
-dpkg-deb --extract "$package" "$work/root"
-"$work/root/usr/bin/tessel" new 15AU | cmp - "$work/root/usr/share/zanth-manager/zmuserp.dat"
+dpkg-deb --extract "$package" "$work/installed"
+"$work/installed/usr/bin/tessel" new 15AU | cmp - "$work/installed/usr/share/zanth-manager/zmuserp.dat"
 
 if [ -n "$contents_only" ] || [ "$(id -u)" -ne 0 ]; then
   say "Done (not installed)"
