@@ -1,13 +1,13 @@
 #include "host/Options.h"
 
 #include <CLI/CLI.hpp>
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <regex>
 #include <system_error>
 
 #include "platform/HostDirectory.h"
+#include "platform/SqliteSettingsStore.h"
 
 namespace tessel {
 namespace {
@@ -40,16 +40,6 @@ std::string BadFile(const std::string& path) {
 
 }  // namespace
 
-std::string DefaultStorePath() {
-  if (const char* store = std::getenv("ZANTHMAN_STORE"); store != nullptr && *store != '\0') {
-    return store;
-  }
-  const char* config = std::getenv("XDG_CONFIG_HOME");
-  if (config != nullptr && *config == '/') return std::string(config) + "/ZanthMan/settings.db";
-  const char* home = std::getenv("HOME");
-  return std::string(home == nullptr ? "." : home) + "/.config/ZanthMan/settings.db";
-}
-
 std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
   CLI::App app("Zanth Manager: an editor for CON files", "zanth-manager");
   Options options;
@@ -78,7 +68,7 @@ std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
   if (dark) options.scheme = ColourScheme::kDark;
   if (light) options.scheme = ColourScheme::kLight;
   if (!size.empty()) options.size = SizeOf(size);
-  if (options.store.empty()) options.store = DefaultStorePath();
+  if (options.store.empty()) options.store = DefaultSettingsPath();
   options.store = Absolute(options.store);
   options.hostDirectory = Absolute(options.hostDirectory);
   for (std::string& file : options.files) file = Absolute(file);

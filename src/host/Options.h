@@ -24,7 +24,4 @@ struct Options {
 /// once (help, version, a bad argument): the message has been written then.
 std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus);
 
-/// $ZANTHMAN_STORE, else the user's configuration directory.
-std::string DefaultStorePath();
-
 }  // namespace tessel
