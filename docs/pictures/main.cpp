@@ -7,7 +7,6 @@
 #include <functional>
 #include <iostream>
 
-#include "host/DiskState.h"
 #include "host/MainWindow.h"
 #include "platform/Form.h"
 #include "platform/HostDirectory.h"
@@ -15,6 +14,7 @@
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/ScintillaView.h"
 #include "platform/qt/Theme.h"
+#include "safekeeping/DiskState.h"
 #include "words/StarterWords.h"
 
 using namespace tessel;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/BackupStore.h"
+#include "safekeeping/BackupStore.h"
 
 namespace tessel {
 

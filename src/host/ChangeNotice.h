@@ -8,8 +8,8 @@
 #include <QTimer>
 #include <string>
 
-#include "host/DiskState.h"
 #include "platform/qt/TesselWidget.h"
+#include "safekeeping/DiskState.h"
 
 namespace tessel {
 

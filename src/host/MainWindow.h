@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "host/BackupStore.h"
-#include "host/DiskState.h"
 #include "host/MainMenu.h"
 #include "platform/qt/TesselWidget.h"
+#include "safekeeping/BackupStore.h"
+#include "safekeeping/DiskState.h"
 
 namespace tessel {
 

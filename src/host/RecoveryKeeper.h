@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "control/ucTessel.h"
-#include "host/RecoveryStore.h"
+#include "safekeeping/RecoveryStore.h"
 
 namespace tessel {
 

@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "control/ucTessel.h"
-#include "host/RecoveryStore.h"
 #include "platform/Services.h"
+#include "safekeeping/RecoveryStore.h"
 
 namespace tessel {
 

@@ -3,14 +3,14 @@
 #include <QIcon>
 #include <iostream>
 
-#include "host/BackupStore.h"
-#include "host/DiskState.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
 #include "platform/FallbackSettingsStore.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtMessageBox.h"
 #include "platform/qt/QtText.h"
+#include "safekeeping/BackupStore.h"
+#include "safekeeping/DiskState.h"
 #include "words/StarterWords.h"
 
 namespace tessel {

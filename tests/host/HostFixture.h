@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "host/BackupStore.h"
 #include "host/MainWindow.h"
 #include "platform/PosixFiles.h"
+#include "safekeeping/BackupStore.h"
 #include "support/FakeServices.h"
 #include "support/TempDirectory.h"
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/PrivateFolder.h"
 #include "platform/Services.h"
+#include "safekeeping/PrivateFolder.h"
 
 namespace tessel {
 

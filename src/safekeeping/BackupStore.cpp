@@ -1,4 +1,4 @@
-#include "host/BackupStore.h"
+#include "safekeeping/BackupStore.h"
 
 #include <algorithm>
 #include <chrono>

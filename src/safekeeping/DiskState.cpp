@@ -1,4 +1,4 @@
-#include "host/DiskState.h"
+#include "safekeeping/DiskState.h"
 
 #include <sys/stat.h>
 

@@ -1,4 +1,4 @@
-#include "host/RecoveryStore.h"
+#include "safekeeping/RecoveryStore.h"
 
 #include <unistd.h>
 

@@ -12,7 +12,7 @@
 #include <thread>
 #include <vector>
 
-#include "host/PrivateFolder.h"
+#include "safekeeping/PrivateFolder.h"
 
 namespace tessel {
 

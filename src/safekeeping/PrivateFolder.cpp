@@ -1,4 +1,4 @@
-#include "host/PrivateFolder.h"
+#include "safekeeping/PrivateFolder.h"
 
 #include <dirent.h>
 #include <fcntl.h>

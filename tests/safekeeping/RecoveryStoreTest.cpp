@@ -7,7 +7,7 @@
 #include <chrono>
 #include <csignal>
 
-#include "host/RecoveryStore.h"
+#include "safekeeping/RecoveryStore.h"
 #include "support/ChildProcess.h"
 #include "support/TempDirectory.h"
 

@@ -5,8 +5,8 @@
 
 #include <set>
 
-#include "host/BackupStore.h"
 #include "platform/PosixFiles.h"
+#include "safekeeping/BackupStore.h"
 #include "support/ChildProcess.h"
 #include "support/TempDirectory.h"
 
