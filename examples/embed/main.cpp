@@ -1,49 +1,44 @@
 // A Qt program with a CON editor in its window.
+#include <Tessel/ucTessel.h>
+
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFile>
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "platform/HostDirectory.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/qt/QtDesktop.h"
-#include "platform/qt/TesselWidget.h"
-
 class Window : public QWidget {
  public:
-  Window(const tessel::Services& services, tessel::WidgetMap& widgets)
-      : editor_(new tessel::TesselWidget(services, widgets, this)), status_(new QLabel(this)) {
+  Window() : editor_(new ucTessel(this)), status_(new QLabel(this)) {
     auto* column = new QVBoxLayout(this);
     column->addWidget(editor_, 1);
     column->addWidget(status_);
-    connect(editor_, &tessel::TesselWidget::statusText, status_, &QLabel::setText);
+    connect(editor_, &ucTessel::SettingTextColor, status_, &QLabel::setText);
+    connect(editor_, &ucTessel::TextRefused, status_, &QLabel::setText);
+    connect(editor_, &ucTessel::DocumentChanged, this, &Window::ShowName);
+    ShowName();
   }
 
-  void Open(const QString& file) {
-    editor_->Tessel().OpenFile(QFile::encodeName(file).toStdString());
-  }
+  void Open(const QString& file) { editor_->OpenFile(file); }
 
  protected:
   void closeEvent(QCloseEvent* event) override {
-    const bool busy = editor_->Tessel().Running();
-    event->setAccepted(!busy && editor_->Tessel().CloseAll());
+    event->setAccepted(!editor_->Running() && editor_->CloseAll());
   }
 
  private:
-  tessel::TesselWidget* editor_;
+  void ShowName() {
+    setWindowTitle(editor_->DocumentName() + "[*]");
+    setWindowModified(editor_->DocumentModified());
+  }
+
+  ucTessel* editor_;
   QLabel* status_;
 };
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
 
-  // What the control asks of the desktop. Settings in memory are forgotten at the end; pass a
-  // tessel::FallbackSettingsStore to keep recent files and script words.
-  tessel::MemorySettingsStore settings;
-  tessel::QtDesktop desktop;
-  Window window(desktop.With(settings, tessel::DefaultHostDirectory()), desktop.widgets);
-
+  Window window;
   for (const QString& file : QApplication::arguments().mid(1)) window.Open(file);
   window.resize(900, 640);
   window.show();

@@ -1,0 +1,12 @@
+// Where the templates are when a library brought the control.
+#pragma once
+
+#include <string>
+
+namespace tessel {
+
+/// The directory of the templates that was installed with this library; in a build tree that of the
+/// sources.
+std::string InstalledTemplates();
+
+}  // namespace tessel

@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# Installs into an empty prefix and works with what is there, as the author of another program does.
+#
+# Usage: check-library.sh SOURCES BUILD VERSION
+set -euo pipefail
+sources=$1 build=$2 version=$3
+soname=libTessel.so.${version%.*}
+export QT_QPA_PLATFORM=offscreen
+
+fail() { echo "check-library: $*" >&2; exit 1; }
+say() { echo "==> $*"; }
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+prefix=$work/prefix
+export ZANTHMAN_STORE=$work/settings.db
+
+say "Installing"
+cmake --install "$build" --prefix "$prefix" >"$work/install.log" || fail "it cannot be installed"
+library=$(find "$prefix" -name libTessel.so)
+[ -n "$library" ] || fail "there is no libTessel.so"
+libraries=$(dirname "$library")
+export PKG_CONFIG_PATH=$libraries/pkgconfig
+
+say "Looking at the library"
+[ "$(readlink "$library")" = "$soname" ] || fail "libTessel.so does not lead to $soname"
+[ "$(readlink "$libraries/$soname")" = "libTessel.so.$version" ] || fail "$soname does not lead to $version"
+readelf -d "$library" | grep -q "SONAME.*\[$soname\]" || fail "its SONAME is not $soname"
+readelf -d "$library" | grep -Eq 'RPATH|RUNPATH' && fail "it names a directory of the build"
+# Every name that can be linked to is one of the public classes.
+nm -DC --defined-only "$library" | awk '$2 ~ /^[A-Z]$/ && $2 != "A" { $1 = $2 = ""; print }' >"$work/names"
+grep -q ' ucTessel::Convert()' "$work/names" || fail "ucTessel::Convert() is not public"
+if grep -vE '^ +((typeinfo|typeinfo name|vtable|non-virtual thunk) (for|to) )?(ucTessel|TesselAutomation)(::|@@|$)' "$work/names"; then
+  fail "these names are public too"
+fi
+
+say "Compiling each header alone"
+for header in "$prefix"/include/Tessel/*.h; do
+  echo "#include <Tessel/$(basename "$header")>" >"$work/alone.cpp"
+  # shellcheck disable=SC2046
+  g++ -std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror -fsyntax-only $(pkg-config --cflags tessel | sed 's|-I/usr|-isystem /usr|g') "$work/alone.cpp" ||
+    fail "$(basename "$header") does not compile alone"
+  grep -qE '#include "' "$header" && fail "$(basename "$header") includes what is not installed"
+done
+
+# It runs until somebody closes it: only the clock ends it here.
+runs() {
+  local status=0
+  timeout 3 "$@" >"$work/output" 2>&1 || status=$?
+  [ "$status" -eq 124 ] || { cat "$work/output"; fail "$1 ended by itself: $status"; }
+}
+
+say "Building and running the example of the guide (CMake)"
+cmake -S "$sources/examples/embed" -B "$work/embed" -DCMAKE_PREFIX_PATH="$prefix" >"$work/cmake.log" ||
+  { cat "$work/cmake.log"; fail "find_package(Tessel) does not find it"; }
+cmake --build "$work/embed" >"$work/cmake.log" 2>&1 || { cat "$work/cmake.log"; fail "the example does not build"; }
+ldd "$work/embed/embed-example" | grep -q "$libraries/$soname" || fail "the example runs with another library"
+runs "$work/embed/embed-example" "$sources/data/zmuser.dat"
+
+say "Building and running it (pkg-config)"
+[ "$(pkg-config --modversion tessel)" = "$version" ] || fail "pkg-config has another version"
+# shellcheck disable=SC2046
+g++ -std=c++17 -fPIC "$sources/examples/embed/main.cpp" -o "$work/plain-example" $(pkg-config --cflags --libs tessel) ||
+  fail "the example does not build with pkg-config"
+LD_LIBRARY_PATH=$libraries runs "$work/plain-example" "$sources/data/zmuser.dat"
+
+say "Making a document from an installed template"
+printf 'changed here' >"$prefix/share/zanth-manager/zmuserp.dat"
+# shellcheck disable=SC2046
+g++ -std=c++17 -fPIC "$sources/tests/install/template.cpp" -o "$work/template" $(pkg-config --cflags --libs tessel) ||
+  fail "the program does not build"
+[ "$(LD_LIBRARY_PATH=$libraries "$work/template" 2>/dev/null)" = "changed here" ] || fail "it is not the installed template"
+
+say "Loading a form by the installed plugin"
+plugin=$(find "$prefix" -path '*/designer/libtessel.so')
+[ -n "$plugin" ] || fail "there is no plugin for Qt Designer"
+ldd "$plugin" | grep -q "libTessel.so.* => $prefix/" || fail "the plugin does not find the library beside it"
+cmake -S "$sources/examples/form" -B "$work/form" >"$work/cmake.log" || { cat "$work/cmake.log"; fail "cmake failed"; }
+cmake --build "$work/form" >"$work/cmake.log" 2>&1 || { cat "$work/cmake.log"; fail "the form's example does not build"; }
+QT_PLUGIN_PATH=$(dirname "$(dirname "$plugin")") runs "$work/form/form-example" "$sources/examples/form/form.ui"
+
+say "Done"
