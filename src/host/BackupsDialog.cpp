@@ -75,7 +75,9 @@ BackupsDialog::BackupsDialog(std::vector<Backup> backups, const std::string& cur
 void BackupsDialog::AddRow(const Backup& backup, int number, bool current) {
   auto* row = new QTreeWidgetItem(list_);
   row->setData(kFile, Qt::UserRole, number);
-  row->setText(kFile, OnOneLine(NameOfPath(backup.path, '/')));
+  const QString name =
+      backup.path.empty() ? tr("Unknown") : OnOneLine(NameOfPath(backup.path, '/'));
+  row->setText(kFile, backup.damaged ? tr("%1 (damaged)").arg(name) : name);
   row->setText(kReplaced, QLocale().toString(QDateTime::fromSecsSinceEpoch(backup.seconds),
                                              QLocale::ShortFormat));
   row->setText(kSize, QLocale().formattedDataSize(static_cast<qint64>(backup.size)));

@@ -181,8 +181,10 @@ void MainWindow::ShowBackups() {
 
 void MainWindow::RestoreBackup(const Backup& backup) {
   try {
-    ShowRestoredText(control_->Tessel(), files_, OpenedPathOf(*control_, backup.path),
-                     backups_->Read(backup));
+    const KeptBytes kept = backups_->Read(backup);
+    const std::string path = kept.damaged ? std::string() : OpenedPathOf(*control_, backup.path);
+    ShowRestoredText(control_->Tessel(), files_, path, kept.bytes);
+    if (kept.damaged) ShowNotice(tr("The backup is damaged. This is what is left of it."));
   } catch (const posix::FileProblem& problem) {
     ShowNotice(tr("The backup cannot be read: %1.").arg(ShownName(problem.what())));
   }
@@ -200,6 +202,10 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
   auto texts = std::make_unique<AbandonedTexts>(folder, onDisk);
   keeper_ = new RecoveryKeeper(control_->Tessel(), folder, this);
   connect(keeper_, &RecoveryKeeper::failed, this, &MainWindow::ShowNotice);
+  if (texts->Problem()) {
+    ShowNotice(tr("Text that an earlier run kept in %1 cannot be read: %2.")
+                   .arg(ShownName(folder), ShownName(*texts->Problem())));
+  }
   if (texts->Texts().empty()) return;
   auto* offer = new RecoveryOffer(
       control_->Tessel(), files_, messages_, std::move(texts),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -86,23 +87,32 @@ void RecoveryKeeper::KeepBeforeItIsDropped() {
 
 void RecoveryKeeper::KeepChanges() {
   timer_.stop();
-  for (int slot = 0; slot < std::ssize(slots_); ++slot) KeepSlot(slot);
-  DropMovedTexts();
+  try {
+    for (int slot = 0; slot < std::ssize(slots_); ++slot) KeepSlot(slot);
+    DropMovedTexts();
+  } catch (const std::bad_alloc&) {  // no reason to end with all texts
+    emit failed(tr("Unsaved text cannot be kept for recovery: there is not enough memory."));
+  }
   QTimer::singleShot(kUntilProblemsShow, this, &RecoveryKeeper::TellProblem);
 }
 
 void RecoveryKeeper::KeepSlot(int index) {
   Slot& slot = At(index);
-  const bool changed = std::exchange(slot.changed, false);
-  if (!Modified(index) || (!changed && slot.kept)) return;
+  if (!Modified(index) || (!slot.changed && slot.kept)) {
+    slot.changed = false;
+    return;
+  }
   const RichTextBox& editor = std::as_const(tessel_.Controls()).rtbCon[index];
   const std::string_view bytes = editor.Bytes();
   const Fingerprint print{bytes.size(), std::hash<std::string_view>{}(bytes)};
-  if (slot.kept && slot.kept->print == print) return;  // only its colours have changed
-  if (!slot.path) slot.path = PathOf(index);
-  if (!slot.kept) slot.kept = Kept{nextId_++, {}};
-  slot.kept->print = print;
-  store_.Keep(slot.kept->id, *slot.path, editor.Text());
+  const bool onlyColours = slot.kept && slot.kept->print == print;
+  if (!onlyColours) {
+    if (!slot.path) slot.path = PathOf(index);
+    if (!slot.kept) slot.kept = Kept{nextId_++, {}};
+    store_.Keep(slot.kept->id, *slot.path, editor.Text());
+    slot.kept->print = print;
+  }
+  slot.changed = false;
 }
 
 /// Its text stays where it is kept, until it is seen that another editor has taken it over.
@@ -125,12 +135,22 @@ void RecoveryKeeper::DropMovedTexts() {
   });
 }
 
+void RecoveryKeeper::KeepAllAgain() {
+  for (Slot& slot : slots_) {
+    if (!slot.kept) continue;
+    slot.kept->print = {};
+    slot.changed = true;
+  }
+  KeepChanges();
+}
+
 bool RecoveryKeeper::KeepNow() {
   KeepChanges();
   return store_.Flush();
 }
 
 void RecoveryKeeper::TellProblem() {
+  if (store_.TakeLoss()) KeepAllAgain();
   if (const auto problem = store_.TakeProblem()) {
     emit failed(tr("Unsaved text cannot be kept for recovery: %1.").arg(ShownName(*problem)));
   }

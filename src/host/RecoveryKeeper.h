@@ -54,6 +54,7 @@ class RecoveryKeeper : public QObject {
   void KeepBeforeItIsDropped();
   void KeepChanges();
   void KeepSlot(int slot);
+  void KeepAllAgain();
   void LetGo(Slot& slot);
   void DropMovedTexts();
   void TellProblem();

@@ -19,9 +19,11 @@ constexpr std::size_t kMostNamed = 4;
 QString Named(const KeptText& text, char separator) {
   const QString name =
       text.path.empty() ? QString(kUntitled) : ShownName(NameOfPath(text.path, separator));
-  const QDateTime time = QDateTime::fromSecsSinceEpoch(text.seconds);
-  return QObject::tr("%1 (%2)").arg(name.simplified(),
-                                    QLocale().toString(time, QLocale::ShortFormat));
+  const QString time =
+      QLocale().toString(QDateTime::fromSecsSinceEpoch(text.seconds), QLocale::ShortFormat);
+  const QString form =
+      text.damaged ? QObject::tr("what is left of %1 (%2)") : QObject::tr("%1 (%2)");
+  return form.arg(name.simplified(), time);
 }
 
 }  // namespace
@@ -71,8 +73,9 @@ QString RecoveryOffer::Sentence() const {
 void RecoveryOffer::Recover() {
   if (tessel_.Running()) return;
   hide();
-  for (const AbandonedTexts::Text& text : texts_->Texts()) {
-    ShowRestoredText(tessel_, files_, text.path, text.bytes);
+  for (const KeptBytes& text : texts_->Texts()) {
+    // What is left of a text must not take a whole one's place.
+    ShowRestoredText(tessel_, files_, text.damaged ? std::string() : text.path, text.bytes);
   }
   if (keepNow_()) texts_->Discard();
 }

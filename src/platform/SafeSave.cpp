@@ -3,10 +3,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <cstdio>
+#include <chrono>
 #include <memory>
-#include <random>
 
+#include "platform/FreshFile.h"
 #include "platform/PathResolution.h"
 #include "platform/Posix.h"
 
@@ -16,52 +16,12 @@ namespace {
 constexpr mode_t kPermissions = 07777;
 constexpr mode_t kAnybodyWrites = S_IWUSR | S_IWGRP | S_IWOTH;
 
+// The name's length does not depend on the target's, which may be as long as names can be.
+constexpr const char* kFreshPrefix = ".tessel-";
+// Where locks reach one machine only, another one may still be at work on a younger file.
+constexpr std::chrono::hours kAbandonedAge{1};
+
 using Status = std::optional<struct stat>;
-
-/// A new file beside another one. It is taken away again unless it took that one's place.
-class FileBeside {
- public:
-  FileBeside(const std::string& target, mode_t mode) : FileBeside(Create(target, mode)) {}
-  ~FileBeside() {
-    if (!placed_) ::unlink(path_.c_str());
-  }
-  FileBeside(const FileBeside&) = delete;
-  FileBeside& operator=(const FileBeside&) = delete;
-
-  int Number() const { return file_.Number(); }
-
-  void TakePlaceOf(const std::string& target) {
-    file_.Close();
-    Checked([&] { return ::rename(path_.c_str(), target.c_str()); });
-    placed_ = true;
-  }
-
- private:
-  struct Created {
-    std::string path;
-    int number;
-  };
-
-  explicit FileBeside(Created created) : path_(std::move(created.path)), file_(created.number) {}
-
-  static Created Create(const std::string& target, mode_t mode) {
-    std::random_device random;
-    for (;;) {
-      // The name's length does not depend on the target's, which may be as long as names can be.
-      char name[32];
-      std::snprintf(name, sizeof name, ".tessel-%08x%08x", random(), random());
-      std::string path = DirectoryPart(target) + name;
-      const int number = Retry(
-          [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); });
-      if (number != -1) return {std::move(path), number};
-      if (errno != EEXIST) throw FileProblem(errno);
-    }
-  }
-
-  std::string path_;
-  Descriptor file_;
-  bool placed_ = false;
-};
 
 bool DirectoryForbids(const FileProblem& problem) {
   return problem.Code() == EACCES || problem.Code() == EPERM || problem.Code() == EROFS;
@@ -89,27 +49,32 @@ void KeepOwnerAndPermissions(int file, const struct stat& old) {
   Checked([&] { return ::fchmod(file, old.st_mode & kPermissions); });
 }
 
-void SyncDirectoryOf(const std::string& target) {
+/// The directory that holds the file, opened to be listed and flushed; −1 when that is forbidden.
+int OpenDirectoryOf(const std::string& target) {
   const std::string path = DirectoryPart(target);
-  const Descriptor directory(Retry([&] {
+  return Retry([&] {
     return ::open(path.empty() ? "." : path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  }));
-  // A directory that cannot be listed cannot be flushed by us; some file systems know no flushing
-  // of directories.
-  if (directory.Number() == -1) return;
-  if (Retry([&] { return ::fsync(directory.Number()); }) == -1 && errno != EINVAL) {
+  });
+}
+
+void SyncDirectory(int directory) {
+  // Some file systems know no flushing of directories.
+  if (Retry([&] { return ::fsync(directory); }) == -1 && errno != EINVAL) {
     throw FileProblem("the new text is in the file, but may not survive a power failure (" +
                       std::string(FileProblem(errno).what()) + ")");
   }
 }
 
-void Replace(FileBeside& fresh, const std::string& target, const Status& old,
+void Replace(FreshFile& fresh, const std::string& target, const Status& old,
              std::string_view bytes) {
   if (old) KeepOwnerAndPermissions(fresh.Number(), *old);
   WriteAll(fresh.Number(), bytes);
   Checked([&] { return ::fsync(fresh.Number()); });
   fresh.TakePlaceOf(target);
-  SyncDirectoryOf(target);
+  const Descriptor directory(OpenDirectoryOf(target));
+  if (directory.Number() == -1) return;
+  SyncDirectory(directory.Number());
+  RemoveAbandonedFiles(directory.Number(), kFreshPrefix, kAbandonedAge);
 }
 
 void ReserveRoom(int file, std::size_t oldSize, std::size_t newSize) {
@@ -148,13 +113,14 @@ void OverwriteInPlace(const std::string& target, std::string_view bytes) {
 }
 
 /// Nothing when the directory does not allow new files and there is an old one to write into.
-std::unique_ptr<FileBeside> CreateBeside(const std::string& target, const Status& old) {
+std::unique_ptr<FreshFile> CreateBeside(const std::string& target, const Status& old) {
   // Until it has the old one's permissions, nobody else may look into the new file.
   constexpr mode_t kPrivate = S_IRUSR | S_IWUSR;
   constexpr mode_t kByUmask = 0666;
   if (old && StickyDirectoryForbids(target, *old)) return nullptr;
   try {
-    return std::make_unique<FileBeside>(target, old ? kPrivate : kByUmask);
+    return std::make_unique<FreshFile>(AT_FDCWD, DirectoryPart(target) + kFreshPrefix,
+                                       old ? kPrivate : kByUmask);
   } catch (const FileProblem& problem) {
     if (old && DirectoryForbids(problem)) return nullptr;
     throw;

@@ -13,6 +13,9 @@ namespace tessel::posix {
 /// with its permissions and, where the system lets them, its owner and group: a crash at any moment
 /// leaves the old bytes or the new ones. Only where the directory forbids that, the file is written
 /// in place, with the room reserved first. A read-only file is refused.
+///
+/// What a save that was killed has left in the same directory is taken away by a later one, after
+/// an hour at the earliest.
 void SaveWhole(const std::string& target, std::string_view bytes);
 
 }  // namespace tessel::posix

@@ -11,7 +11,7 @@
 
 #include "platform/PathResolution.h"
 #include "platform/Paths.h"
-#include "platform/ScopeGuard.h"
+#include "safekeeping/Hash.h"
 
 namespace tessel {
 namespace {
@@ -23,14 +23,10 @@ using posix::FileProblem;
 constexpr std::size_t kHashDigits = 16;
 constexpr std::size_t kTimeDigits = 20;
 constexpr std::size_t kNameLength = kHashDigits + 1 + kTimeDigits + 1 + 8;
-constexpr std::uint64_t kFnvBasis = 14695981039346656037U;
-constexpr std::uint64_t kFnvPrime = 1099511628211U;
 
-std::string HashOf(std::string_view path) {
-  std::uint64_t hash = kFnvBasis;
-  for (const char c : path) hash = (hash ^ static_cast<unsigned char>(c)) * kFnvPrime;
+std::string HashDigits(std::string_view path) {
   char digits[kHashDigits + 1];
-  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+  std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(HashOf(path)));
   return digits;
 }
 
@@ -78,12 +74,9 @@ void BackupStore::Keep(const std::string& path, std::string_view bytes) {
     throw FileProblem("it is larger than all backups together may be");
   }
   const PrivateFolder folder(folder_);
-  // Another program that holds the lock, perhaps for ever, keeps nobody from saving.
-  const posix::Descriptor lock(folder.Lock(".lock", false));
-  if (lock.Number() != -1) folder.RemoveLeftovers();
-  const std::string hash = HashOf(path);
-  const std::string name = NextName(BackupNames(folder), hash);
-  folder.Write(name, HeadOfKeptText({path, NanosecondsNow() / 1'000'000'000, bytes.size()}), bytes);
+  folder.RemoveLeftovers();
+  const std::string name = NextName(BackupNames(folder), HashDigits(path));
+  WriteKeptText(folder, name, {path, NanosecondsNow() / 1'000'000'000, bytes.size()}, bytes);
   Prune(folder, name);
 }
 
@@ -121,7 +114,7 @@ std::vector<Backup> BackupStore::List() const {
   return backups;
 }
 
-std::string BackupStore::Read(const Backup& backup) const {
+KeptBytes BackupStore::Read(const Backup& backup) const {
   return ReadKeptText(PrivateFolder(folder_), backup.name);
 }
 

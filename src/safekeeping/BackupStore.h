@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/Services.h"
-#include "safekeeping/PrivateFolder.h"
+#include "safekeeping/KeptText.h"
 
 namespace tessel {
 
@@ -32,9 +32,10 @@ class BackupStore {
   /// for. Bytes beyond the limit by themselves are a FileProblem, as is a folder that cannot be
   /// used.
   void Keep(const std::string& path, std::string_view bytes);
-  /// The newest first; damaged ones are left out. Empty when there is no folder.
+  /// The newest first. Empty when there is no folder.
   std::vector<Backup> List() const;
-  std::string Read(const Backup& backup) const;
+  /// What is left of a damaged one is no FileProblem.
+  KeptBytes Read(const Backup& backup) const;
 
  private:
   void Prune(const PrivateFolder& folder, const std::string& newest) const;

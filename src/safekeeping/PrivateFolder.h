@@ -14,7 +14,8 @@ namespace tessel {
 std::string DefaultStateFolder();
 
 /// A directory that only its owner can look into. It is held open: whatever happens to its path
-/// afterwards, the files stay the same. Names have no directory part. Errors are FileProblems.
+/// afterwards, the files stay the same. Names have no directory part. Errors are
+/// FileProblems.
 class PrivateFolder {
  public:
   /// Makes the directory, and those on the way to it, where they are not there. One that belongs to
@@ -30,36 +31,28 @@ class PrivateFolder {
   std::string ReadHead(const std::string& name, std::size_t length) const;
   /// Size in bytes, or nothing when no regular file has that name.
   std::optional<std::size_t> SizeOf(const std::string& name) const;
+  /// When it was written, in seconds since 1970; 0 when that cannot be said.
+  long long SecondsOf(const std::string& name) const;
   /// A file that is not there is no error.
   void Remove(const std::string& name) const;
   /// The names of all entries but hidden ones, in byte order.
   std::vector<std::string> Names() const;
-  /// Takes away what writes that were killed half-way have left behind. Nobody else may be writing.
+  /// Takes away what writes that were killed half-way have left behind.
   void RemoveLeftovers() const;
 
+  /// Gives an entry another name. An empty directory of that name is replaced.
+  void Rename(const std::string& from, const std::string& to) const;
+  /// Does the path still lead here?
+  bool IsAt(const std::string& path) const;
+
   /// Makes the file if necessary and locks it for as long as the descriptor is open. −1 when
-  /// somebody else has it locked and `wait` is false.
-  int Lock(const std::string& name, bool wait) const;
+  /// somebody else has it locked.
+  int Lock(const std::string& name) const;
 
  private:
   int OpenToRead(const std::string& name) const;
-  std::vector<std::string> AllNames() const;
 
   posix::Descriptor directory_;
 };
-
-/// A text as it is kept in a file, with where it belongs.
-struct KeptText {
-  std::string path;       ///< of the document; empty: it had none
-  long long seconds = 0;  ///< when it was kept, since 1970
-  std::size_t size = 0;   ///< of the text, in bytes
-};
-
-/// The lines in front of the bytes in the file.
-std::string HeadOfKeptText(const KeptText& text);
-/// What a kept file says of its text; nothing when the file is no such file or not whole.
-std::optional<KeptText> DescribeKeptText(const PrivateFolder& folder, const std::string& name);
-/// The text of a whole kept file; anything else is a FileProblem.
-std::string ReadKeptText(const PrivateFolder& folder, const std::string& name);
 
 }  // namespace tessel

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstdio>
 #include <random>
+#include <system_error>
 #include <utility>
 
 namespace tessel {
@@ -13,33 +14,34 @@ namespace {
 
 using posix::FileProblem;
 
-constexpr const char* kRunsLock = ".lock";
-constexpr const char* kOwnLock = ".lock";
+constexpr const char* kLock = ".lock";
 constexpr const char* kRunPrefix = "run-";
 constexpr const char* kTextPrefix = "text-";
 
 std::string NameOf(RecoveryStore::Id id) { return kTextPrefix + std::to_string(id); }
+
+std::string NewRunName() {
+  std::random_device random;
+  char name[64];
+  std::snprintf(name, sizeof name, "%s%ld-%08x%08x", kRunPrefix, static_cast<long>(::getpid()),
+                random(), random());
+  return name;
+}
 
 long long SecondsNow() {
   using namespace std::chrono;
   return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// Takes away a run's folder with all it holds. What cannot be taken away stays.
-void RemoveRun(const std::string& path) try {
+/// Takes away a run's folder, unless it holds anything but its lock.
+void RemoveEmptyRun(const std::string& path) try {
   {
     const PrivateFolder folder(path);
-    for (const std::string& name : folder.Names()) folder.Remove(name);
+    if (!folder.Names().empty()) return;
     folder.RemoveLeftovers();
-    folder.Remove(kOwnLock);
+    folder.Remove(kLock);
   }
   ::rmdir(path.c_str());
-} catch (const FileProblem&) {
-}
-
-/// The same, unless it holds anything but its lock.
-void RemoveRunWithoutTexts(const std::string& path) try {
-  if (PrivateFolder(path).Names().empty()) RemoveRun(path);
 } catch (const FileProblem&) {
 }
 
@@ -47,70 +49,82 @@ void RemoveRunWithoutTexts(const std::string& path) try {
 
 // --- This run
 
-RecoveryStore::RecoveryStore(std::string folder) : parent_(std::move(folder)) {
+RecoveryStore::RecoveryStore(std::string folder, std::chrono::milliseconds patience)
+    : parent_(std::move(folder)), patience_(patience) {
   try {
     MakeFolder();
-    worker_ = std::thread(&RecoveryStore::Work, this);
-  } catch (const std::exception& problem) {
-    folder_.reset();
+  } catch (const FileProblem& problem) {
+    unusable_ = true;
     problem_ = problem.what();
+  }
+  try {
+    worker_ = std::thread(&RecoveryStore::Work, this);
+  } catch (const std::system_error& problem) {
+    unusable_ = true;
+    problem_ = problem.code().message();
   }
 }
 
+// Nobody may find the folder and take it for abandoned before it is locked: it is hidden until
+// then.
 void RecoveryStore::MakeFolder() {
   const PrivateFolder all(parent_);
-  // Whoever looks for abandoned folders waits until this one is locked.
-  const posix::Descriptor lock(all.Lock(kRunsLock, true));
-  std::random_device random;
-  char name[64];
-  std::snprintf(name, sizeof name, "%s%ld-%08x%08x", kRunPrefix, static_cast<long>(::getpid()),
-                random(), random());
-  name_ = name;
-  folder_.emplace(parent_ + "/" + name_);
-  lock_ = folder_->Lock(kOwnLock, false);
+  const std::string name = NewRunName();
+  const std::string hidden = "." + name;
+  try {
+    auto folder = std::make_unique<PrivateFolder>(parent_ + "/" + hidden);
+    auto lock = std::make_unique<posix::Descriptor>(folder->Lock(kLock));
+    all.Rename(hidden, name);
+    folder_ = std::move(folder);
+    lock_ = std::move(lock);
+    path_ = parent_ + "/" + name;
+  } catch (const FileProblem&) {
+    RemoveEmptyRun(parent_ + "/" + hidden);
+    throw;
+  }
 }
 
 RecoveryStore::~RecoveryStore() {
-  if (!folder_) return;
   {
     const std::lock_guard guard(mutex_);
     ending_ = true;
   }
   changed_.notify_all();
-  worker_.join();
-  RemoveRunWithoutTexts(parent_ + "/" + name_);
-  ::close(lock_);
+  if (worker_.joinable()) worker_.join();
+  if (folder_) RemoveEmptyRun(path_);
 }
 
 void RecoveryStore::Keep(Id id, std::string path, std::string bytes) {
-  if (!folder_) return;
   const std::size_t size = bytes.size();
-  {
-    const std::lock_guard guard(mutex_);
-    orders_[id] = {true, {std::move(path), SecondsNow(), size}, std::move(bytes)};
-  }
-  changed_.notify_all();
+  Give(id, {true, {std::move(path), SecondsNow(), size}, std::move(bytes)});
 }
 
-void RecoveryStore::Drop(Id id) {
-  if (!folder_) return;
+void RecoveryStore::Drop(Id id) { Give(id, {}); }
+
+void RecoveryStore::Give(Id id, Order order) {
+  if (!worker_.joinable()) return;
   {
     const std::lock_guard guard(mutex_);
-    orders_[id] = {};
+    again_.erase(id);
+    orders_[id] = std::move(order);
   }
   changed_.notify_all();
 }
 
 bool RecoveryStore::Flush() {
-  if (!folder_) return false;
+  if (!worker_.joinable()) return false;
   std::unique_lock guard(mutex_);
   changed_.wait(guard, [this] { return orders_.empty() && !working_; });
   return failing_.empty();
 }
 
 void RecoveryStore::Finish() {
-  if (!folder_) return;
+  {
+    const std::lock_guard guard(mutex_);
+    again_.clear();
+  }
   Flush();
+  if (!folder_) return;
   try {
     for (const std::string& name : folder_->Names()) folder_->Remove(name);
   } catch (const FileProblem&) {
@@ -120,17 +134,36 @@ void RecoveryStore::Finish() {
 
 std::optional<std::string> RecoveryStore::TakeProblem() {
   const std::lock_guard guard(mutex_);
-  const bool failing = !folder_ || !failing_.empty();
+  const bool failing = unusable_ || !failing_.empty();
   if (!failing || std::exchange(told_, true)) return std::nullopt;
   return problem_;
+}
+
+bool RecoveryStore::TakeLoss() {
+  const std::lock_guard guard(mutex_);
+  return std::exchange(lost_, false);
+}
+
+/// False when the program ends and nothing is left to do.
+bool RecoveryStore::WaitForOrders(std::unique_lock<std::mutex>& guard) {
+  const auto something = [this] { return ending_ || !orders_.empty(); };
+  if (again_.empty()) {
+    changed_.wait(guard, something);
+  } else if (!changed_.wait_for(guard, patience_, something)) {
+    orders_.merge(again_);
+    again_.clear();
+  }
+  return !orders_.empty();
 }
 
 void RecoveryStore::Work() {
   std::unique_lock guard(mutex_);
   for (;;) {
-    changed_.wait(guard, [this] { return ending_ || !orders_.empty(); });
-    if (orders_.empty()) return;
-    const auto order = orders_.extract(orders_.begin());
+    if (!WaitForOrders(guard)) {
+      if (ending_) return;
+      continue;
+    }
+    auto order = orders_.extract(orders_.begin());
     working_ = true;
     guard.unlock();
     std::string problem;
@@ -141,34 +174,50 @@ void RecoveryStore::Work() {
     }
     guard.lock();
     working_ = false;
-    if (problem.empty()) {
-      failing_.erase(order.key());
-      if (failing_.empty()) told_ = false;
-    } else {
-      failing_.insert(order.key());
-      problem_ = std::move(problem);
-    }
+    Note(order.key(), std::move(order.mapped()), std::move(problem));
     changed_.notify_all();
   }
 }
 
+void RecoveryStore::Note(Id id, Order order, std::string problem) {
+  if (problem.empty()) {
+    unusable_ = false;
+    failing_.erase(id);
+    if (failing_.empty()) told_ = false;
+    return;
+  }
+  failing_.insert(id);
+  problem_ = std::move(problem);
+  if (!orders_.contains(id)) again_[id] = std::move(order);
+}
+
+/// Somebody may have taken the folder away.
+void RecoveryStore::UseFolder() {
+  if (folder_ && folder_->IsAt(path_)) return;
+  const bool hadTexts = folder_ != nullptr;
+  MakeFolder();
+  const std::lock_guard guard(mutex_);
+  lost_ = lost_ || hadTexts;
+}
+
 void RecoveryStore::Carry(Id id, const Order& order) {
+  UseFolder();
   if (!order.keep) return folder_->Remove(NameOf(id));
-  folder_->Write(NameOf(id), HeadOfKeptText(order.text), order.bytes);
+  WriteKeptText(*folder_, NameOf(id), order.text, order.bytes);
 }
 
 // --- Runs that ended without asking
 
 AbandonedTexts::AbandonedTexts(const std::string& folder, const OnDisk& onDisk) try {
   if (!posix::StatusOf(folder)) return;
-  const PrivateFolder all(folder);
-  const posix::Descriptor lock(all.Lock(kRunsLock, true));
-  for (const std::string& name : all.Names()) {
-    if (name.starts_with(kRunPrefix)) Adopt(folder + "/" + name, onDisk);
+  for (const std::string& name : PrivateFolder(folder).Names()) {
+    const std::string path = folder + "/" + name;
+    const auto status = posix::StatusOfLink(path);
+    if (name.starts_with(kRunPrefix) && status && S_ISDIR(status->st_mode)) Adopt(path, onDisk);
   }
-  std::ranges::stable_sort(texts_, {}, &Text::seconds);
-} catch (const FileProblem&) {
-  // Nothing can be offered.
+  std::ranges::stable_sort(texts_, {}, &KeptText::seconds);
+} catch (const FileProblem& problem) {
+  problem_ = problem.what();
 }
 
 AbandonedTexts::~AbandonedTexts() {
@@ -177,26 +226,43 @@ AbandonedTexts::~AbandonedTexts() {
 
 void AbandonedTexts::Adopt(const std::string& path, const OnDisk& onDisk) try {
   const PrivateFolder folder(path);
-  const int lock = folder.Lock(kOwnLock, false);
+  const int lock = folder.Lock(kLock);
   if (lock == -1) return;  // its program lives
-  runs_.push_back({path, lock});
+  runs_.push_back({path, lock, {}});
   for (const std::string& file : folder.Names()) {
-    const auto text = DescribeKeptText(folder, file);
-    if (!text) continue;
-    std::string bytes = ReadKeptText(folder, file);
-    if (!text->path.empty() && onDisk(text->path) == bytes) {
-      folder.Remove(file);
-    } else {
-      texts_.push_back({*text, std::move(bytes)});
-    }
+    if (file.starts_with(kTextPrefix)) AdoptText(folder, file, runs_.back(), onDisk);
   }
-  RemoveRunWithoutTexts(path);
-} catch (const FileProblem&) {
-  // A folder that cannot be read offers nothing and stays where it is.
+  RemoveEmptyRun(path);
+} catch (const FileProblem& problem) {
+  problem_ = problem.what();
+}
+
+void AbandonedTexts::AdoptText(const PrivateFolder& folder, const std::string& file, Run& run,
+                               const OnDisk& onDisk) try {
+  const auto size = folder.SizeOf(file);
+  if (!size) return;  // nothing that was written here
+  KeptBytes text = ReadKeptText(folder, file);
+  const bool empty = *size == 0;
+  if (empty || (!text.damaged && !text.path.empty() && onDisk(text.path) == text.bytes)) {
+    return folder.Remove(file);
+  }
+  run.files.push_back(file);
+  texts_.push_back(std::move(text));
+} catch (const FileProblem& problem) {
+  problem_ = problem.what();
 }
 
 void AbandonedTexts::Discard() {
-  for (const Run& run : runs_) RemoveRun(run.path);
+  for (Run& run : runs_) {
+    try {
+      const PrivateFolder folder(run.path);
+      for (const std::string& file : run.files) folder.Remove(file);
+    } catch (const FileProblem& problem) {
+      problem_ = problem.what();  // they are offered again
+    }
+    run.files.clear();
+    RemoveEmptyRun(run.path);
+  }
   texts_.clear();
 }
 

@@ -1,6 +1,7 @@
 // Unsaved texts, kept on disk for the case that the program ends without asking.
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <map>
@@ -12,7 +13,7 @@
 #include <thread>
 #include <vector>
 
-#include "safekeeping/PrivateFolder.h"
+#include "safekeeping/KeptText.h"
 
 namespace tessel {
 
@@ -23,9 +24,10 @@ class RecoveryStore {
  public:
   using Id = int;
 
-  /// `folder` is that of all runs. When it cannot be used, that is the problem to tell, and nothing
-  /// is kept.
-  explicit RecoveryStore(std::string folder);
+  /// `folder` is that of all runs. When it cannot be used, that is the problem to tell. What could
+  /// not be kept is tried again after that time.
+  explicit RecoveryStore(std::string folder,
+                         std::chrono::milliseconds patience = std::chrono::seconds(5));
   ~RecoveryStore();
   RecoveryStore(const RecoveryStore&) = delete;
   RecoveryStore& operator=(const RecoveryStore&) = delete;
@@ -40,6 +42,8 @@ class RecoveryStore {
   void Finish();
   /// What went wrong, once until it works again.
   std::optional<std::string> TakeProblem();
+  /// True once after the folder had gone, with all texts that were in it, and was made anew.
+  bool TakeLoss();
 
  private:
   struct Order {
@@ -49,20 +53,30 @@ class RecoveryStore {
   };
 
   void MakeFolder();
+  void UseFolder();
+  bool WaitForOrders(std::unique_lock<std::mutex>& guard);
   void Work();
   void Carry(Id id, const Order& order);
+  void Note(Id id, Order order, std::string problem);
+  void Give(Id id, Order order);
 
   std::string parent_;
-  std::string name_;
-  std::optional<PrivateFolder> folder_;
-  int lock_ = -1;
+  std::chrono::milliseconds patience_;
+
+  // Of the thread, while there is one.
+  std::string path_;
+  std::unique_ptr<PrivateFolder> folder_;
+  std::unique_ptr<posix::Descriptor> lock_;
 
   std::mutex mutex_;
   std::condition_variable changed_;
   std::map<Id, Order> orders_;
+  std::map<Id, Order> again_;  // those that failed
+  std::set<Id> failing_;       // texts that are not on the disk as they should be
   bool working_ = false;
   bool ending_ = false;
-  std::set<Id> failing_;  // texts that are not on the disk as they should be
+  bool unusable_ = false;  // there is no folder yet
+  bool lost_ = false;
   bool told_ = false;
   std::string problem_;
   std::thread worker_;
@@ -72,34 +86,36 @@ class RecoveryStore {
 /// lives they are offered to nobody else.
 class AbandonedTexts {
  public:
-  struct Text : KeptText {
-    std::string bytes;
-  };
   /// The bytes of a file now, or nothing when there is none.
   using OnDisk = std::function<std::optional<std::string>(const std::string& path)>;
 
-  /// Texts that are safe (their file holds the same bytes) are taken away at once. A folder that
-  /// cannot be used holds no texts.
+  /// Texts that are safe (their file holds the same bytes) are taken away at once.
   AbandonedTexts(const std::string& folder, const OnDisk& onDisk);
   ~AbandonedTexts();
   AbandonedTexts(const AbandonedTexts&) = delete;
   AbandonedTexts& operator=(const AbandonedTexts&) = delete;
 
   /// The oldest first.
-  const std::vector<Text>& Texts() const { return texts_; }
+  const std::vector<KeptBytes>& Texts() const { return texts_; }
   /// Takes them away for good.
   void Discard();
+  /// Why there may be texts that are not among these. They stay where they are.
+  const std::optional<std::string>& Problem() const { return problem_; }
 
  private:
   struct Run {
     std::string path;
     int lock;
+    std::vector<std::string> files;  // of the texts that are offered
   };
 
   void Adopt(const std::string& path, const OnDisk& onDisk);
+  void AdoptText(const PrivateFolder& folder, const std::string& file, Run& run,
+                 const OnDisk& onDisk);
 
   std::vector<Run> runs_;
-  std::vector<Text> texts_;
+  std::vector<KeptBytes> texts_;
+  std::optional<std::string> problem_;
 };
 
 }  // namespace tessel

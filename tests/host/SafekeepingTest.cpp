@@ -33,7 +33,8 @@ class Safekeeping : public HostTest {
       const std::string name = entry.path().filename();
       if (!name.starts_with("text-")) continue;
       const PrivateFolder run(entry.path().parent_path());
-      texts.push_back(DescribeKeptText(run, name)->path + ": " + ReadKeptText(run, name));
+      const KeptBytes text = ReadKeptText(run, name);
+      texts.push_back(text.path + ": " + text.bytes);
     }
     std::ranges::sort(texts);
     return texts;

@@ -18,7 +18,7 @@ class Backups : public testing::Test {
   void Save(const std::string& path, const std::string& bytes) { files_.Write(path, bytes); }
   std::vector<std::string> Texts() const {
     std::vector<std::string> texts;
-    for (const Backup& backup : store_.List()) texts.push_back(store_.Read(backup));
+    for (const Backup& backup : store_.List()) texts.push_back(store_.Read(backup).bytes);
     return texts;
   }
   static void ExpectPrivate(const std::string& folder) {
@@ -108,7 +108,7 @@ TEST_F(Backups, HostileNamesOfFilesNeverBecomeNamesInTheFolder) {
   std::set<std::string> listed;
   for (const Backup& backup : store_.List()) {
     listed.insert(backup.path);
-    EXPECT_EQ(store_.Read(backup), "text of " + backup.path);
+    EXPECT_EQ(store_.Read(backup).bytes, "text of " + backup.path);
   }
   EXPECT_EQ(listed, std::set<std::string>(paths.begin(), paths.end()));
   EXPECT_EQ(directory_.Names(), std::vector<std::string>{"state"});
@@ -125,13 +125,52 @@ TEST_F(Backups, AFileIsTheSameFileThroughALink) {
   EXPECT_EQ(store_.List()[1].path, path);
 }
 
-TEST_F(Backups, DamagedOnesAreNotListed) {
+TEST_F(Backups, WhatIsLeftOfADamagedOneIsThere) {
   const std::string path = directory_.Put("user.con", "one");
   Save(path, "two");
   Save(path, "three");
   const std::string newest = folder_ + "/" + store_.List()[0].name;
   std::filesystem::resize_file(newest, std::filesystem::file_size(newest) - 1);
-  EXPECT_EQ(Texts(), std::vector<std::string>{"one"});
+  const std::vector<Backup> backups = store_.List();
+  ASSERT_EQ(backups.size(), 2U);
+  EXPECT_TRUE(backups[0].damaged);
+  EXPECT_EQ(backups[0].path, path);
+  EXPECT_EQ(backups[0].size, 2U);
+  EXPECT_EQ(store_.Read(backups[0]).bytes, "tw");
+  EXPECT_TRUE(store_.Read(backups[0]).damaged);
+  EXPECT_FALSE(backups[1].damaged);
+  EXPECT_EQ(store_.Read(backups[1]).bytes, "one");
+}
+
+TEST_F(Backups, OneOtherByteIsSeenWhenItIsRead) {
+  const std::string path = directory_.Put("user.con", "one");
+  Save(path, "two");
+  const Backup backup = store_.List().at(0);
+  std::fstream(folder_ + "/" + backup.name, std::ios::in | std::ios::out | std::ios::ate)
+      .seekp(-1, std::ios::end)
+      .write("X", 1);
+  const KeptBytes kept = store_.Read(backup);
+  EXPECT_TRUE(kept.damaged);
+  EXPECT_EQ(kept.bytes, "onX");
+}
+
+TEST_F(Backups, OneWithoutItsHeadIsAllText) {
+  Save(directory_.Put("user.con", "one"), "two");
+  const std::string name = store_.List().at(0).name;
+  for (const std::string head : {"", "Zanth", "ZanthMan text 1\n", "ZanthMan text 1\n1 2 3 4",
+                                 "ZanthMan text 1\n1 99 3 4\npath", "ZanthMan text 1\n1 x"}) {
+    directory_.Put("state/ZanthMan/backups/" + name, head);
+    const std::vector<Backup> backups = store_.List();
+    if (head.empty()) {
+      EXPECT_TRUE(backups.empty());
+      continue;
+    }
+    ASSERT_EQ(backups.size(), 1U) << head;
+    EXPECT_TRUE(backups[0].damaged);
+    EXPECT_EQ(backups[0].path, "");
+    EXPECT_NEAR(static_cast<double>(backups[0].seconds), static_cast<double>(::time(nullptr)), 10);
+    EXPECT_EQ(store_.Read(backups[0]).bytes, head);
+  }
 }
 
 TEST_F(Backups, OneThatCannotBeKeptIsToldOnceAndTheSaveGoesOn) {

@@ -1,5 +1,7 @@
 // Unsaved texts on disk, without a window.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,7 +26,8 @@ class Recovery : public testing::Test {
   std::vector<std::string> Offered() const {
     std::vector<std::string> texts;
     const AbandonedTexts abandoned = Abandoned();
-    for (const auto& text : abandoned.Texts()) texts.push_back(text.path + ": " + text.bytes);
+    for (const auto& text : abandoned.Texts())
+      texts.push_back(text.path + ": " + text.bytes + (text.damaged ? " [damaged]" : ""));
     return texts;
   }
   std::vector<std::string> Runs() const {
@@ -167,14 +170,114 @@ TEST_F(Recovery, ALinkInARunsFolderIsNotRead) {
   EXPECT_EQ(Offered().size(), 1U);
 }
 
-TEST_F(Recovery, HalfAFileIsNotOfferedAndDoesNoHarmToOthers) {
+TEST_F(Recovery, WhatIsLeftOfADamagedTextIsOffered) {
   KilledAfter([&](RecoveryStore& store) {
-    store.Keep(1, "/a", "text");
+    store.Keep(1, "/a", "first text");
     store.Keep(2, "/b", "other");
+    store.Keep(3, "/c", "third");
+    store.Keep(4, "/d", "fourth");
   });
   const std::string run = folder_ + "/" + Runs().at(0);
-  std::filesystem::resize_file(run + "/text-1", 30);
-  EXPECT_EQ(Offered(), std::vector<std::string>{"/b: other"});
+  std::filesystem::resize_file(run + "/text-1", std::filesystem::file_size(run + "/text-1") - 5);
+  std::ofstream(run + "/text-3") << "no head at all";
+  std::ofstream(run + "/text-4") << "";
+  EXPECT_THAT(Offered(), testing::UnorderedElementsAre("/a: first [damaged]", "/b: other",
+                                                       ": no head at all [damaged]"));
+  EXPECT_FALSE(std::filesystem::exists(run + "/text-4")) << "nothing is left of it";
+}
+
+TEST_F(Recovery, ADamagedTextIsNotTakenForOneThatIsSafe) {
+  const std::string path = directory_.Put("user.con", "text");
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, path, "text, longer"); });
+  const std::string kept = folder_ + "/" + Runs().at(0) + "/text-1";
+  std::filesystem::resize_file(kept, std::filesystem::file_size(kept) - 8);
+  EXPECT_EQ(Offered(), std::vector<std::string>{path + ": text [damaged]"});
+}
+
+TEST_F(Recovery, WhatIsNoTextOfARunStaysAndHindersNobody) {
+  KilledAfter([&](RecoveryStore& store) { store.Keep(1, "/a", "text"); });
+  const std::string run = folder_ + "/" + Runs().at(0);
+  ASSERT_EQ(::mkfifo((run + "/text-2").c_str(), 0600), 0);
+  std::filesystem::create_directory(run + "/text-3");
+  std::filesystem::create_symlink("/etc/passwd", run + "/text-4");
+  std::ofstream(run + "/notes") << "somebody's own";
+  ::alarm(20);
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/a: text"});
+  Abandoned().Discard();
+  ::alarm(0);
+  EXPECT_TRUE(Offered().empty());
+  EXPECT_FALSE(std::filesystem::exists(run + "/text-1"));
+  EXPECT_EQ(BytesOf(run + "/notes"), "somebody's own");
+  EXPECT_TRUE(std::filesystem::is_fifo(run + "/text-2"));
+}
+
+TEST_F(Recovery, ATextThatMayNotBeReadIsToldAndStays) {
+  GiveToOrdinaryUser(directory_.Path());
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              {
+                RecoveryStore store(folder_);
+                store.Keep(1, "/a", "text");
+                store.Keep(2, "/b", "other");
+                store.Flush();
+              }
+              ::chmod((folder_ + "/" + Runs().at(0) + "/text-1").c_str(), 0);
+              AbandonedTexts abandoned = Abandoned();
+              const std::string result = std::to_string(abandoned.Texts().size()) + " offered, " +
+                                         abandoned.Problem().value_or("no problem");
+              abandoned.Discard();
+              return result;
+            }),
+            "1 offered, Permission denied");
+  EXPECT_TRUE(std::filesystem::exists(folder_ + "/" + Runs().at(0) + "/text-1"));
+}
+
+TEST_F(Recovery, AFolderThatVanishesIsMadeAnewAndToldToTheKeeper) {
+  RecoveryStore store(folder_);
+  store.Keep(1, "/a", "first");
+  ASSERT_TRUE(store.Flush());
+  EXPECT_FALSE(store.TakeLoss());
+  std::filesystem::remove_all(directory_ / "state");
+  store.Keep(2, "/b", "second");
+  EXPECT_TRUE(store.Flush());
+  EXPECT_TRUE(store.TakeLoss());
+  EXPECT_FALSE(store.TakeLoss());
+  EXPECT_FALSE(store.TakeProblem().has_value());
+  EXPECT_TRUE(Offered().empty()) << "the program lives";
+  ASSERT_EQ(Runs().size(), 1U);
+  EXPECT_TRUE(std::filesystem::exists(folder_ + "/" + Runs()[0] + "/text-2"));
+}
+
+TEST_F(Recovery, AFolderThatWasMovedAwayIsNotWrittenToAnyMore) {
+  RecoveryStore store(folder_);
+  std::filesystem::rename(directory_ / "state", directory_ / "elsewhere");
+  store.Keep(1, "/a", "text");
+  EXPECT_TRUE(store.Flush());
+  EXPECT_TRUE(std::filesystem::exists(folder_ + "/" + Runs().at(0) + "/text-1"));
+}
+
+TEST_F(Recovery, WhatCouldNotBeKeptIsTriedAgain) {
+  const std::string obstacle = directory_.Put("state", "a file where the folder should be");
+  RecoveryStore store(folder_, std::chrono::milliseconds(20));
+  store.Keep(1, "/a", "text");
+  EXPECT_FALSE(store.Flush());
+  EXPECT_TRUE(store.TakeProblem().has_value());
+  std::filesystem::remove(obstacle);
+  for (int i = 0; i < 500 && !store.Flush(); ++i) ::usleep(10'000);
+  EXPECT_TRUE(store.Flush());
+  EXPECT_FALSE(store.TakeProblem().has_value());
+  EXPECT_TRUE(std::filesystem::exists(folder_ + "/" + Runs().at(0) + "/text-1"));
+}
+
+TEST_F(Recovery, AProgramThatHangsKeepsNobodyWaiting) {
+  RecoveryStore hanging(folder_);
+  const PrivateFolder all(folder_);
+  const posix::Descriptor lock(all.Lock(".lock"));
+  ::alarm(20);
+  RecoveryStore store(folder_);
+  store.Keep(1, "/a", "text");
+  EXPECT_TRUE(store.Flush());
+  EXPECT_TRUE(Offered().empty());
+  ::alarm(0);
 }
 
 TEST_F(Recovery, AFolderThatCannotBeUsedIsToldOnce) {
