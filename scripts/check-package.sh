@@ -28,7 +28,7 @@ for field in Package Version Architecture Maintainer Description Section Install
   [ -n "$(dpkg-deb --field "$package" "$field")" ] || fail "the field $field is empty"
 done
 depends=$(dpkg-deb --field "$package" Depends)
-for library in libc6 libqt6widgets6 libqscintilla2-qt6 libsqlite3-0; do
+for library in libc6 libqt6widgets6 libqt6dbus6 libqscintilla2-qt6 libsqlite3-0; do
   [[ $depends == *$library* ]] || fail "it does not depend on $library: $depends"
 done
 

@@ -11,6 +11,7 @@ test_packages=(
   desktop-file-utils appstream libxml2-utils shared-mime-info groff-base dpkg-dev file
   clang clang-format clang-tidy util-linux git
   xvfb xdotool xauth
+  dbus-bin dbus-daemon libglib2.0-bin
 )
 fuzz_packages=(clang libclang-rt-14-dev)
 

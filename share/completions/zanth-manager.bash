@@ -9,7 +9,7 @@ _zanth_manager() {
     --size) source=(-W "1000x760 1280x960 1600x1200") ;;
     *)
       [[ $current == -* ]] &&
-        source=(-W "--store --host-dir --dark --light --screenshot --size --help --version") ;;
+        source=(-W "--store --host-dir --dark --light --automation --no-automation --screenshot --size --help --version") ;;
   esac
   [[ ${source[0]} == -W ]] || compopt -o filenames 2>/dev/null
   while IFS= read -r line; do COMPREPLY+=("$line"); done < <(compgen "${source[@]}" -- "$current")

@@ -47,6 +47,8 @@ std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
   std::string size;
   bool dark = false;
   bool light = false;
+  bool automation = false;
+  bool noAutomation = false;
   app.add_option("FILE", options.files, "files to open")->check(BadFile);
   app.add_option("--store", options.store, "file of the settings store")->type_name("FILE");
   app.add_option("--host-dir", options.hostDirectory, "directory of the template files")
@@ -54,9 +56,15 @@ std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
       ->check(CLI::ExistingDirectory);
   CLI::Option* darkFlag = app.add_flag("--dark", dark, "dark colours, whatever the desktop has");
   app.add_flag("--light", light, "light colours")->excludes(darkFlag);
-  app.add_option("--screenshot", options.screenshot,
-                 "leave a picture of the window in this file and end")
-      ->type_name("FILE");
+  CLI::Option* screenshot = app.add_option("--screenshot", options.screenshot,
+                                           "leave a picture of the window in this file and end")
+                                ->type_name("FILE");
+  CLI::Option* automationFlag =
+      app.add_flag("--automation", automation,
+                   "let other programs use the editor, and say so when that cannot be")
+          ->excludes(screenshot);
+  app.add_flag("--no-automation", noAutomation, "let no other program use the editor")
+      ->excludes(automationFlag);
   app.add_option("--size", size, "size of the window in pixels")->type_name("WxH")->check(BadSize);
   app.set_version_flag("--version", "zanth-manager " TESSEL_VERSION);
   try {
@@ -67,6 +75,8 @@ std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
   }
   if (dark) options.scheme = ColourScheme::kDark;
   if (light) options.scheme = ColourScheme::kLight;
+  if (automation) options.automation = AutomationWish::kWanted;
+  if (noAutomation) options.automation = AutomationWish::kOff;
   if (!size.empty()) options.size = SizeOf(size);
   if (options.store.empty()) options.store = DefaultSettingsPath();
   options.store = Absolute(options.store);

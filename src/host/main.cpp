@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QIcon>
 #include <iostream>
+#include <optional>
 
+#include "host/HostAutomation.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
 #include "platform/FallbackSettingsStore.h"
@@ -43,6 +45,10 @@ bool TakePicture(MainWindow& window, const std::string& file) {
   return false;
 }
 
+void TellOnStandardError(const QString& problem) {
+  std::cerr << "zanth-manager: " << problem.toStdString() << "\n";
+}
+
 int Run(const Options& options) {
   const bool picture = !options.screenshot.empty();
   // It may come at any time, also inside of a command: the box waits until that is through.
@@ -73,6 +79,11 @@ int Run(const Options& options) {
   files.TellLongWork([&window](const std::string& work) { window.ShowNotice(ShownName(work)); });
   window.OfferBackups(backups);
   window.show();
+  std::optional<HostAutomation> automation;
+  if (!picture && options.automation != AutomationWish::kOff) {
+    automation.emplace(window.Control(), options.automation == AutomationWish::kWanted,
+                       TellOnStandardError);
+  }
   if (!picture) {
     window.StartSession();
     window.KeepUnsavedText(state + "/recovery");

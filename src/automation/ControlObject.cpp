@@ -1,0 +1,54 @@
+#include "automation/ControlObject.h"
+
+#include <QApplication>
+#include <QDBusError>
+#include <string>
+
+#include "platform/qt/TesselWidget.h"
+
+namespace tessel {
+namespace {
+
+constexpr const char* kBusy = "Tessel.Error.Busy";
+
+}  // namespace
+
+ControlObject::ControlObject(TesselWidget& control) : control_(&control) {
+  connect(&control, &TesselWidget::statusText, this, &ControlObject::SettingTextColor);
+}
+
+/// Answers a call that comes at the wrong time with an error.
+bool ControlObject::Refused() const {
+  if (control_ == nullptr) {
+    sendErrorReply(QDBusError::UnknownObject, tr("The control is gone."));
+  } else if (QApplication::activeModalWidget() != nullptr) {
+    sendErrorReply(kBusy, tr("A dialog is open. Call again when the user has closed it."));
+  } else if (control_->Tessel().Running()) {
+    sendErrorReply(kBusy, tr("A command is on its way. Call again when it is through."));
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void ControlObject::SetTesselVersion(const QString& strVersion, const QString& strDefault,
+                                     QString& versionAfter, QString& defaultAfter) {
+  if (Refused()) return;
+  std::string version = strVersion.toStdString();
+  std::string defaultVersion = strDefault.toStdString();
+  control_->Tessel().SetTesselVersion(version, defaultVersion);
+  versionAfter = QString::fromStdString(version);
+  defaultAfter = QString::fromStdString(defaultVersion);
+}
+
+void ControlObject::SetTesselVersion(const QString& strVersion, QString& versionAfter) {
+  QString defaultAfter;
+  SetTesselVersion(strVersion, {}, versionAfter, defaultAfter);
+}
+
+// The host may take the offer back while a box of the conversion is open: nothing may follow here.
+void ControlObject::Convert() {
+  if (!Refused()) control_->Tessel().Convert();
+}
+
+}  // namespace tessel
