@@ -28,9 +28,9 @@ class BackupStore {
  public:
   explicit BackupStore(std::string folder, BackupLimits limits = {});
 
-  /// Keeps the bytes as the newest backup of the file, and takes away what the limits leave no room
-  /// for. Bytes beyond the limit by themselves are a FileProblem, as is a folder that cannot be
-  /// used.
+  /// Keeps the bytes as the newest backup of the file, unless that holds them already, and takes
+  /// away what the limits leave no room for. Bytes beyond the limit by themselves are a
+  /// FileProblem, as is a folder that cannot be used.
   void Keep(const std::string& path, std::string_view bytes);
   /// The newest first. Empty when there is no folder.
   std::vector<Backup> List() const;

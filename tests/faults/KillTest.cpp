@@ -1,10 +1,13 @@
 // The program is killed while it saves: the file holds the old bytes or the new ones, the store all
-// of a writing or nothing of it.
+// of a writing or nothing of it, and every text that was replaced or not saved is there afterwards.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -12,6 +15,7 @@
 #include <string>
 #include <thread>
 
+#include "faults/HostWorld.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
 #include "words/ScriptWords.h"
@@ -129,6 +133,112 @@ TEST_F(KillTest, WordsAreInTheStoreAllOrNot) {
     last = words[0].parameters;
   }
   EXPECT_GT(changed, 0);
+}
+
+// --- With all that the host has between the control and the disk
+
+/// A text whose number can be told from its first line.
+std::string NumberedText(int number) {
+  return std::to_string(number) + "\r\n" + std::string(20'000 + 1000 * (number % 7), 'x');
+}
+
+int NumberOf(const std::string& text) {
+  const int number = std::atoi(text.c_str());
+  EXPECT_EQ(text, NumberedText(number)) << "no whole text";
+  return number;
+}
+
+TEST_F(KillTest, EveryTextThatASaveReplacedIsAmongTheBackups) {
+  constexpr int kKept = 20;
+  const std::string state = directory / "state/ZanthMan";
+  const std::string path = directory.Put("user.con", NumberedText(0));
+  int next = 0;
+  int replacedAtLast = 0;
+  for (int round = 0; round < Rounds(); ++round) {
+    ASSERT_NO_FATAL_FAILURE(KillAtARandomMoment(
+        [&] {
+          auto program = std::make_unique<HostedProgram>(store, state);
+          program->Open(path);
+          return program;
+        },
+        [&](HostedProgram& program, int i) {
+          program.Retype(NumberedText(next + i + 1));
+          program.SaveAs(path);
+          if (!program.EverythingTold().empty()) ::_exit(2);
+        },
+        Moment()));
+    const int last = NumberOf(BytesOf(path));
+    ASSERT_GE(last, next);
+    std::vector<int> backups;
+    for (const std::string& text : BackedUp(state)) backups.push_back(NumberOf(text));
+    // The text of a save that did not come to its end is a backup, too.
+    if (!backups.empty() && backups.front() == last) {
+      backups.erase(backups.begin());
+      ++replacedAtLast;
+    }
+    for (int i = 0; i < std::min(last, kKept - 1); ++i) {
+      ASSERT_LT(static_cast<std::size_t>(i), backups.size()) << "round " << round;
+      ASSERT_EQ(backups[static_cast<std::size_t>(i)], last - 1 - i) << "round " << round;
+    }
+    ASSERT_LE(std::ssize(backups), kKept + 1) << "the next one takes the oldest away";
+    next = last;
+  }
+  EXPECT_GT(next, 0);
+  EXPECT_GT(replacedAtLast, 0) << "no kill hit the inside of a save";
+  RecordProperty("Saves", next);
+  RecordProperty("KilledBetweenBackupAndSave", replacedAtLast);
+  // What killed writings of backups have left goes with the next one.
+  HostedProgram program(store, state);
+  program.Open(path);
+  program.Retype("the end");
+  program.SaveAs(path);
+  for (const auto& entry : std::filesystem::directory_iterator(state + "/backups")) {
+    EXPECT_FALSE(entry.path().filename().string().starts_with('.')) << entry.path();
+  }
+}
+
+TEST_F(KillTest, EveryTextThatWasKeptForRecoveryIsOffered) {
+  constexpr int kDocuments = 3;
+  const std::string state = directory / "state/ZanthMan";
+  int newer = 0;
+  for (int round = 0; round < Rounds(); ++round) {
+    // How many writings of all documents were seen on the disk, told by the child as it goes.
+    auto* written = static_cast<std::atomic<int>*>(::mmap(nullptr, sizeof(std::atomic<int>),
+                                                          PROT_READ | PROT_WRITE,
+                                                          MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(written, MAP_FAILED);
+    const auto keepAll = [&](RecoveryStore& recovery, int i) {
+      for (int document = 0; document < kDocuments; ++document) {
+        recovery.Keep(document, "/" + std::to_string(document), NumberedText(i));
+      }
+      if (!recovery.Flush()) ::_exit(2);
+      *written = i;
+    };
+    ASSERT_NO_FATAL_FAILURE(KillAtARandomMoment(
+        [&] {
+          auto recovery = std::make_unique<RecoveryStore>(state + "/recovery");
+          keepAll(*recovery, 0);
+          return recovery;
+        },
+        [&](RecoveryStore& recovery, int i) { keepAll(recovery, i + 1); }, Moment()));
+    {
+      AbandonedTexts texts(state + "/recovery", BytesIfThere);
+      ASSERT_FALSE(texts.Problem()) << *texts.Problem();
+      ASSERT_EQ(texts.Texts().size(), kDocuments) << "round " << round;
+      for (const KeptBytes& text : texts.Texts()) {
+        ASSERT_FALSE(text.damaged);
+        const int number = NumberOf(text.bytes);
+        ASSERT_GE(number, written->load()) << "round " << round;
+        ASSERT_LE(number, written->load() + 1);
+        if (number > *written) ++newer;
+      }
+      texts.Discard();
+    }
+    ::munmap(written, sizeof *written);
+    ASSERT_TRUE(std::filesystem::is_empty(state + "/recovery")) << "something was left behind";
+  }
+  EXPECT_GT(newer, 0) << "no kill hit the inside of a writing";
+  RecordProperty("TextsNewerThanTheLastFlush", newer);
 }
 
 }  // namespace

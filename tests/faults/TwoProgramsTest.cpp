@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "faults/HostWorld.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
 #include "words/ScriptWords.h"
@@ -86,6 +87,65 @@ TEST(TwoPrograms, LoseNeitherRecentFilesNorWords) {
   // Each of them opens.
   for (int k = 10; k <= bar.MenuCount("FileNew"); ++k) bar.PressMenuItem("FileNew", k);
   EXPECT_THAT(program.Told(), IsEmpty());
+}
+
+TEST(TwoPrograms, KeepBackupsBesideEachOther) {
+  constexpr int kSaves = 30;
+  constexpr int kKept = 20;
+  const TempDirectory directory;
+  const std::string state = directory / "state/ZanthMan";
+  const auto save = [&](const std::string& name) {
+    HostedProgram program(directory / (name + ".db"), state);
+    const std::string path = directory.Put(name + ".con", name + " 0");
+    program.Open(path);
+    for (int i = 1; i <= kSaves; ++i) {
+      program.Retype(name + " " + std::to_string(i));
+      program.SaveAs(path);
+    }
+    return program.EverythingTold();
+  };
+  EXPECT_EQ(InChild([&] {
+              const pid_t other = ::fork();
+              const std::string told = save(other == 0 ? "ada" : "bob");
+              if (other == 0) ::_exit(told.empty() ? 0 : 1);
+              int status = 1;
+              ::waitpid(other, &status, 0);
+              return told + (status == 0 ? "" : " The other one failed.");
+            }),
+            "");
+  for (const std::string name : {"ada", "bob"}) {
+    std::vector<std::string> texts = BackedUp(state);
+    std::erase_if(texts, [&](const std::string& text) { return !text.starts_with(name); });
+    ASSERT_EQ(texts.size(), kKept);
+    for (int i = 0; i < kKept; ++i) {
+      EXPECT_EQ(texts[static_cast<std::size_t>(i)], name + " " + std::to_string(kSaves - 1 - i));
+    }
+  }
+}
+
+TEST(TwoPrograms, AreNeverOfferedEachOthersTextsWhileTheyLive) {
+  const TempDirectory directory;
+  const std::string state = directory / "state/ZanthMan";
+  RecoveryStore living(state + "/recovery");
+  living.Keep(1, "/mine", "of the one that lives");
+  ASSERT_TRUE(living.Flush());
+  EXPECT_THAT(Offered(state), IsEmpty());
+  // Another one is started and killed beside it, again and again.
+  for (int i = 0; i < 20; ++i) {
+    const pid_t other = ::fork();
+    if (other == 0) {
+      RecoveryStore store(state + "/recovery");
+      store.Keep(1, "/theirs", "of the one that was killed");
+      store.Flush();
+      ::raise(SIGKILL);
+    }
+    ::waitpid(other, nullptr, 0);
+    EXPECT_EQ(Offered(state), std::vector<std::string>{"/theirs: of the one that was killed"});
+    AbandonedTexts(state + "/recovery", BytesIfThere).Discard();
+    EXPECT_THAT(Offered(state), IsEmpty());
+  }
+  living.Keep(1, "/mine", "still kept");
+  EXPECT_TRUE(living.Flush());
 }
 
 }  // namespace

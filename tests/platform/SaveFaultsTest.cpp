@@ -1,8 +1,6 @@
 // Saving when the system does not play along: either the old bytes stay or the new ones are whole.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,6 +13,7 @@
 #include "support/FileLimits.h"
 #include "support/SystemCalls.h"
 #include "support/TempDirectory.h"
+#include "support/TinyDisk.h"
 
 namespace tessel::test {
 namespace {
@@ -136,11 +135,7 @@ TEST(SaveOnAFullDisk, KeepsTheOldBytesAndLeavesNothingBehind) {
 /// Saves on a disk of 64 KiB that is mounted for this process alone. Tells what is there
 /// afterwards.
 std::string SaveOnTinyDisk(const std::string& mountPoint, bool inPlace) {
-  if (::unshare(CLONE_NEWNS) != 0 ||
-      ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-      ::mount("tmpfs", mountPoint.c_str(), "tmpfs", 0, "size=64k,mode=755") != 0) {
-    return "cannot mount";
-  }
+  if (!MountTinyDisk(mountPoint, 64)) return "cannot mount";
   const std::string path = mountPoint + "/User.con";
   std::ofstream(path) << kOld;
   if (!inPlace && ::chown(mountPoint.c_str(), kNobody, kNobody) != 0) return "cannot give away";

@@ -70,6 +70,15 @@ TEST_F(Backups, ANewFileAndEqualBytesNeedNone) {
   EXPECT_TRUE(store_.List().empty());
 }
 
+TEST_F(Backups, BytesThatTheNewestOneHoldsAreNotKeptTwice) {
+  store_.Keep("/a", "one");
+  store_.Keep("/a", "one");
+  store_.Keep("/b", "one");
+  store_.Keep("/a", "two");
+  store_.Keep("/a", "one");
+  EXPECT_EQ(Texts(), (std::vector<std::string>{"one", "two", "one", "one"}));
+}
+
 TEST_F(Backups, OfTwentyFiveSavesTheLastTwentyAreKept) {
   const std::string path = directory_.Put("user.con", "text 0");
   Save(directory_.Put("other.con", "other"), "changed");

@@ -17,8 +17,12 @@ namespace tessel::test {
 /// One running program. Dialogs, boxes and forms are answered by the test.
 class Program {
  public:
-  explicit Program(const std::string& store)
-      : settings(store, [this](const std::string& text) { reports.push_back(text); }) {
+  explicit Program(const std::string& store) : Program(store, plainFiles) {}
+  /// `files` takes the place of the plain ones, and outlives this.
+  Program(const std::string& store, Files& files)
+      : settings(store, [this](const std::string& text) { reports.push_back(text); }),
+        control({fakes.messages, fakes.fileDialogs, fakes.forms, fakes.clipboard, settings,
+                 fakes.pointer, files, fakes.random, fakes.focus, fakes.loop, "/nowhere"}) {
     control.Initialize();
   }
 
@@ -56,10 +60,9 @@ class Program {
 
   std::vector<std::string> reports;  ///< of the settings store
   FakeServices fakes;
-  PosixFiles files;
+  PosixFiles plainFiles;
   FallbackSettingsStore settings;
-  ucTessel control{{fakes.messages, fakes.fileDialogs, fakes.forms, fakes.clipboard, settings,
-                    fakes.pointer, files, fakes.random, fakes.focus, fakes.loop, "/nowhere"}};
+  ucTessel control;
 };
 
 }  // namespace tessel::test
