@@ -1,0 +1,10 @@
+// The program as a whole.
+#pragma once
+
+namespace tessel::cli {
+
+/// Does what the arguments ask for; returns the exit status (see Subcommands.h). Results go to
+/// std::cout, what there is to say to std::cerr.
+int RunProgram(int argc, char** argv);
+
+}  // namespace tessel::cli
