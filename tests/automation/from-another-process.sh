@@ -2,9 +2,9 @@
 # Uses the control of a running Zanth Manager from other processes, with the clients that come with D-Bus and
 # GLib. To be run with a session bus of its own.
 #
-# Usage: dbus-run-session -- from-another-process.sh ZANTH-MANAGER TESSEL DATA-DIRECTORY
+# Usage: dbus-run-session -- from-another-process.sh ZANTH-MANAGER TESSEL DATA-DIRECTORY MANUAL
 set -euo pipefail
-program=$1 tessel=$2 data=$3
+program=$1 tessel=$2 data=$3 manual=$4
 name=org.zanthman.ZanthManager object=/Tessel/ucTessel/1
 
 work=$(mktemp -d)
@@ -116,7 +116,8 @@ await "the signal" in_signals 'string "Zanth Manager Version 4.0"'
 
 say "Converting"
 "$tessel" convert "$work/x.con" -o "$work/wanted.con"
-expect '()' call Tessel.ucTessel.Convert
+shown=$(grep '^gdbus call' "$manual")
+eval "expect '()' $shown"
 kept_text() { local kept=("$XDG_STATE_HOME"/ZanthMan/recovery/run-$first-*/text-*); tail -c "$(wc -c <"$work/wanted.con")" "${kept[0]}" | cmp - "$work/wanted.con"; }
 await "the converted text, as what is not saved yet," kept_text
 cmp "$data/zmuser.dat" "$work/x.con" || fail "the file on disk was touched"
