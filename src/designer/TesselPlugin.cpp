@@ -13,8 +13,9 @@ QString TesselPlugin::whatsThis() const {
   return tr("Edits CON files in tabs, with a panel for the game's settings.");
 }
 QString TesselPlugin::includeFile() const { return QStringLiteral("Tessel/ucTessel.h"); }
+// Designer shows no icon that it would have to draw from a vector image.
 QIcon TesselPlugin::icon() const {
-  return QIcon(QStringLiteral(":/tessel/icons/zanth-manager.svg"));
+  return QIcon(QIcon(QStringLiteral(":/tessel/icons/zanth-manager.svg")).pixmap(22, 22));
 }
 
 QString TesselPlugin::domXml() const {

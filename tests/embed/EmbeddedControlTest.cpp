@@ -1,4 +1,5 @@
 // The control as a program sees it that has nothing but the installed library.
+#include <Tessel/TesselAutomation.h>
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -202,6 +203,14 @@ TEST_F(EmbeddedControlTest, ControlsOfOneParentGoWithIt) {
   EXPECT_EQ(second->DocumentPath(), "");
   window.show();
   second->setFocus();
+}
+
+TEST_F(EmbeddedControlTest, WithoutABusTheHostIsToldWhyNobodyElseCanUseIt) {
+  ucTessel control;
+  const TesselAutomation automation(control);
+  EXPECT_EQ(automation.Path(), "");
+  EXPECT_EQ(automation.Problem(),
+            "The control is not offered to other programs: there is no session bus.");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The tests of the library run without a display, and with settings of their own.
+// The tests of the library run without a display or a bus, and with settings of their own.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -9,6 +9,8 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const tessel::test::TempDirectory home;
   qputenv("ZANTHMAN_STORE", (home / "settings.db").c_str());
+  qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+  qputenv("XDG_RUNTIME_DIR", home.Path().c_str());
   const QApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();

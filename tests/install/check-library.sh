@@ -50,6 +50,12 @@ runs() {
   [ "$status" -eq 124 ] || { cat "$work/output"; fail "$1 ended by itself: $status"; }
 }
 
+# build_plainly SOURCE PROGRAM [PACKAGE...]
+build_plainly() {
+  # shellcheck disable=SC2046
+  g++ -std=c++17 -fPIC "$1" -o "$2" $(pkg-config --cflags --libs tessel "${@:3}") || fail "$(basename "$1") does not build with pkg-config"
+}
+
 say "Building and running the example of the guide (CMake)"
 cmake -S "$sources/examples/embed" -B "$work/embed" -DCMAKE_PREFIX_PATH="$prefix" >"$work/cmake.log" ||
   { cat "$work/cmake.log"; fail "find_package(Tessel) does not find it"; }
@@ -59,16 +65,12 @@ runs "$work/embed/embed-example" "$sources/data/zmuser.dat"
 
 say "Building and running it (pkg-config)"
 [ "$(pkg-config --modversion tessel)" = "$version" ] || fail "pkg-config has another version"
-# shellcheck disable=SC2046
-g++ -std=c++17 -fPIC "$sources/examples/embed/main.cpp" -o "$work/plain-example" $(pkg-config --cflags --libs tessel) ||
-  fail "the example does not build with pkg-config"
+build_plainly "$sources/examples/embed/main.cpp" "$work/plain-example"
 LD_LIBRARY_PATH=$libraries runs "$work/plain-example" "$sources/data/zmuser.dat"
 
 say "Making a document from an installed template"
 printf 'changed here' >"$prefix/share/zanth-manager/zmuserp.dat"
-# shellcheck disable=SC2046
-g++ -std=c++17 -fPIC "$sources/tests/install/template.cpp" -o "$work/template" $(pkg-config --cflags --libs tessel) ||
-  fail "the program does not build"
+build_plainly "$sources/tests/install/template.cpp" "$work/template"
 [ "$(LD_LIBRARY_PATH=$libraries "$work/template" 2>/dev/null)" = "changed here" ] || fail "it is not the installed template"
 
 say "Loading a form by the installed plugin"
@@ -78,5 +80,20 @@ ldd "$plugin" | grep -q "libTessel.so.* => $prefix/" || fail "the plugin does no
 cmake -S "$sources/examples/form" -B "$work/form" >"$work/cmake.log" || { cat "$work/cmake.log"; fail "cmake failed"; }
 cmake --build "$work/form" >"$work/cmake.log" 2>&1 || { cat "$work/cmake.log"; fail "the form's example does not build"; }
 QT_PLUGIN_PATH=$(dirname "$(dirname "$plugin")") runs "$work/form/form-example" "$sources/examples/form/form.ui"
+
+say "Using two controls from another process"
+build_plainly "$sources/tests/install/automation.cpp" "$work/automation" Qt6DBus
+cat >"$work/use-both.sh" <<'SESSION'
+set -euo pipefail
+LD_LIBRARY_PATH=$1 "$2" >"$3" 2>/dev/null &
+trap 'kill $!' EXIT
+for ((i = 0; i < 600; ++i)); do [ "$(wc -l <"$3")" -eq 2 ] && break; sleep 0.05; done
+while read -r path; do
+  gdbus call --session --dest org.example.Program --object-path "$path" --method Tessel.ucTessel.SetTesselVersion Zanth15 "of $path"
+done <"$3"
+SESSION
+answers=$(dbus-run-session -- bash "$work/use-both.sh" "$libraries" "$work/automation" "$work/paths" 2>"$work/errors") || fail "$(cat "$work/errors")"
+[ "$answers" = "('Zanth15', 'of /Tessel/ucTessel/1')
+('Zanth15', 'of /Tessel/ucTessel/2')" ] || fail "the controls do not answer: $answers $(cat "$work/paths")"
 
 say "Done"
