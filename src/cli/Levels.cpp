@@ -40,7 +40,7 @@ bool List(const Options& options) {
                 << DocumentForTerminal(c.txtTitle.Text()) << '\n';
     }
   }
-  if (options.json) std::cout << list.dump(2) << '\n';
+  if (options.json) std::cout << JsonForTerminal(list.dump(2)) << '\n';
   return true;
 }
 

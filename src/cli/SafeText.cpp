@@ -110,6 +110,22 @@ std::string DocumentForTerminal(std::string_view bytes) {
   return out;
 }
 
+std::string JsonForTerminal(std::string_view json) {
+  std::string out;
+  while (!json.empty()) {
+    const char32_t c = TakeCharacter(json).value_or(kReplacement);
+    if (c >= 0x7F && IsControl(c)) {
+      constexpr std::string_view kDigits = "0123456789abcdef";
+      out += "\\u00";
+      out += kDigits[c >> 4];
+      out += kDigits[c & 0xF];
+    } else {
+      AppendUtf8(out, c);
+    }
+  }
+  return out;
+}
+
 std::string ForHtml(std::string_view bytes) {
   std::string out;
   for (const char byte : bytes) {

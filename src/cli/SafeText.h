@@ -21,6 +21,10 @@ std::optional<std::string> FromTerminal(std::string_view text);
 /// Single-byte text as UTF-8 for a terminal: line ends become LF, other control characters "?".
 std::string DocumentForTerminal(std::string_view bytes);
 
+/// A JSON text with escapes for the control characters that JSON allows as they are: DEL and the
+/// second set, some of which terminals obey.
+std::string JsonForTerminal(std::string_view json);
+
 /// Single-byte text as UTF-8 with "&", "<", ">" and quotes written as HTML entities; control
 /// characters other than tab and line ends become U+FFFD.
 std::string ForHtml(std::string_view bytes);

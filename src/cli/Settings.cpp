@@ -39,7 +39,7 @@ bool List(const Options& options) {
                 << (value ? DocumentForTerminal(*value) : "-") << '\n';
     }
   }
-  if (options.json) std::cout << list.dump(2) << '\n';
+  if (options.json) std::cout << JsonForTerminal(list.dump(2)) << '\n';
   return true;
 }
 

@@ -34,6 +34,13 @@ TEST_F(CommandLineLevels, ListsNothingForAFileWithoutLevels) {
   EXPECT_EQ(OutputOf({"levels", "empty.con", "--json"}), "[]\n");
 }
 
+TEST_F(CommandLineLevels, JsonHoldsNoControlCharactersThatATerminalWouldObey) {
+  Put("odd.con", "definelevelname 0 0 A.map 01:45 00:53 DEL \x7f AND \x90 AND \x9b\r\n");
+  const std::string out = OutputOf({"levels", "odd.con", "--json"});
+  EXPECT_THAT(out, testing::HasSubstr("DEL \\u007f AND \\u0090 AND \u203a"));
+  EXPECT_EQ(json::parse(out)[0]["title"], "DEL \x7f AND \u0090 AND \u203a");
+}
+
 TEST_F(CommandLineLevels, ShowsOneLevel) {
   EXPECT_EQ(OutputOf({"level", "User.con", "0 7"}), "E1L8.map\tCAF\xC3\x89 <b>\n");
 }

@@ -85,16 +85,20 @@ bool HasPair(const Arguments& arguments, std::string_view first, std::string_vie
   return at != arguments.end() && at + 1 != arguments.end() && at[1] == second;
 }
 
-/// UTF-8 without control characters but tabs and line feeds.
+/// UTF-8 without control characters of either set but tabs and line feeds.
 bool IsPlainText(const std::string& text) {
   if (nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) !=
       nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::ignore)) {
     return false;
   }
-  return std::ranges::none_of(text, [](char c) {
+  unsigned char before = 0;
+  for (const char c : text) {
     const auto byte = static_cast<unsigned char>(c);
-    return (byte < 0x20 && c != '\n' && c != '\t') || byte == 0x7F;
-  });
+    if ((byte < 0x20 && c != '\n' && c != '\t') || byte == 0x7F) return false;
+    if (before == 0xC2 && byte < 0xA0) return false;
+    before = byte;
+  }
+  return true;
 }
 
 std::string WithoutColours(const std::string& text) {
@@ -107,6 +111,17 @@ bool PrintsBytes(const Arguments& arguments) {
   const std::string& command = arguments.front();
   return command == "convert" || command == "randomize" || command == "set" || command == "new" ||
          command == "level" || HasPair(arguments, "words", "export");
+}
+
+bool Colours(const Arguments& arguments, const std::string& format) {
+  return arguments.front() == "colour" &&
+         (std::ranges::count(arguments, "--format=" + format) != 0 ||
+          HasPair(arguments, "--format", format));
+}
+
+bool PrintsJson(const Arguments& arguments) {
+  const bool lists = arguments.front() == "settings" || arguments.front() == "levels";
+  return (lists && std::ranges::count(arguments, "--json") != 0) || Colours(arguments, "json");
 }
 
 void RequireFilesKept(const Arguments& arguments, const Outcome& outcome,
@@ -132,10 +147,8 @@ void RequireForm(const Arguments& arguments, const Outcome& outcome) {
   if (outcome.status != 0) Require(!outcome.err.empty(), "a failure is told");
   const bool help = Has(arguments, "-h") || Has(arguments, "--help") || Has(arguments, "--version");
   if (outcome.status != 0 || help) return;
-  const bool json = Has(arguments, "--json") || Has(arguments, "--format=json") ||
-                    HasPair(arguments, "--format", "json");
-  if (json) Require(nlohmann::json::accept(outcome.out), "JSON is JSON");
-  if (Has(arguments, "--format=html") || HasPair(arguments, "--format", "html")) {
+  if (PrintsJson(arguments)) Require(nlohmann::json::accept(outcome.out), "JSON is JSON");
+  if (Colours(arguments, "html")) {
     std::string page = outcome.out;
     std::erase(page, '\r');  // line ends stay as they are
     Require(IsPlainText(page), "a page is plain text");
