@@ -32,7 +32,7 @@ git ls-files 'src/*.cpp' | grep -vE '^src/(platform/qt|automation|embed|designer
 step "Testing under the sanitizers"
 ctest --preset asan-ubsan -j "$jobs" --output-on-failure --no-tests=error | tail -n 15
 
-step "Fuzzing (build/fuzz), ${FUZZ_SECONDS:=8} s each target"
+step "Fuzzing (build/fuzz), ${FUZZ_SECONDS:=60} s each target"
 scripts/fuzz.sh "$FUZZ_SECONDS"
 
 step "Testing"
