@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Builds the Debian package from a finished build and checks it.
+# Builds the Debian packages from a finished build and checks them.
 #
 # Usage: check-package.sh [--contents-only] [BUILD-DIRECTORY]
 #
-# Its fields and files are always checked. As root the package is also installed, its programs are
-# run, and it is removed again; --contents-only leaves that out.
+# Their fields and files are always checked. As root the one of the programs is also installed, they
+# are run, and it is removed again; --contents-only leaves that out.
 set -euo pipefail
 here=$(cd "$(dirname "$0")/.." && pwd)
 contents_only=
@@ -17,34 +17,55 @@ say() { echo "==> $*"; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-say "Building the package"
+say "Building the packages"
 (cd "$build" && cpack -G DEB -B "$work/package") >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log" >&2; fail "cpack failed"; }
-package=$(echo "$work"/package/*.deb)
-[ -f "$package" ] || fail "there is no package"
-name=$(dpkg-deb --field "$package" Package)
 
-say "Looking at its fields"
-for field in Package Version Architecture Maintainer Description Section Installed-Size; do
-  [ -n "$(dpkg-deb --field "$package" "$field")" ] || fail "the field $field is empty"
-done
+# look_at PACKAGE: the fields of its file, which is left in $package, and the list of its files.
+look_at() {
+  say "Looking at $1"
+  package=$(echo "$work/package/$1"_*.deb)
+  [ -f "$package" ] || fail "there is no package $1"
+  local field
+  for field in Package Version Architecture Maintainer Description Section Installed-Size; do
+    [ -n "$(dpkg-deb --field "$package" "$field")" ] || fail "the field $field of $1 is empty"
+  done
+  dpkg-deb --contents "$package" >"$work/contents"
+  awk '$2 != "root/root" || $1 ~ /^-.......w/ { exit 1 }' "$work/contents" || fail "bad owners or permissions in $1"
+}
+# has PATTERN...: the list of files has each.
+has() {
+  local file
+  for file in "$@"; do
+    grep -qE " \./usr/$file( -> .*)?$" "$work/contents" || fail "it lacks /usr/$file"
+  done
+}
+
+if [ -f "$build/src/embed/libTessel.so" ]; then
+  library=$(sed -n 's/^set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME "\(.*\)")$/\1/p' "$build/CPackConfig.cmake")
+  look_at "$library"
+  has 'lib/.*/libTessel\.so\.[0-9.]+'
+  grep -qE 'include|plugins|libTessel\.so( |$)' "$work/contents" && fail "it has what is for building"
+  look_at libtessel-dev
+  has 'include/Tessel/ucTessel\.h' 'lib/.*/cmake/Tessel/TesselConfig\.cmake' 'lib/.*/pkgconfig/tessel\.pc' \
+    'lib/.*/libTessel\.so' "$(qmake6 -query QT_INSTALL_PLUGINS | sed 's|^/usr/||')/designer/libtessel\.so"
+  [[ $(dpkg-deb --field "$package" Depends) == *"$library (= "* ]] || fail "it does not depend on $library"
+fi
+
+name=zanth-manager
+look_at "$name"
 depends=$(dpkg-deb --field "$package" Depends)
 for library in libc6 libqt6widgets6 libqt6dbus6 libqscintilla2-qt6 libsqlite3-0; do
   [[ $depends == *$library* ]] || fail "it does not depend on $library: $depends"
 done
 
-say "Looking at its files"
-dpkg-deb --contents "$package" >"$work/contents"
-for file in bin/tessel bin/zanth-manager \
+has bin/tessel bin/zanth-manager \
   share/man/man1/tessel.1 share/man/man1/zanth-manager.1 \
   share/bash-completion/completions/tessel share/bash-completion/completions/zanth-manager \
   share/applications/zanth-manager.desktop share/icons/hicolor/scalable/apps/zanth-manager.svg \
   share/metainfo/org.zanthman.ZanthManager.metainfo.xml share/mime/packages/zanth-manager.xml \
   share/zanth-manager/zmuser.dat share/zanth-manager/zmuserp.dat share/zanth-manager/zmdefs.dat \
   share/zanth-manager/zmdefsp.dat share/zanth-manager/zmgame.dat share/zanth-manager/zmgamep.dat \
-  share/zanth-manager/words.txt share/doc/zanth-manager/copyright; do
-  grep -q " \./usr/$file$" "$work/contents" || fail "it lacks /usr/$file"
-done
-awk '$2 != "root/root" || $1 ~ /^-.......w/ { exit 1 }' "$work/contents" || fail "bad owners or permissions"
+  share/zanth-manager/words.txt share/doc/zanth-manager/copyright
 
 say "Running it where it was unpacked"
 dpkg-deb --extract "$package" "$work/installed"
