@@ -90,6 +90,19 @@ TEST_F(TesselWidgetFormsTest, ModalFormsReturnWhenTheFormIsHidden) {
   EXPECT_FALSE(form.Visible());
 }
 
+TEST(QtMessageBox, OpensInFrontOfItsWindowAlsoWhileAnotherProgramIsActive) {
+  QWidget window;
+  window.show();
+  QApplication::setActiveWindow(nullptr);
+  const QWidget* owner = nullptr;
+  QTimer::singleShot(0, [&] {
+    owner = QApplication::activeModalWidget()->parentWidget();
+    QApplication::activeModalWidget()->close();
+  });
+  QtMessageBox().Show("Something happened.", MessageIcon::kNone, "", MessageButtons::kOk);
+  EXPECT_EQ(owner, &window);
+}
+
 TEST(QtMessageBox, ShowsTheExactTextAndReturnsTheAnswer) {
   QString text;
   QString title;

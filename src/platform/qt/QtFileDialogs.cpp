@@ -1,12 +1,12 @@
 #include "platform/qt/QtFileDialogs.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QRegularExpression>
 
 #include "platform/CommonDialog.h"
+#include "platform/qt/DialogOwner.h"
 #include "platform/qt/QtText.h"
 
 namespace tessel {
@@ -57,7 +57,7 @@ QStringList NameFilters(std::string_view filter) {
 }
 
 std::optional<std::vector<std::string>> QtFileDialogs::Show(const FileDialogRequest& request) {
-  QFileDialog dialog(QApplication::activeWindow());
+  QFileDialog dialog(DialogOwner());
   Prepare(dialog, request);
   if (request.kind == FileDialogRequest::Kind::kSave) {
     dialog.setDefaultSuffix(SuffixOf(request.filter));

@@ -1,8 +1,8 @@
 #include "platform/qt/QtMessageBox.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
+#include "platform/qt/DialogOwner.h"
 #include "platform/qt/QtText.h"
 
 namespace tessel {
@@ -51,7 +51,7 @@ MessageAnswer AnswerOf(int button) {
 
 MessageAnswer QtMessageBox::Show(const std::string& text, MessageIcon icon,
                                  const std::string& title, MessageButtons buttons) {
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(DialogOwner());
   box.setTextFormat(Qt::PlainText);
   box.setText(ShownName(text));
   box.setWindowTitle(ShownName(title));
