@@ -75,10 +75,12 @@ std::vector<std::string> ShownBy(Side& side) {
             .arg(action->isEnabled()));
   }
   for (const QLineEdit* box : side.widget->findChildren<QLineEdit*>()) add("box " + box->text());
-  for (const QWidget* part : side.widget->findChildren<QWidget*>()) {
-    if (part->isWindow()) continue;  // of all menus one is open at most
-    add(part->metaObject()->className());
-    shown.push_back(part->isHidden() ? "hidden" : part->isEnabled() ? "usable" : "disabled");
+  for (const Control* control : side.C().all.All()) {
+    const QWidget* part = side.widget->WidgetFor(*control);
+    if (part == nullptr || part->isWindow()) continue;  // of all menus one is open at most
+    shown.push_back(control->Name() + (part->isHidden()    ? " hidden"
+                                       : part->isEnabled() ? " usable"
+                                                           : " disabled"));
   }
   return shown;
 }
