@@ -154,6 +154,12 @@ before=$(clients)
 [ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus for a picture"
 grep '^zanth-manager:' "$work"/*.errors && fail "it complains"
 
+say "Asking for what cannot be"
+for options in "--automation --no-automation" "--automation --screenshot $work/none.png"; do
+  "$program" $options >/dev/null 2>&1 && fail "it takes $options"
+done
+[ -e "$work/none.png" ] && fail "it leaves a picture all the same"
+
 say "Running without a bus"
 refused='zanth-manager: Other programs cannot use the control: '
 for address in "" unix:path=/nonexistent autolaunch:; do
