@@ -208,16 +208,22 @@ void RecoveryStore::Carry(Id id, const Order& order) {
 
 // --- Runs that ended without asking
 
-AbandonedTexts::AbandonedTexts(const std::string& folder, const OnDisk& onDisk) try {
-  if (!posix::StatusOf(folder)) return;
+AbandonedTexts::AbandonedTexts(const std::string& folder, const OnDisk& onDisk) {
+  try {
+    AdoptAll(folder, onDisk);
+  } catch (const FileProblem& problem) {
+    problem_ = problem.what();
+  }
+  std::ranges::stable_sort(texts_, {}, &KeptText::seconds);
+}
+
+void AbandonedTexts::AdoptAll(const std::string& folder, const OnDisk& onDisk) {
+  if (!posix::StatusOfLink(folder)) return;
   for (const std::string& name : PrivateFolder(folder).Names()) {
-    const std::string path = folder + "/" + name;
+    const std::string path = std::string(folder).append("/").append(name);
     const auto status = posix::StatusOfLink(path);
     if (name.starts_with(kRunPrefix) && status && S_ISDIR(status->st_mode)) Adopt(path, onDisk);
   }
-  std::ranges::stable_sort(texts_, {}, &KeptText::seconds);
-} catch (const FileProblem& problem) {
-  problem_ = problem.what();
 }
 
 AbandonedTexts::~AbandonedTexts() {

@@ -109,6 +109,7 @@ class AbandonedTexts {
     std::vector<std::string> files;  // of the texts that are offered
   };
 
+  void AdoptAll(const std::string& folder, const OnDisk& onDisk);
   void Adopt(const std::string& path, const OnDisk& onDisk);
   void AdoptText(const PrivateFolder& folder, const std::string& file, Run& run,
                  const OnDisk& onDisk);

@@ -266,6 +266,7 @@ TEST_F(Colouring, PaintsOneWordInSight) {
   editor_.SetText("a b");
   editor_.SetLeft(77);
   editor_.SetTag("BW");
+  editor_.SetHideSelection(false);
   loop.meanwhile = [&] {
     EXPECT_TRUE(editor_.Visible());
     EXPECT_TRUE(editor_.HideSelection());

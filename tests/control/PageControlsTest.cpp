@@ -25,6 +25,29 @@ TEST_F(PageControlsTest, StandInTheFrameOfTheirPage) {
            {&C().txtSearch, &C().lstWords, &C().lblParams, &C().cmdInsert[2], &C().cmdAddword});
 }
 
+TEST_F(PageControlsTest, TheEditorsStandInTheFrameOfTheDocumentTabs) {
+  Open("/a.con", "a");
+  Open("/b.con", "b");
+  EXPECT_EQ(C().picRtb.Container(), &C().tbsRtb);
+  for (int slot = 0; slot < C().rtbCon.Count(); ++slot) {
+    EXPECT_EQ(Editor(slot).Container(), &C().picRtb) << slot;
+  }
+}
+
+TEST_F(PageControlsTest, AllPagesAreOutOfReachWhileThePanelIsHidden) {
+  for (int page = 0; page < C().tbsCon.Count(); ++page) {
+    C().tbToolBar.SetPressed("ShowTabs", true);
+    C().tbsCon.Press(page + 1);
+    if (C().tbToolBar.Pressed("ShowTabs")) C().tbToolBar.Press("ShowTabs");
+    for (int other = 0; other < C().tbsCon.Count(); ++other) {
+      EXPECT_EQ(C().picCon[other].Left(), kParkedLeft) << page << other;
+      EXPECT_FALSE(C().picCon[other].Enabled()) << page << other;
+    }
+    C().tbToolBar.Press("ShowTabs");
+    EXPECT_TRUE(C().picCon[page].Enabled());
+  }
+}
+
 TEST_F(PageControlsTest, TakeTurnsInPairsOfYesAndNo) {
   for (const auto& [yes, no] :
        {std::pair{&C().optCamYes, &C().optCamNo}, std::pair{&C().optFreezYes, &C().optFreezNo}}) {

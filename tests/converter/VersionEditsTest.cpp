@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <set>
 #include <string>
@@ -253,6 +254,18 @@ TEST(VersionEdits, PaintAFoundLineWithoutTheValueSought) {
   EXPECT_EQ(conversion.text, "{define SHRINKERBLASTRADIUS 700}\r\n" + kConvertedFoot);
   EXPECT_TRUE(conversion.results[8].found);
   EXPECT_FALSE(conversion.results[8].changed);
+}
+
+TEST(VersionEdits, LeaveASoundWithoutTheValueSoughtAlone) {
+  for (const std::string line :
+       {"definesound SLIM_HATCH a.voc 1 2 3", "definesound SLIM_ROAM a.voc",
+        "definesound SQUISHED a 5 5", "definesound STEAM_HISSING a 1 1"}) {
+    const Conversion conversion = Convert(line + "\r\n" + kFoot);
+    EXPECT_EQ(conversion.text, line + "\r\n" + kConvertedFoot);
+    EXPECT_THAT(conversion.Changed(), IsEmpty()) << line;
+    EXPECT_EQ(std::ranges::count_if(conversion.results, &StepResult::found), 3)
+        << line << " is found, as the start-up list and the music are";
+  }
 }
 
 TEST(VersionEdits, GiveTheFrequencyOfSwearingItsNewPlaceOnlyUnderTheHeading) {

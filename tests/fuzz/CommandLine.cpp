@@ -113,15 +113,10 @@ bool PrintsBytes(const Arguments& arguments) {
          command == "level" || HasPair(arguments, "words", "export");
 }
 
-bool Colours(const Arguments& arguments, const std::string& format) {
-  return arguments.front() == "colour" &&
-         (std::ranges::count(arguments, "--format=" + format) != 0 ||
-          HasPair(arguments, "--format", format));
-}
-
 bool PrintsJson(const Arguments& arguments) {
   const bool lists = arguments.front() == "settings" || arguments.front() == "levels";
-  return (lists && std::ranges::count(arguments, "--json") != 0) || Colours(arguments, "json");
+  const bool runs = arguments.front() == "colour" && HasPair(arguments, "--format", "json");
+  return runs || (lists && std::ranges::count(arguments, "--json") != 0);
 }
 
 void RequireFilesKept(const Arguments& arguments, const Outcome& outcome,
@@ -148,7 +143,7 @@ void RequireForm(const Arguments& arguments, const Outcome& outcome) {
   const bool help = Has(arguments, "-h") || Has(arguments, "--help") || Has(arguments, "--version");
   if (outcome.status != 0 || help) return;
   if (PrintsJson(arguments)) Require(nlohmann::json::accept(outcome.out), "JSON is JSON");
-  if (Colours(arguments, "html")) {
+  if (outcome.out.starts_with("<!DOCTYPE html>\n")) {
     std::string page = outcome.out;
     std::erase(page, '\r');  // line ends stay as they are
     Require(IsPlainText(page), "a page is plain text");

@@ -268,6 +268,36 @@ TEST_F(Recovery, WhatCouldNotBeKeptIsTriedAgain) {
   EXPECT_TRUE(std::filesystem::exists(folder_ + "/" + Runs().at(0) + "/text-1"));
 }
 
+TEST_F(Recovery, AFolderThatCannotBeLookedIntoIsTold) {
+  std::filesystem::create_directories(directory_ / "state/ZanthMan");
+  directory_.Put("state/ZanthMan/recovery", "no folder");
+  const AbandonedTexts abandoned = Abandoned();
+  EXPECT_TRUE(abandoned.Texts().empty());
+  EXPECT_EQ(abandoned.Problem(), "Not a directory");
+}
+
+TEST_F(Recovery, ATextThatCannotBeDiscardedIsOfferedAgain) {
+  GiveToOrdinaryUser(directory_.Path());
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              {
+                RecoveryStore store(folder_);
+                store.Keep(1, "/a", "text");
+                store.Flush();
+              }
+              const std::string run = folder_ + "/" + Runs().at(0);
+              std::string result;
+              {
+                AbandonedTexts abandoned = Abandoned();
+                ::chmod(run.c_str(), 0500);
+                abandoned.Discard();
+                result = abandoned.Problem().value_or("no problem");
+              }
+              ::chmod(run.c_str(), 0700);
+              return result + ", " + std::to_string(Offered().size()) + " offered";
+            }),
+            "Permission denied, 1 offered");
+}
+
 TEST_F(Recovery, AProgramThatHangsKeepsNobodyWaiting) {
   RecoveryStore hanging(folder_);
   const PrivateFolder all(folder_);

@@ -36,6 +36,7 @@ TEST(LevelLine, WithoutTwoColonsHasItsTitleFromTheFourthPositionOn) {
   EXPECT_EQ(TitleOfLevel("E1L8.map 0500 0300 T"), "8.map 0500 0300 T");
   EXPECT_EQ(TitleOfLevel("E1L8.map 05:00"), "8.map 05:00");
   EXPECT_EQ(TitleOfLevel("abc"), "");
+  EXPECT_EQ(TitleOfLevel(":500 0300 TITLE"), "0 0300 TITLE");
   EXPECT_EQ(TitleOfLevel(""), "");
 }
 
@@ -131,6 +132,20 @@ TEST_F(Level, ShowsItsMapAndTitle) {
   EXPECT_EQ(C().txtMap.Text(), "E2L11.map");
   EXPECT_EQ(C().txtTitle.Text(), "X");
   EXPECT_EQ(TabOf(0).image, kBlackDot);
+}
+
+TEST_F(Level, LeavesNothingOnThePageWhenTheListStartsAnew) {
+  Listed(kTwoLevels);
+  for (const auto focus : {&Levels::txtMap_GotFocus, &Levels::txtTitle_GotFocus}) {
+    Choose(0);
+    (levels_.*focus)();
+    levels_.Restart();
+    EXPECT_EQ(C().cboEpisode.ListIndex(), kNoSelection);
+    EXPECT_EQ(C().txtMap.Text(), "");
+    EXPECT_EQ(C().txtTitle.Text(), "");
+    EXPECT_FALSE(C().cmdInsert[0].Enabled());
+    EXPECT_FALSE(C().cmdInsert[1].Enabled());
+  }
 }
 
 TEST_F(Level, IsTheFirstLineThatBeginsAsTheEntrySays) {

@@ -162,6 +162,12 @@ TEST_F(SettingsLists, JumpToTheSectionOfAWeaponCategory) {
   EXPECT_EQ(Current().Text(), ReadSelection(kWeapons).text);
 }
 
+TEST_F(SettingsLists, FindTheSectionAlsoInsideOfALongerWord) {
+  SetDocument("[]x\r\n// Weapon Strengths2\r\n");
+  C().lstWeapInfo.Pick(2);
+  EXPECT_EQ(Current().SelText(), "// Weapon Strengths");
+}
+
 TEST_F(SettingsLists, OfferTheWeaponsOfTheCategory) {
   C().lstWeapInfo.Pick(0);
   EXPECT_THAT(C().lstWeapon.List(), ElementsAre("Pistol", "Shotgun", "Chaingun", "RPG", "Handbomb",

@@ -1,0 +1,40 @@
+// Text from files, made harmless for where it is shown.
+#include <gtest/gtest.h>
+
+#include "cli/SafeText.h"
+
+namespace tessel::cli {
+namespace {
+
+TEST(SafeText, NamesAndMessagesAreOneLineOfUtf8) {
+  EXPECT_EQ(ForTerminal("plain \u00e9 \u20ac \U0001F600"), "plain \u00e9 \u20ac \U0001F600");
+  EXPECT_EQ(ForTerminal("a\nb\x1b[2Jc\x7f\u0090"), "a?b?[2Jc??");
+}
+
+TEST(SafeText, BytesThatAreNoUtf8AreMarked) {
+  EXPECT_EQ(ForTerminal("\xff"), "?");
+  EXPECT_EQ(ForTerminal("\xc3"), "?");                 // cut short
+  EXPECT_EQ(ForTerminal("\xc3x"), "?x");               // goes on with something else
+  EXPECT_EQ(ForTerminal("\xc0\xaf"), "??");            // longer than necessary
+  EXPECT_EQ(ForTerminal("\xed\xa0\x80"), "???");       // half of a pair
+  EXPECT_EQ(ForTerminal("\xf4\x90\x80\x80"), "????");  // beyond the last one
+}
+
+TEST(SafeText, WhatATerminalGivesBecomesBytesOrIsRefused) {
+  EXPECT_EQ(FromTerminal("\u00e9\u20ac"), "\xe9\x80");
+  EXPECT_EQ(FromTerminal("\xe9"), "\xe9");  // no UTF-8: taken as it is
+  EXPECT_EQ(FromTerminal("\U0001F600"), std::nullopt);
+}
+
+TEST(SafeText, DocumentsKeepTheirLinesAndTabs) {
+  EXPECT_EQ(DocumentForTerminal("a\r\nb\rc\nd\te\x1b\x7f\x81\x80"), "a\nb\nc\nd\te???\u20ac");
+  EXPECT_EQ(DocumentForTerminal("end\r"), "end\n");
+}
+
+TEST(SafeText, APageShowsMarkupAsText) {
+  EXPECT_EQ(ForHtml("<b> & \"x\" 'y'\r\n\t\x1b\x80"),
+            "&lt;b&gt; &amp; &quot;x&quot; &#39;y&#39;\r\n\t\ufffd\u20ac");
+}
+
+}  // namespace
+}  // namespace tessel::cli

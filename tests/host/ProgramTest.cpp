@@ -1,0 +1,86 @@
+// The program as it is started from a shell, without anybody at it: for a picture of its window.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QImage>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+namespace {
+
+class HostProgram : public testing::Test {
+ protected:
+  /// Runs the program; returns its exit status.
+  int Start(std::vector<std::string> arguments) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      for (const char* name : {"HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
+        ::setenv(name, directory.Path().c_str(), 1);
+      }
+      ::setenv("ZANTHMAN_STORE", (directory / "settings.db").c_str(), 1);
+      ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+      if (std::freopen(errors.c_str(), "w", stderr) == nullptr) ::_exit(126);
+      std::vector<char*> argv = {const_cast<char*>("zanth-manager")};
+      for (std::string& argument : arguments) argv.push_back(argument.data());
+      argv.push_back(nullptr);
+      ::execv(TESSEL_HOST_PROGRAM, argv.data());
+      ::_exit(127);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+  }
+  bool Said(const std::string& part) const {
+    return BytesOf(errors).find(part) != std::string::npos;
+  }
+
+  TempDirectory directory;
+  std::string errors = directory / "errors";
+  std::string picture = directory / "picture.png";
+  std::string user = directory.Put("user.con", "define A 1\r\n");
+};
+
+TEST_F(HostProgram, LeavesAPictureOfTheSizeAskedFor) {
+  EXPECT_EQ(Start({"--screenshot", picture, "--size", "760x520", "--dark", user}), 0);
+  EXPECT_EQ(QImage(QString::fromStdString(picture)).size(), QSize(760, 520));
+  EXPECT_EQ(BytesOf(user), "define A 1\r\n");
+}
+
+TEST_F(HostProgram, SaysThatThePictureCannotBeWritten) {
+  EXPECT_EQ(Start({"--screenshot", directory / "none/picture.png"}), 1);
+  EXPECT_TRUE(Said("zanth-manager: cannot write the picture")) << BytesOf(errors);
+}
+
+TEST_F(HostProgram, WritesDownWhatABoxWouldHaveSaid) {
+  EXPECT_EQ(Start({"--screenshot", picture, directory / "none.con"}), 1);
+  EXPECT_TRUE(Said("zanth-manager: File " + directory / "none.con" + " not found."))
+      << BytesOf(errors);
+}
+
+TEST_F(HostProgram, SaysThatTheSettingsStoreCannotBeUsed) {
+  const std::string store = directory.Put("damaged.db", "no database, but long enough to be read");
+  EXPECT_EQ(Start({"--screenshot", picture, "--store", store}), 0);
+  EXPECT_TRUE(Said("zanth-manager: Cannot use the settings store " + store)) << BytesOf(errors);
+  EXPECT_EQ(BytesOf(store), "no database, but long enough to be read");
+}
+
+TEST_F(HostProgram, RefusesASizeThatIsNone) {
+  for (const std::string size : {"big", "0x500", "700", "99999x1"}) {
+    EXPECT_EQ(Start({"--screenshot", picture, "--size", size}), 2) << size;
+    EXPECT_TRUE(Said("a size is WIDTHxHEIGHT in pixels")) << BytesOf(errors);
+  }
+  EXPECT_FALSE(std::filesystem::exists(picture));
+}
+
+TEST_F(HostProgram, RefusesADirectoryAsAFile) {
+  EXPECT_EQ(Start({directory.Path()}), 2);
+  EXPECT_TRUE(Said("is a directory")) << BytesOf(errors);
+}
+
+}  // namespace
+}  // namespace tessel::test
