@@ -165,4 +165,10 @@ int TesselStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
   }
 }
 
+int TesselStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* more) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
 }  // namespace tessel

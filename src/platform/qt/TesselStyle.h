@@ -6,7 +6,8 @@
 namespace tessel {
 
 /// Fusion with flat toolbar buttons (a soft face under the mouse, an accented one while pressed or
-/// switched on), and with options and check boxes that can be told from a dark ground.
+/// switched on), with options and check boxes that can be told from a dark ground, and without the
+/// toolkit's pictures on the buttons of dialogs, which are dark also on a dark button.
 class TesselStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -24,6 +25,8 @@ class TesselStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override;
 };
 
 }  // namespace tessel
