@@ -64,17 +64,19 @@ bool Belongs(const PrivateFolder& folder, const std::string& name, const std::st
   return text && text->path == path;
 }
 
-/// Does the newest backup of the file hold these bytes? It does after a save that was killed.
-bool IsNewest(const PrivateFolder& folder, const std::vector<std::string>& names,
-              const std::string& hash, const std::string& path, std::string_view bytes) try {
+/// The newest backup of the file if it holds these bytes, as it does after a save that was killed;
+/// else an empty name.
+std::string NewestWith(const PrivateFolder& folder, const std::vector<std::string>& names,
+                       const std::string& hash, const std::string& path,
+                       std::string_view bytes) try {
   for (auto name = names.rbegin(); name != names.rend(); ++name) {
     if (!name->starts_with(hash) || !Belongs(folder, *name, path)) continue;
     const KeptBytes newest = ReadKeptText(folder, *name);
-    return !newest.damaged && newest.bytes == bytes;
+    return !newest.damaged && newest.bytes == bytes ? *name : std::string();
   }
-  return false;
+  return {};
 } catch (const FileProblem&) {  // gone meanwhile
-  return false;
+  return {};
 }
 
 }  // namespace
@@ -90,9 +92,11 @@ void BackupStore::Keep(const std::string& path, std::string_view bytes) {
   folder.RemoveLeftovers();
   const std::string hash = HashDigits(path);
   const std::vector<std::string> names = BackupNames(folder);
-  if (IsNewest(folder, names, hash, path, bytes)) return;
-  const std::string name = NextName(names, hash);
-  WriteKeptText(folder, name, {path, NanosecondsNow() / 1'000'000'000, bytes.size()}, bytes);
+  std::string name = NewestWith(folder, names, hash, path, bytes);
+  if (name.empty()) {
+    name = NextName(names, hash);
+    WriteKeptText(folder, name, {path, NanosecondsNow() / 1'000'000'000, bytes.size()}, bytes);
+  }
   Prune(folder, name);
 }
 

@@ -44,6 +44,16 @@ const std::string kState = R"({"do":"state"})"
 
 std::string FirstEvent(const Json& reply) { return reply.at("events").at(0).at("event"); }
 
+TEST(DriveSession, RefusesGesturesThatAControlDoesNotKnow) {
+  const auto replies = Replies(R"({"do":"select","control":"tbToolBar","entry":0})"
+                               "\n"
+                               R"({"do":"type","control":"tbsRtb","text":"x"})"
+                               "\n");
+  ASSERT_EQ(replies.size(), 2U);
+  EXPECT_EQ(replies[0].at("error"), "has no entries");
+  EXPECT_EQ(replies[1].at("error"), "cannot be typed into");
+}
+
 TEST(DriveSession, AnswersEveryLineOnceAlsoABadOne) {
   const auto replies = Replies("{}\nnonsense\n\n" + kState);
   ASSERT_EQ(replies.size(), 4u);

@@ -210,6 +210,20 @@ TEST_F(Backups, AFolderThatCannotBeWrittenKeepsNobodyFromSaving) {
   EXPECT_EQ(BytesOf(path), "new");
 }
 
+TEST_F(Backups, OneThatMayNotBeReadHindersNobody) {
+  GiveToOrdinaryUser(directory_.Path());
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              store_.Keep("/a", "one");
+              store_.Keep("/a", "two");
+              ::chmod((folder_ + "/" + store_.List().at(0).name).c_str(), 0);
+              std::string texts = std::to_string(store_.List().size()) + " listed";
+              store_.Keep("/a", "three");
+              for (const std::string& text : Texts()) texts += ", " + text;
+              return texts;
+            }),
+            "1 listed, three, one");
+}
+
 TEST_F(Backups, ALinkInPlaceOfTheFolderIsRefused) {
   std::filesystem::create_directories(directory_ / "elsewhere");
   std::filesystem::create_directories(directory_ / "state/ZanthMan");

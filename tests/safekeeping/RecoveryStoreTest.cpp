@@ -298,6 +298,41 @@ TEST_F(Recovery, ATextThatCannotBeDiscardedIsOfferedAgain) {
             "Permission denied, 1 offered");
 }
 
+TEST_F(Recovery, AFolderInWhichNoRunCanBeMadeIsTold) {
+  GiveToOrdinaryUser(directory_.Path());
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              std::filesystem::create_directories(folder_);
+              ::chmod(folder_.c_str(), 0500);
+              RecoveryStore store(folder_, std::chrono::milliseconds(10));
+              store.Keep(1, "/a", "text");
+              const bool kept = store.Flush();
+              ::usleep(50'000);  // some tries later
+              const std::string problem = store.TakeProblem().value_or("no problem");
+              ::chmod(folder_.c_str(), 0700);
+              return problem + (kept ? ", kept" : ", not kept") +
+                     (Runs().empty() ? "" : ", something was left behind");
+            }),
+            "Permission denied, not kept");
+}
+
+TEST_F(Recovery, ANormalEndThatCannotClearUpLeavesTheTexts) {
+  GiveToOrdinaryUser(directory_.Path());
+  EXPECT_EQ(AsOrdinaryUser([&] {
+              std::string run;
+              {
+                RecoveryStore store(folder_);
+                store.Keep(1, "/a", "text");
+                store.Flush();
+                run = folder_ + "/" + Runs().at(0);
+                ::chmod(run.c_str(), 0500);
+                store.Finish();
+              }
+              ::chmod(run.c_str(), 0700);
+              return Offered().at(0);
+            }),
+            "/a: text");
+}
+
 TEST_F(Recovery, AProgramThatHangsKeepsNobodyWaiting) {
   RecoveryStore hanging(folder_);
   const PrivateFolder all(folder_);
