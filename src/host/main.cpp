@@ -51,14 +51,9 @@ void TellOnStandardError(const QString& problem) {
 
 int Run(const Options& options) {
   const bool picture = !options.screenshot.empty();
-  // It may come at any time, also inside of a command: the box waits until that is through.
   FallbackSettingsStore settings(options.store, [picture](const std::string& problem) {
     std::cerr << "zanth-manager: " << problem << "\n";
-    if (picture) return;
-    const auto say = [problem] {
-      QtMessageBox().Show(problem, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
-    };
-    QMetaObject::invokeMethod(qApp, say, Qt::QueuedConnection);
+    if (!picture) TellWhenIdle(problem);
   });
   QtDesktop desktop;
   WrittenMessages written;

@@ -48,6 +48,15 @@ QAction* MenuItem(const QWidget& control, const QString& caption) {
   return nullptr;
 }
 
+QAction* RecentFile(const QWidget& control, const QString& name) {
+  for (auto* menu : control.findChildren<QMenu*>()) {
+    for (QAction* action : menu->actions()) {
+      if (action->text().endsWith(name)) return action;
+    }
+  }
+  return nullptr;
+}
+
 class EmbeddedControlTest : public testing::Test {
  protected:
   TempDirectory folder_;
@@ -182,6 +191,25 @@ TEST_F(EmbeddedControlTest, NewDocumentsComeFromTheTemplatesOfTheHost) {
   EXPECT_EQ(control.DocumentName(), "Untitled");
   EXPECT_EQ(control.DocumentPath(), "");
   EXPECT_EQ(TextInSight(control), "my own template");
+}
+
+TEST_F(EmbeddedControlTest, ControlsShareTheSettingsAlsoWhenTheirFileCannotBeUsed) {
+  ucTessel::Options options;
+  options.settingsFile = QString::fromStdString(folder_ / "folder");
+  folder_.Put("folder/in-it", "");
+  const Answer ok(QMessageBox::Ok);
+  ucTessel first(options);
+  const ucTessel second(options);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !ok.Asked().empty(); }));
+  EXPECT_NE(ok.Asked().find("Settings are kept in memory"), std::string::npos) << ok.Asked();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "it is told once";
+
+  const std::string path = folder_.Put("User.con", "x");
+  first.OpenFile(QString::fromStdString(path));
+  const ucTessel third(options);
+  EXPECT_NE(RecentFile(third, "USER.CON"), nullptr);
+  EXPECT_EQ(RecentFile(second, "USER.CON"), nullptr) << "it has read them at its start";
 }
 
 TEST_F(EmbeddedControlTest, ADestroyedControlLeavesTheOtherAlone) {

@@ -10,6 +10,7 @@ int main(int argc, char** argv) {
   const tessel::test::TempDirectory home;
   qputenv("ZANTHMAN_STORE", (home / "settings.db").c_str());
   qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+  std::filesystem::permissions(home.Path(), std::filesystem::perms::owner_all);
   qputenv("XDG_RUNTIME_DIR", home.Path().c_str());
   const QApplication application(argc, argv);
   testing::InitGoogleTest(&argc, argv);

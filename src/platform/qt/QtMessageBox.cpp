@@ -1,5 +1,6 @@
 #include "platform/qt/QtMessageBox.h"
 
+#include <QCoreApplication>
 #include <QMessageBox>
 
 #include "platform/qt/DialogOwner.h"
@@ -58,6 +59,13 @@ MessageAnswer QtMessageBox::Show(const std::string& text, MessageIcon icon,
   box.setIcon(IconOf(icon));
   box.setStandardButtons(ButtonsOf(buttons));
   return AnswerOf(box.exec());
+}
+
+void TellWhenIdle(const std::string& problem) {
+  const auto show = [problem] {
+    QtMessageBox().Show(problem, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
+  };
+  QMetaObject::invokeMethod(qApp, show, Qt::QueuedConnection);
 }
 
 }  // namespace tessel

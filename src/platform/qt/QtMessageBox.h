@@ -11,4 +11,8 @@ class QtMessageBox : public MessageBox {
                      MessageButtons buttons) override;
 };
 
+/// Tells the user a problem that may come at any time, also inside of a command: the box waits
+/// until the event loop has its turn.
+void TellWhenIdle(const std::string& problem);
+
 }  // namespace tessel
