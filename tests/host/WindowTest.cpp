@@ -143,6 +143,18 @@ TEST_F(Window, SaysThatABackupCannotBeRead) {
   EXPECT_EQ(Run().Editor(0).Text(), "2 define A 1\r\n");
 }
 
+TEST_F(Window, OpensTheFileOfABackupThatIsNotOpen) {
+  Run().window->OpenFiles({user_});
+  SaveInPlaceWith("2 ");
+  CloseAndStartAgain();
+  Run().MenuItem("&Backups...")->trigger();
+  Run().Press<BackupsDialog>("&Open");
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(Run().Tabs().At(1).image, kRedDot);
+  EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
+  EXPECT_EQ(BytesOf(user_), "2 define A 1\r\n");
+}
+
 TEST_F(Window, ShowsWhatIsLeftOfADamagedBackup) {
   Run().window->OpenFiles({user_});
   SaveInPlaceWith("2 ");
