@@ -151,6 +151,8 @@ void SqliteSettingsStore::MakeSchema() {
   if (version < 0 || (version == 0 && Number("SELECT count(*) FROM sqlite_schema") > 0)) {
     Fail("it is no settings store");
   }
+  // Writing into a damaged file may fail half-way, which changes it.
+  RefuseIfDamaged();
   if (version == 0) Execute(kSchema);
   Execute("COMMIT");
 }

@@ -199,6 +199,21 @@ TEST_F(SqliteSettingsStoreTest, GoesOnInMemoryAndKeepsADamagedFile) {
   EXPECT_EQ(BytesOf(path), damaged);
 }
 
+// A head without tables, whose list of free space does not fit.
+TEST_F(SqliteSettingsStoreTest, KeepsADamagedFileInWhichNothingIs) {
+  std::string damaged = "SQLite format 3" + std::string(91, '\0');
+  const std::vector<std::pair<std::size_t, int>> bytes = {
+      {16, 2},  {18, 1},  {19, 1}, {21, 64},  {22, 32}, {23, 32},   {27, 2},  {31, 6},
+      {42, 32}, {43, 1},  {51, 1}, {55, 1},   {92, 39}, {93, 96},   {94, 40}, {95, 232},
+      {97, 46}, {98, 99}, {99, 1}, {100, 13}, {101, 1}, {102, 248}, {105, 57}};
+  for (const auto& [at, byte] : bytes) damaged[at] = static_cast<char>(byte);
+  directory.Put("settings.db", damaged);
+  FallbackSettingsStore store = Fallback();
+  ExpectInMemory(store);
+  EXPECT_TRUE(BytesOf(path) == damaged);
+  EXPECT_THAT(directory.Names(), ElementsAre("settings.db"));
+}
+
 TEST_F(SqliteSettingsStoreTest, GoesOnInMemoryWhenThePagesOfAnOpenStoreTurnBad) {
   {
     SqliteSettingsStore store(path);
