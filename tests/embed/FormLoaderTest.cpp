@@ -82,6 +82,8 @@ TEST_F(DesignerPluginTest, ShowsTheControlInTheWidgetBox) {
   ASSERT_NE(plugin_, nullptr) << loader_.errorString().toStdString();
   EXPECT_EQ(plugin_->name(), "ucTessel");
   EXPECT_EQ(plugin_->group(), "Input Widgets");
+  EXPECT_EQ(plugin_->toolTip(), "Editor for CON files");
+  EXPECT_NE(plugin_->whatsThis(), "");
   EXPECT_EQ(plugin_->includeFile(), "Tessel/ucTessel.h");
   EXPECT_FALSE(plugin_->icon().pixmap(32, 32).isNull());
   EXPECT_FALSE(plugin_->isContainer());
