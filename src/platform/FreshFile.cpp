@@ -51,11 +51,17 @@ std::vector<std::string> FreshNames(int directory, std::string_view prefix) {
   return names;
 }
 
+/// Files get their times from a finer clock than time() reads, which may be a second behind; so the
+/// time is looked at only where an age is asked for.
+bool IsOld(const struct stat& status, std::chrono::seconds age) {
+  return age.count() == 0 || std::time(nullptr) - status.st_mtim.tv_sec >= age.count();
+}
+
 bool IsAbandoned(int file, std::chrono::seconds age) {
   struct stat status {};
   if (::fstat(file, &status) == -1) return false;
   return S_ISREG(status.st_mode) && status.st_uid == ::geteuid() && status.st_nlink == 1 &&
-         std::time(nullptr) - status.st_mtim.tv_sec >= age.count() && Lock(file);
+         IsOld(status, age) && Lock(file);
 }
 
 }  // namespace

@@ -43,8 +43,8 @@ class FreshFile {
 };
 
 /// Takes away the fresh files of that prefix (without a path) that belong to this user, whose
-/// writers are gone, and that have not been written to for that long. A file that is not known to
-/// be such a one stays; nothing here is an error.
+/// writers are gone, and that have not been written to for that long (0: whenever). A file that is
+/// not known to be such a one stays; nothing here is an error.
 void RemoveAbandonedFiles(int directory, const std::string& prefix, std::chrono::seconds age);
 
 }  // namespace tessel::posix

@@ -52,6 +52,15 @@ TEST_F(FreshFileTest, ASaveTakesAwayWhatAKilledOneLeftHoursAgo) {
   EXPECT_THAT(directory.Names(), ElementsAre("user.con"));
 }
 
+// Files get their times from a finer clock than programs do, and clocks are set back.
+TEST_F(FreshFileTest, WhereAgeDoesNotMatterOneFromTheFutureGoesToo) {
+  Put(kLeftover, -1);
+  Remove(1);
+  EXPECT_THAT(directory.Names(), SizeIs(1));
+  Remove(0);
+  EXPECT_THAT(directory.Names(), IsEmpty());
+}
+
 TEST_F(FreshFileTest, ASaveLeavesYoungOnesAlone) {
   Put(kLeftover, 60);
   Save();
