@@ -25,8 +25,9 @@ export PKG_CONFIG_PATH=$libraries/pkgconfig
 say "Looking at the library"
 [ "$(readlink "$library")" = "$soname" ] || fail "libTessel.so does not lead to $soname"
 [ "$(readlink "$libraries/$soname")" = "libTessel.so.$version" ] || fail "$soname does not lead to $version"
-readelf -d "$library" | grep -q "SONAME.*\[$soname\]" || fail "its SONAME is not $soname"
-readelf -d "$library" | grep -Eq 'RPATH|RUNPATH' && fail "it names a directory of the build"
+readelf -d "$library" >"$work/dynamic"
+grep -q "SONAME.*\[$soname\]" "$work/dynamic" || fail "its SONAME is not $soname"
+grep -Eq 'RPATH|RUNPATH' "$work/dynamic" && fail "it names a directory of the build"
 # Every name that can be linked to is one of the public classes.
 nm -DC --defined-only "$library" | awk '$2 ~ /^[A-Z]$/ && $2 != "A" { $1 = $2 = ""; print }' >"$work/names"
 grep -q ' ucTessel::Convert()' "$work/names" || fail "ucTessel::Convert() is not public"
@@ -60,7 +61,8 @@ say "Building and running the example of the guide (CMake)"
 cmake -S "$sources/examples/embed" -B "$work/embed" -DCMAKE_PREFIX_PATH="$prefix" >"$work/cmake.log" ||
   { cat "$work/cmake.log"; fail "find_package(Tessel) does not find it"; }
 cmake --build "$work/embed" >"$work/cmake.log" 2>&1 || { cat "$work/cmake.log"; fail "the example does not build"; }
-ldd "$work/embed/embed-example" | grep -q "$libraries/$soname" || fail "the example runs with another library"
+ldd "$work/embed/embed-example" >"$work/needed"
+grep -q "$libraries/$soname" "$work/needed" || fail "the example runs with another library"
 runs "$work/embed/embed-example" "$sources/data/zmuser.dat"
 
 say "Building and running it (pkg-config)"
@@ -76,7 +78,8 @@ build_plainly "$sources/tests/install/template.cpp" "$work/template"
 say "Loading a form by the installed plugin"
 plugin=$(find "$prefix" -path '*/designer/libtessel.so')
 [ -n "$plugin" ] || fail "there is no plugin for Qt Designer"
-ldd "$plugin" | grep -q "libTessel.so.* => $prefix/" || fail "the plugin does not find the library beside it"
+ldd "$plugin" >"$work/needed"
+grep -q "libTessel.so.* => $prefix/" "$work/needed" || fail "the plugin does not find the library beside it"
 cmake -S "$sources/examples/form" -B "$work/form" >"$work/cmake.log" || { cat "$work/cmake.log"; fail "cmake failed"; }
 cmake --build "$work/form" >"$work/cmake.log" 2>&1 || { cat "$work/cmake.log"; fail "the form's example does not build"; }
 QT_PLUGIN_PATH=$(dirname "$(dirname "$plugin")") runs "$work/form/form-example" "$sources/examples/form/form.ui"
