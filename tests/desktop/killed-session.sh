@@ -7,34 +7,16 @@
 set -euo pipefail
 program=$1 data=$2
 
-work=$(mktemp -d)
-cleanup() {
-  kill $(jobs -p) 2>/dev/null || true
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-display=
-for try in $(seq 110 129); do
-  [ -e "/tmp/.X11-unix/X$try" ] || { display=:$try; break; }
-done
-Xvfb "$display" -screen 0 1100x820x24 -nolisten tcp >/dev/null 2>&1 &
-export DISPLAY=$display QT_QPA_PLATFORM=xcb HOME=$work XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
-export XDG_RUNTIME_DIR=$work ZANTHMAN_STORE=$work/settings.db QT_SCALE_FACTOR=1 QT_FONT_DPI=96
-for _ in $(seq 50); do xdotool getdisplaygeometry >/dev/null 2>&1 && break; sleep 0.1; done
+. "$(dirname "$0")/display.sh" 110
 
 file=$work/User.con
 cp "$data/zmuserp.dat" "$file"
 fail() { echo "$*" >&2; cat "$work/errors" >&2; exit 1; }
-shows() { xdotool getwindowname "$window"; }
 wait_for() { for _ in $(seq 100); do "$@" && return; sleep 0.1; done; return 1; }
 open_window() {
   "$program" --light --size 1000x760 --host-dir "$data" "$@" 2>"$work/errors" &
   pid=$!
-  window=$(timeout 20 xdotool search --sync --onlyvisible --name 'Zanth Manager' | head -n 1)
-  xdotool windowmove --sync "$window" 0 0
-  xdotool windowfocus --sync "$window"
+  find_window
 }
 modified() { [[ $(shows) == *'*'* ]]; }
 saved() { ! modified; }

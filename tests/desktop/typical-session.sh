@@ -7,33 +7,15 @@
 set -euo pipefail
 program=$1 data=$2 picture=${3-}
 
-work=$(mktemp -d)
-display=
-cleanup() {
-  kill $(jobs -p) 2>/dev/null || true
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-for try in $(seq 90 109); do
-  [ -e "/tmp/.X11-unix/X$try" ] || { display=:$try; break; }
-done
-Xvfb "$display" -screen 0 1100x820x24 -nolisten tcp >/dev/null 2>&1 &
-export DISPLAY=$display QT_QPA_PLATFORM=xcb HOME=$work XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
-export XDG_RUNTIME_DIR=$work ZANTHMAN_STORE=$work/settings.db QT_SCALE_FACTOR=1 QT_FONT_DPI=96
-for _ in $(seq 50); do xdotool getdisplaygeometry >/dev/null 2>&1 && break; sleep 0.1; done
+. "$(dirname "$0")/display.sh" 90
 
 cp "$data/zmuserp.dat" "$work/User.con"
 "$program" --light --size 1000x760 --host-dir "$data" 2>"$work/errors" &
-window=$(timeout 20 xdotool search --sync --onlyvisible --name 'Zanth Manager' | head -n 1)
-xdotool windowmove --sync "$window" 0 0
-xdotool windowfocus --sync "$window"
+find_window
 
 # Waits until a window with that title is there, or is gone.
 await() { timeout 15 xdotool search --sync --onlyvisible --name "$1" >/dev/null; }
 click() { xdotool mousemove "$1" "$2" click "${3-1}"; sleep 0.3; }
-shows() { xdotool getwindowname "$window"; }
 
 # Where things are in the window, at 96 dots per inch: the toolbar, and the settings panel below it.
 click 59 "$((toolbar_y = ${TOOLBAR_Y:-34}))"
