@@ -1,12 +1,12 @@
 // tessel-drive as it is started: its options.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "support/RunProgram.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::test {
@@ -17,22 +17,11 @@ class DriveProgram : public testing::Test {
   /// Runs the program on these lines; returns its exit status.
   int Start(std::vector<std::string> arguments, const std::string& lines = "") {
     const std::string in = directory.Put("in", lines);
-    const pid_t child = ::fork();
-    if (child == 0) {
-      if (std::freopen(in.c_str(), "r", stdin) == nullptr ||
-          std::freopen((directory / "out").c_str(), "w", stdout) == nullptr ||
-          std::freopen((directory / "err").c_str(), "w", stderr) == nullptr) {
-        ::_exit(126);
-      }
-      std::vector<char*> argv = {const_cast<char*>("tessel-drive")};
-      for (std::string& argument : arguments) argv.push_back(argument.data());
-      argv.push_back(nullptr);
-      ::execv(TESSEL_DRIVE_PROGRAM, argv.data());
-      ::_exit(127);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    return RunProgram(TESSEL_DRIVE_PROGRAM, std::move(arguments), [&] {
+      return std::freopen(in.c_str(), "r", stdin) != nullptr &&
+             std::freopen((directory / "out").c_str(), "w", stdout) != nullptr &&
+             std::freopen((directory / "err").c_str(), "w", stderr) != nullptr;
+    });
   }
   bool Said(const std::string& part) const {
     return BytesOf(directory / "err").find(part) != std::string::npos;

@@ -1,13 +1,14 @@
 // The program as it is started from a shell, without anybody at it: for a picture of its window.
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QImage>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "support/RunProgram.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::test {
@@ -17,23 +18,14 @@ class HostProgram : public testing::Test {
  protected:
   /// Runs the program; returns its exit status.
   int Start(std::vector<std::string> arguments) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+    return RunProgram(TESSEL_HOST_PROGRAM, std::move(arguments), [&] {
       for (const char* name : {"HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
         ::setenv(name, directory.Path().c_str(), 1);
       }
       ::setenv("ZANTHMAN_STORE", (directory / "settings.db").c_str(), 1);
       ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
-      if (std::freopen(errors.c_str(), "w", stderr) == nullptr) ::_exit(126);
-      std::vector<char*> argv = {const_cast<char*>("zanth-manager")};
-      for (std::string& argument : arguments) argv.push_back(argument.data());
-      argv.push_back(nullptr);
-      ::execv(TESSEL_HOST_PROGRAM, argv.data());
-      ::_exit(127);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+      return std::freopen(errors.c_str(), "w", stderr) != nullptr;
+    });
   }
   bool Said(const std::string& part) const {
     return BytesOf(errors).find(part) != std::string::npos;
