@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDBusError>
-#include <string>
 
 #include "platform/qt/TesselWidget.h"
 
@@ -34,11 +33,9 @@ bool ControlObject::Refused() const {
 void ControlObject::SetTesselVersion(const QString& strVersion, const QString& strDefault,
                                      QString& versionAfter, QString& defaultAfter) {
   if (Refused()) return;
-  std::string version = strVersion.toStdString();
-  std::string defaultVersion = strDefault.toStdString();
-  control_->Tessel().SetTesselVersion(version, defaultVersion);
-  versionAfter = QString::fromStdString(version);
-  defaultAfter = QString::fromStdString(defaultVersion);
+  versionAfter = strVersion;
+  defaultAfter = strDefault;
+  control_->SetTesselVersion(versionAfter, defaultAfter);
 }
 
 void ControlObject::SetTesselVersion(const QString& strVersion, QString& versionAfter) {

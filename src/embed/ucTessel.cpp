@@ -75,11 +75,7 @@ QSize ucTessel::sizeHint() const { return Inside().sizeHint(); }
 QSize ucTessel::minimumSizeHint() const { return Inside().minimumSizeHint(); }
 
 void ucTessel::SetTesselVersion(QString& strVersion, QString& strDefault) {
-  std::string version = strVersion.toStdString();
-  std::string defaultVersion = strDefault.toStdString();
-  Inside().Tessel().SetTesselVersion(version, defaultVersion);
-  strVersion = QString::fromStdString(version);
-  strDefault = QString::fromStdString(defaultVersion);
+  Inside().SetTesselVersion(strVersion, strDefault);
 }
 
 void ucTessel::SetTesselVersion(QString& strVersion) {

@@ -144,6 +144,14 @@ void TesselWidget::RemoveEditor(RichTextBox& editor) {
   delete view;
 }
 
+void TesselWidget::SetTesselVersion(QString& version, QString& defaultVersion) {
+  std::string versionBytes = version.toStdString();
+  std::string defaultBytes = defaultVersion.toStdString();
+  tessel_->SetTesselVersion(versionBytes, defaultBytes);
+  version = QString::fromStdString(versionBytes);
+  defaultVersion = QString::fromStdString(defaultBytes);
+}
+
 QWidget* TesselWidget::DialogFor(const Form& form) const {
   const auto it = std::ranges::find_if(
       dialogs_, [&](const FormDialog* dialog) { return &dialog->Model() == &form; });

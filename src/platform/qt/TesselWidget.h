@@ -29,6 +29,8 @@ class TesselWidget : public QWidget {
 
   ucTessel& Tessel() { return *tessel_; }
   const ucTessel& Tessel() const { return *tessel_; }
+  /// The control's method of that name, with the toolkit's strings.
+  void SetTesselVersion(QString& version, QString& defaultVersion);
 
   /// The widget on which a person acts to use that control, also for the controls of forms; null
   /// for controls that show nothing (the timer, the common dialog). For a tab strip it is the row
