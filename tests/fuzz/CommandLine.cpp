@@ -113,10 +113,16 @@ bool PrintsBytes(const Arguments& arguments) {
          command == "level" || HasPair(arguments, "words", "export");
 }
 
+/// Its value follows "--format" or "--format=" as an argument of its own, or within the latter.
+bool HasFormat(const Arguments& arguments, const std::string& format) {
+  return arguments.front() == "colour" &&
+         (HasPair(arguments, "--format", format) || HasPair(arguments, "--format=", format) ||
+          Has(arguments, "--format=" + format));
+}
+
 bool PrintsJson(const Arguments& arguments) {
   const bool lists = arguments.front() == "settings" || arguments.front() == "levels";
-  const bool runs = arguments.front() == "colour" && HasPair(arguments, "--format", "json");
-  return runs || (lists && std::ranges::count(arguments, "--json") != 0);
+  return HasFormat(arguments, "json") || (lists && std::ranges::count(arguments, "--json") != 0);
 }
 
 void RequireFilesKept(const Arguments& arguments, const Outcome& outcome,
@@ -141,17 +147,16 @@ void RequireForm(const Arguments& arguments, const Outcome& outcome) {
   Require(IsPlainText(outcome.err), "what is told is plain text");
   if (outcome.status != 0) Require(!outcome.err.empty(), "a failure is told");
   const bool help = Has(arguments, "-h") || Has(arguments, "--help") || Has(arguments, "--version");
-  if (outcome.status != 0 || help) return;
+  if (outcome.status != 0 || help || PrintsBytes(arguments)) return;
   if (PrintsJson(arguments)) Require(nlohmann::json::accept(outcome.out), "JSON is JSON");
-  if (outcome.out.starts_with("<!DOCTYPE html>\n")) {
-    std::string page = outcome.out;
-    std::erase(page, '\r');  // line ends stay as they are
-    Require(IsPlainText(page), "a page is plain text");
-  } else if (arguments.front() == "colour") {
-    Require(IsPlainText(WithoutColours(outcome.out)), "colours are all that is not plain text");
-  } else if (!PrintsBytes(arguments)) {
-    Require(IsPlainText(outcome.out), "what is shown is plain text");
+  std::string shown = outcome.out;
+  if (HasFormat(arguments, "html")) {
+    Require(shown.starts_with("<!DOCTYPE html>\n"), "a page is a page");
+    std::erase(shown, '\r');  // line ends stay as they are
+  } else if (HasFormat(arguments, "ansi")) {
+    shown = WithoutColours(shown);
   }
+  Require(IsPlainText(shown), "what is shown is plain text, but for its colours");
 }
 
 }  // namespace
