@@ -22,7 +22,7 @@ cmake --preset release -DTESSEL_TESTS=ON >/dev/null
 cmake --build --preset release -j "$jobs" | tail -n 1
 
 step "Building with sanitizers (build/asan-ubsan)"
-cmake --preset asan-ubsan -DTESSEL_TESTS=ON -DTESSEL_QT=OFF >/dev/null
+cmake --preset asan-ubsan -DTESSEL_TESTS=ON >/dev/null
 cmake --build --preset asan-ubsan -j "$jobs" | tail -n 1
 
 step "Linting the logic"

@@ -16,8 +16,8 @@ for target in "${targets[@]}"; do
   [ -d "tests/fuzz/corpus/$target" ] || { echo "scripts/fuzz.sh: no target $target; there are ${all[*]}" >&2; exit 2; }
 done
 
-install_missing "${build_packages[@]}" "${fuzz_packages[@]}"
-cmake --preset fuzz >/dev/null
+install_missing "${build_packages[@]}" "${test_packages[@]}" "${fuzz_packages[@]}"
+cmake --preset asan-ubsan >/dev/null
 cmake --build --preset fuzz -j "${FUZZ_JOBS:-$(nproc)}" | tail -n 1
 
 # In memory, where there is such a place: two targets make files for every input.
@@ -32,7 +32,7 @@ run_target() {
   # Where an input reaches thousands of edges, weighing them takes longer than running it.
   case $target in Drive|CommandLine) options+=(-entropic=0) ;; esac
   [ -f "tests/fuzz/$target.dict" ] && options+=("-dict=tests/fuzz/$target.dict")
-  if build/fuzz/tests/fuzz/fuzz_"$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 \
+  if build/asan-ubsan/tests/fuzz/fuzz_"$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 \
       -max_len=8192 -print_final_stats=1 -artifact_prefix="$findings/" "${options[@]}" \
       "$grown" "tests/fuzz/corpus/$target" >"$log" 2>&1; then
     awk -v target="$target" '

@@ -86,7 +86,7 @@ TEST_F(CommandLineBadInput, TakesBinaryFilesAsTheyAre) {
 }
 
 TEST_F(CommandLineBadInput, SaysSoWhenAFileIsTooLargeForTheMemory) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSEL_SANITIZED
   GTEST_SKIP() << "AddressSanitizer does not start with so little address space";
 #endif
   Put("huge.con", "");

@@ -69,7 +69,7 @@ TEST_F(PosixFilesTest, ReadsAFileWhoseSizeIsNotToldBeforehand) {
 }
 
 TEST_F(PosixFilesTest, ReadsMoreThanOneCallCanTransfer) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSEL_SANITIZED
   GTEST_SKIP() << "takes too long with every access checked";
 #endif
   // A file with a hole: it takes no room on the disk.

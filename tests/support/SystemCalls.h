@@ -18,7 +18,7 @@ namespace tessel::test {
 
 /// Whether DisturbedChild::FailAt works: it is written for one processor, and sanitizers make calls
 /// of their own that must not fail.
-#if defined(__x86_64__) && !defined(__SANITIZE_ADDRESS__)
+#if defined(__x86_64__) && !defined(TESSEL_SANITIZED)
 inline constexpr bool kCallsCanFail = true;
 #else
 inline constexpr bool kCallsCanFail = false;
