@@ -6,6 +6,7 @@
 #include <chrono>
 #include <memory>
 
+#include "platform/FileAttributes.h"
 #include "platform/FreshFile.h"
 #include "platform/PathResolution.h"
 #include "platform/Posix.h"
@@ -67,7 +68,10 @@ void SyncDirectory(int directory) {
 
 void Replace(FreshFile& fresh, const std::string& target, const Status& old,
              std::string_view bytes) {
-  if (old) KeepOwnerAndPermissions(fresh.Number(), *old);
+  if (old) {
+    CopyAttributes(target, fresh.Number());
+    KeepOwnerAndPermissions(fresh.Number(), *old);
+  }
   WriteAll(fresh.Number(), bytes);
   Checked([&] { return ::fsync(fresh.Number()); });
   fresh.TakePlaceOf(target);
