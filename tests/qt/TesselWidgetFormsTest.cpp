@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtMessageBox.h"
 #include "platform/qt/QtModalForms.h"
 #include "qt/TesselWidgetFixture.h"
@@ -122,12 +121,6 @@ TEST(QtMessageBox, ShowsTheExactTextAndReturnsTheAnswer) {
   EXPECT_EQ(text, "Save <b> & \"x\"?");
   EXPECT_EQ(format, Qt::PlainText);
   EXPECT_EQ(title, "Zanth Manager");
-}
-
-TEST(QtFileDialogs, TurnsFiltersIntoThoseOfTheToolkit) {
-  EXPECT_EQ(NameFilters("CON Files (*.con)|*.con"), QStringList{"CON Files (*.con *.CON)"});
-  EXPECT_EQ(NameFilters("Maps|*.map|All|*"), (QStringList{"Maps (*.map *.MAP)", "All (*)"}));
-  EXPECT_TRUE(NameFilters("").isEmpty());
 }
 
 }  // namespace

@@ -3,9 +3,12 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QRegularExpression>
 
 #include "platform/CommonDialog.h"
+#include "platform/PathResolution.h"
+#include "platform/Posix.h"
 #include "platform/qt/DialogOwner.h"
 #include "platform/qt/QtText.h"
 
@@ -39,6 +42,29 @@ QString SuffixOf(std::string_view filter) {
   return kExtension.match(ShownText(filter)).captured(1);
 }
 
+std::vector<std::string> Chosen(const QFileDialog& dialog) {
+  std::vector<std::string> chosen;
+  for (const QString& file : dialog.selectedFiles()) {
+    chosen.push_back(QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString());
+  }
+  return chosen;
+}
+
+/// The toolkit asks before a file of exactly the chosen name is replaced. One whose name differs in
+/// case would be written to as well: this asks about that, and true chooses its spelling.
+bool TakeSpellingOfExisting(QFileDialog& dialog, std::string& path) {
+  const std::string existing = posix::ResolveIgnoringCase(path);
+  if (existing == path || !posix::StatusOf(existing)) return true;
+  const QString name = QFileInfo(QFile::decodeName(existing.c_str())).fileName();
+  QMessageBox question(QMessageBox::Warning, dialog.windowTitle(),
+                       QObject::tr("%1 already exists.\nDo you want to replace it?").arg(name),
+                       QMessageBox::Yes | QMessageBox::No, &dialog);
+  question.setTextFormat(Qt::PlainText);
+  question.setDefaultButton(QMessageBox::No);
+  path = existing;
+  return question.exec() == QMessageBox::Yes;
+}
+
 }  // namespace
 
 QStringList NameFilters(std::string_view filter) {
@@ -62,13 +88,13 @@ std::optional<std::vector<std::string>> QtFileDialogs::Show(const FileDialogRequ
   if (request.kind == FileDialogRequest::Kind::kSave) {
     dialog.setDefaultSuffix(SuffixOf(request.filter));
   }
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  std::vector<std::string> chosen;
-  for (const QString& file : dialog.selectedFiles()) {
-    chosen.push_back(QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString());
+  while (dialog.exec() == QDialog::Accepted) {
+    std::vector<std::string> chosen = Chosen(dialog);
+    if (chosen.empty()) return std::nullopt;
+    const bool asks = (request.flags & kOverwritePrompt) != 0;
+    if (!asks || TakeSpellingOfExisting(dialog, chosen.front())) return chosen;
   }
-  if (chosen.empty()) return std::nullopt;
-  return chosen;
+  return std::nullopt;
 }
 
 }  // namespace tessel

@@ -1,0 +1,153 @@
+// The desktop's file dialogs, answered as a person would.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+#include <functional>
+
+#include "platform/CommonDialog.h"
+#include "platform/qt/QtFileDialogs.h"
+#include "support/TempDirectory.h"
+
+namespace tessel::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::Optional;
+
+constexpr const char* kFilter = "CON Files (*.con)|*.con";
+
+class FileDialogTest : public testing::Test {
+ protected:
+  FileDialogRequest Request(FileDialogRequest::Kind kind, int flags) {
+    FileDialogRequest request;
+    request.kind = kind;
+    request.filter = kFilter;
+    request.filterIndex = 1;
+    request.initDir = directory.Path();
+    request.flags = flags;
+    return request;
+  }
+  std::optional<std::vector<std::string>> Open(int flags) {
+    return QtFileDialogs().Show(Request(FileDialogRequest::Kind::kOpen, flags));
+  }
+  std::optional<std::vector<std::string>> Save() {
+    return QtFileDialogs().Show(
+        Request(FileDialogRequest::Kind::kSave, kOverwritePrompt | kHideReadOnly));
+  }
+  /// Waits until the modal window is one of that kind, and acts on it.
+  template <class Dialog>
+  void Once(std::function<void(Dialog&)> act) {
+    QTimer::singleShot(5, &untilTheEnd, [this, act] {
+      if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+        act(*dialog);
+      } else {
+        Once<Dialog>(act);
+      }
+    });
+  }
+  /// Enters the name and accepts.
+  void Choose(const QString& name) {
+    Once<QFileDialog>([name](QFileDialog& dialog) {
+      dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+      QMetaObject::invokeMethod(&dialog, "accept");
+    });
+  }
+
+  TempDirectory directory;
+  QObject untilTheEnd;
+};
+
+TEST(QtFileDialogs, TurnsFiltersIntoThoseOfTheToolkit) {
+  EXPECT_EQ(NameFilters("CON Files (*.con)|*.con"), QStringList{"CON Files (*.con *.CON)"});
+  EXPECT_EQ(NameFilters("Maps|*.map|All|*"), (QStringList{"Maps (*.map *.MAP)", "All (*)"}));
+  EXPECT_TRUE(NameFilters("").isEmpty());
+}
+
+TEST_F(FileDialogTest, OpensInTheWantedDirectoryWithTheWantedFilter) {
+  QString title;
+  QString shown;
+  QString filter;
+  QFileDialog::FileMode mode = QFileDialog::AnyFile;
+  Once<QFileDialog>([&](QFileDialog& dialog) {
+    title = dialog.windowTitle();
+    shown = dialog.directory().absolutePath();
+    filter = dialog.selectedNameFilter();
+    mode = dialog.fileMode();
+    dialog.reject();
+  });
+  EXPECT_EQ(Open(0), std::nullopt);
+  EXPECT_EQ(title, "Open");
+  EXPECT_EQ(shown.toStdString(), directory.Path());
+  EXPECT_EQ(filter, "CON Files (*.con *.CON)");
+  EXPECT_EQ(mode, QFileDialog::ExistingFile);
+}
+
+TEST_F(FileDialogTest, GivesTheWholePathsOfSeveralFiles) {
+  directory.Put("a.con", "");
+  directory.Put("b.con", "");
+  Choose("\"b.con\" \"a.con\"");
+  EXPECT_THAT(Open(kAllowMultiSelect),
+              Optional(ElementsAre(directory / "b.con", directory / "a.con")));
+}
+
+TEST_F(FileDialogTest, GivesANameWithoutAnExtensionTheOneOfTheFilter) {
+  Choose("USER");
+  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "USER.con")));
+}
+
+TEST_F(FileDialogTest, AsksBeforeAFileIsReplaced) {
+  directory.Put("User.con", "");
+  QString asked;
+  Choose("User.con");
+  Once<QMessageBox>([&](QMessageBox& question) {
+    asked = question.text();
+    question.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "User.con")));
+  EXPECT_TRUE(asked.startsWith("User.con already exists.")) << asked.toStdString();
+}
+
+// A save goes to the file whose name differs in case alone.
+TEST_F(FileDialogTest, AsksBeforeAFileOfAnotherSpellingIsReplacedAndTakesItsName) {
+  directory.Put("USER.CON", "");
+  QString asked;
+  Choose("User");
+  Once<QMessageBox>([&](QMessageBox& question) {
+    asked = question.text();
+    question.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "USER.CON")));
+  EXPECT_EQ(asked, "USER.CON already exists.\nDo you want to replace it?");
+}
+
+TEST_F(FileDialogTest, AsksForAnotherNameWhenThatFileIsToStay) {
+  directory.Put("USER.CON", "");
+  Choose("User");
+  Once<QMessageBox>([&](QMessageBox& question) {
+    Choose("Other");
+    question.button(QMessageBox::No)->click();
+  });
+  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "Other.con")));
+}
+
+TEST_F(FileDialogTest, IsOwnedByTheWindowThatAPersonWorksIn) {
+  QWidget window;
+  window.show();
+  QApplication::setActiveWindow(&window);
+  const QWidget* owner = nullptr;
+  Once<QFileDialog>([&](QFileDialog& dialog) {
+    owner = dialog.parentWidget();
+    dialog.reject();
+  });
+  Open(0);
+  EXPECT_EQ(owner, &window);
+}
+
+}  // namespace
+}  // namespace tessel::test
