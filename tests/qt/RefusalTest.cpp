@@ -74,5 +74,33 @@ TEST_F(Refusal, LeavesTheLineBreaksOfABoxOfSeveralLinesCrLf) {
   EXPECT_EQ(form->txtParams.Text(), "[a]\r\n[b]");
 }
 
+TEST_F(Refusal, LeavesTheNoBreakSpacesOfABoxOfSeveralLines) {
+  auto* form = dynamic_cast<frmAddParam*>(widget_.Tessel().Forms().at(1));
+  ASSERT_NE(form, nullptr);
+  form->txtParams.SetText(
+      "[a\xA0"
+      "b]");
+  auto* box = WidgetFor<QPlainTextEdit>(form->txtParams);
+  box->moveCursor(QTextCursor::End);
+  QTest::keyClicks(box, "c");
+  EXPECT_EQ(form->txtParams.Text(),
+            "[a\xA0"
+            "b]c");
+  form->txtParams.Refresh.Raise();
+  EXPECT_EQ(box->textCursor().position(), 6) << "the caret stays";
+}
+
+TEST_F(Refusal, IsNotForLongTexts) {
+  auto* form = dynamic_cast<frmFind*>(widget_.Tessel().Forms().at(0));
+  ASSERT_NE(form, nullptr);
+  const std::string text(40000, 'x');
+  form->cboFind.SetText(text);
+  auto* box = WidgetFor<QComboBox>(form->cboFind)->lineEdit();
+  EXPECT_EQ(box->text().size(), 40000);
+  box->end(false);
+  QTest::keyClicks(box, "y");
+  EXPECT_EQ(form->cboFind.Text(), text + "y");
+}
+
 }  // namespace
 }  // namespace tessel::test

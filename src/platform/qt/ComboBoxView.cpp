@@ -23,6 +23,7 @@ void ComboBoxView::MakeEditable() {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
+  lineEdit()->setMaxLength(kLongestTyped);
   auto* validator = new ByteValidator(this);
   setValidator(validator);
   connect(validator, &ByteValidator::refused, this,

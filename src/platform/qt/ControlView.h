@@ -13,6 +13,9 @@ void ShowOrHide(QWidget& widget, bool shown);
 /// The same for a widget's enabled state.
 void EnableOrDisable(QWidget& widget, bool enabled);
 
+/// In characters, where the toolkit sets a limit: longer than anything that is typed or searched.
+inline constexpr int kLongestTyped = 1 << 20;
+
 /// True when the control is visible and not parked.
 bool InSight(const Control& control);
 

@@ -12,7 +12,7 @@
 namespace tessel {
 
 TextBoxView::TextBoxView(TextBox& model, QWidget* parent) : QLineEdit(parent), model_(model) {
-  setMaxLength(1 << 20);
+  setMaxLength(kLongestTyped);
   auto* validator = new ByteValidator(this);
   setValidator(validator);
   connect(validator, &ByteValidator::refused, this,
@@ -56,8 +56,15 @@ MultiLineTextBoxView::MultiLineTextBoxView(TextBox& model, QWidget* parent)
   Draw();
 }
 
+// The widget's plain text has blanks for no-break spaces.
+QString MultiLineTextBoxView::ExactText() const {
+  QString text = document()->toRawText();
+  text.replace(QChar::ParagraphSeparator, '\n');
+  return text.replace(QChar::LineSeparator, '\n');
+}
+
 void MultiLineTextBoxView::TakeText() {
-  const QString text = toPlainText();
+  const QString text = ExactText();
   if (const auto bytes = BytesOfText(text)) return model_.Type(*bytes);
   Draw();
   ShowRefusal(*this, RefusalOf(text));
@@ -71,7 +78,7 @@ void MultiLineTextBoxView::focusInEvent(QFocusEvent* event) {
 void MultiLineTextBoxView::Draw() {
   const QSignalBlocker quiet(this);
   const QString wanted = ShownText(model_.Text()).replace("\r\n", "\n");
-  if (toPlainText() != wanted) setPlainText(wanted);
+  if (ExactText() != wanted) setPlainText(wanted);
   DrawState(*this, model_);
 }
 

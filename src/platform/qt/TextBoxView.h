@@ -39,6 +39,7 @@ class MultiLineTextBoxView : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
+  QString ExactText() const;
   void TakeText();
   void Draw();
 
