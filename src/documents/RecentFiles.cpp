@@ -21,7 +21,7 @@ void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string&
     if (item.tag == path && item.text == name) return;
   }
   if (count == kMostItems) {
-    settings.DeleteSetting(kSection, toolbar.MenuItem(kMenu, kMostItems).text);
+    settings.DeleteSetting(kSection, ToUpperText(toolbar.MenuItem(kMenu, kMostItems).text));
     toolbar.RemoveMenuItem(kMenu, kMostItems);
   }
   toolbar.InsertMenuItem(kMenu, kFixedItems + 1, {name, {}, path});

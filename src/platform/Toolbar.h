@@ -11,11 +11,11 @@ namespace tessel {
 
 /// An item of a button's drop-down. Items are compared and found by key.
 struct ButtonMenuItem {
-  std::string text;  ///< "-" for a separator
+  std::string text;  ///< "-" for a separator, which has no tag
   std::string key;
   std::string tag;
 
-  bool IsSeparator() const { return text == "-"; }
+  bool IsSeparator() const { return text == "-" && tag.empty(); }
 };
 
 enum class ButtonStyle { kButton, kTwoState, kDropDown, kSeparator };

@@ -66,6 +66,20 @@ TEST_F(RecentFiles, AreUpperCasedByWindows1252InTheStore) {
   EXPECT_EQ(Stored(), (Entries{{"\xc9T\xc9", "/\xc9T\xc9"}}));
 }
 
+TEST_F(RecentFiles, ThatMakeRoomLeaveTheStoreWhateverTheirLetters) {
+  for (const char* name : {"\xe9t\xe9", "2", "3", "4", "5", "6"})
+    Add(name, std::string("/") + name);
+  EXPECT_EQ(Stored(), (Entries{{"2", "/2"}, {"3", "/3"}, {"4", "/4"}, {"5", "/5"}, {"6", "/6"}}));
+}
+
+TEST_F(RecentFiles, MayBeCalledLikeASeparator) {
+  const int before = C().tbToolBar.MenuCount("FileNew");
+  Add("-", "/cons/-");
+  ASSERT_EQ(C().tbToolBar.MenuCount("FileNew"), before + 1);
+  EXPECT_TRUE(C().tbToolBar.MenuItem("FileNew", 9).IsSeparator());
+  EXPECT_FALSE(C().tbToolBar.MenuItem("FileNew", 10).IsSeparator());
+}
+
 TEST_F(RecentFiles, ComeBackAtTheStartWithTheLastOneOnTop) {
   world_.settings.SaveSetting("PreviousCons", "one.con", "/cons/one.con");
   world_.settings.SaveSetting("PreviousCons", "TWO.CON", "/CONS/TWO.CON");
