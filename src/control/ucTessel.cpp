@@ -106,6 +106,11 @@ bool ucTessel::KeyDown(int keyCode, int shift) {
   return false;
 }
 
+void ucTessel::SetTesselVersion(std::string& version) {
+  std::string defaultVersion;
+  SetTesselVersion(version, defaultVersion);
+}
+
 void ucTessel::SetTesselVersion(std::string& /*version*/, std::string& /*defaultVersion*/) {}
 
 void ucTessel::Convert() {

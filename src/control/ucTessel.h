@@ -39,7 +39,8 @@ class ucTessel {
   bool KeyDown(int keyCode, int shift);
 
   // --- Automation interface
-  /// Accepts its arguments and does nothing.
+  /// Accepts its arguments and does nothing; the second may be left out.
+  void SetTesselVersion(std::string& version);
   void SetTesselVersion(std::string& version, std::string& defaultVersion);
   /// Runs the version converter on the current document.
   void Convert();

@@ -18,10 +18,11 @@ Json Reply(const char* name, Json value) {
 
 Json SetTesselVersion(ucTessel& control, std::vector<std::string> args) {
   if (args.empty() || args.size() > 2) throw Refusal("takes one or two arguments");
-  const std::size_t given = args.size();
-  args.resize(2);
-  control.SetTesselVersion(args[0], args[1]);
-  args.resize(given);
+  if (args.size() == 1) {
+    control.SetTesselVersion(args[0]);
+  } else {
+    control.SetTesselVersion(args[0], args[1]);
+  }
   return FromBytes(args);
 }
 

@@ -21,8 +21,7 @@ void WordPanel::LoadWordList() {
   try {
     if (!HasScriptWordEntries(services_.settings)) return;
     wordParams_ = ShowScriptWords(controls_.lstWords, ReadScriptWords(services_.settings));
-  } catch (const RuntimeError&) {
-    return;  // no words, then
+  } catch (const RuntimeError&) {  // no words, then
   }
   const std::string searched = controls_.txtSearch.Text();
   controls_.txtSearch.SetText("");
