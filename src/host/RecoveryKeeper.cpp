@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <new>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -19,8 +20,9 @@ constexpr std::size_t kMostDropped = 20;
 
 }  // namespace
 
-RecoveryKeeper::RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent)
-    : QObject(parent), tessel_(tessel), store_(std::move(folder)) {
+RecoveryKeeper::RecoveryKeeper(ucTessel& tessel, std::string folder, AbandonedTexts::OnDisk onDisk,
+                               QObject* parent)
+    : QObject(parent), tessel_(tessel), onDisk_(std::move(onDisk)), store_(std::move(folder)) {
   timer_.setSingleShot(true);
   timer_.setInterval(kDelayMilliseconds);
   connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::KeepChanges);
@@ -56,6 +58,19 @@ std::string RecoveryKeeper::PathOf(int slot) const {
   return tabs.At(slot + 1).tag;
 }
 
+/// A save may have given the document another file.
+bool RecoveryKeeper::IsOnDisk(int index) const {
+  const std::string_view bytes = std::as_const(tessel_.Controls()).rtbCon[index].Bytes();
+  const std::string path = PathOf(index);
+  const auto& before = slots_.at(static_cast<std::size_t>(index)).path;
+  try {
+    if (!path.empty() && onDisk_(path) == bytes) return true;
+    return before && !before->empty() && *before != path && onDisk_(*before) == bytes;
+  } catch (const std::bad_alloc&) {  // then it cannot be said
+    return false;
+  }
+}
+
 // Raised for every character that a pass colours, too: only flags here.
 void RecoveryKeeper::EditorChanged(int index) {
   Slot& slot = At(index);
@@ -75,7 +90,9 @@ void RecoveryKeeper::TabsChanged() {
   for (int index = 0; index < std::ssize(slots_); ++index) {
     Slot& slot = At(index);
     if (!slot.kept || Modified(index)) continue;
-    store_.Drop(slot.kept->id);  // saved
+    slot.kept->takenForSaved = !IsOnDisk(index);
+    if (slot.kept->takenForSaved) continue;
+    store_.Drop(slot.kept->id);
     slot.kept.reset();
   }
   if (!timer_.isActive()) timer_.start();
@@ -85,15 +102,17 @@ void RecoveryKeeper::KeepBeforeItIsDropped() {
   if (std::ranges::any_of(slots_, &Slot::changed)) KeepChanges();
 }
 
-void RecoveryKeeper::KeepChanges() {
+bool RecoveryKeeper::KeepChanges() {
   timer_.stop();
+  QTimer::singleShot(kUntilProblemsShow, this, &RecoveryKeeper::TellProblem);
   try {
     for (int slot = 0; slot < std::ssize(slots_); ++slot) KeepSlot(slot);
     DropMovedTexts();
+    return true;
   } catch (const std::bad_alloc&) {  // no reason to end with all texts
     emit failed(tr("Unsaved text cannot be kept for recovery: there is not enough memory."));
+    return false;
   }
-  QTimer::singleShot(kUntilProblemsShow, this, &RecoveryKeeper::TellProblem);
 }
 
 void RecoveryKeeper::KeepSlot(int index) {
@@ -112,6 +131,7 @@ void RecoveryKeeper::KeepSlot(int index) {
     store_.Keep(slot.kept->id, *slot.path, editor.Text());
     slot.kept->print = print;
   }
+  slot.kept->takenForSaved = false;
   slot.changed = false;
 }
 
@@ -128,10 +148,11 @@ void RecoveryKeeper::LetGo(Slot& slot) {
 // When a document is closed, the texts behind it move to the editors before theirs.
 void RecoveryKeeper::DropMovedTexts() {
   std::erase_if(dropped_, [this](const Kept& text) {
-    const bool moved = std::ranges::any_of(
+    const auto holder = std::ranges::find_if(
         slots_, [&](const Slot& slot) { return slot.kept && slot.kept->print == text.print; });
-    if (moved) store_.Drop(text.id);
-    return moved;
+    if (holder == slots_.end()) return false;
+    store_.DropReplaced(text.id, holder->kept->id);
+    return true;
   });
 }
 
@@ -145,8 +166,19 @@ void RecoveryKeeper::KeepAllAgain() {
 }
 
 bool RecoveryKeeper::KeepNow() {
-  KeepChanges();
-  return store_.Flush();
+  const bool enoughMemory = KeepChanges();
+  return store_.Flush() && enoughMemory;
+}
+
+void RecoveryKeeper::Finish() {
+  std::set<RecoveryStore::Id> needed;
+  for (const Slot& slot : slots_) {
+    if (slot.kept && slot.kept->takenForSaved) needed.insert(slot.kept->id);
+  }
+  for (const Kept& text : dropped_) {
+    if (text.takenForSaved) needed.insert(text.id);
+  }
+  store_.Finish(needed);
 }
 
 void RecoveryKeeper::TellProblem() {

@@ -14,18 +14,21 @@ namespace tessel {
 
 /// Watches the documents. A change is kept at most 2 seconds after the first one that is not kept
 /// yet, and at once before the control does anything else with an editor: it may be about to drop
-/// the text. A saved document is not kept any more; the text of one that was dropped is.
+/// the text. A document whose file has its text is not kept any more; the text of one that was
+/// dropped is. Nor is the control believed that takes a document for saved whose file is another:
+/// its text outlives even a normal end.
 class RecoveryKeeper : public QObject {
   Q_OBJECT
 
  public:
   /// `folder` is that of all runs.
-  RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent);
+  RecoveryKeeper(ucTessel& tessel, std::string folder, AbandonedTexts::OnDisk onDisk,
+                 QObject* parent);
 
   /// Waits until every modified text is on the disk. Returns false when one could not be kept.
   bool KeepNow();
   /// The program ends normally.
-  void Finish() { store_.Finish(); }
+  void Finish();
 
  signals:
   /// Texts cannot be kept; the sentence says why.
@@ -40,6 +43,7 @@ class RecoveryKeeper : public QObject {
   struct Kept {
     RecoveryStore::Id id = 0;
     Fingerprint print;
+    bool takenForSaved = false;  // by the control, but its file has another text
   };
   struct Slot {
     bool changed = false;             // since the text was kept
@@ -52,17 +56,20 @@ class RecoveryKeeper : public QObject {
   void EditorChanged(int slot);
   void TabsChanged();
   void KeepBeforeItIsDropped();
-  void KeepChanges();
+  /// False when there was not enough memory.
+  bool KeepChanges();
   void KeepSlot(int slot);
   void KeepAllAgain();
   void LetGo(Slot& slot);
   void DropMovedTexts();
   void TellProblem();
   bool Modified(int slot) const;
+  bool IsOnDisk(int slot) const;
   std::string PathOf(int slot) const;
   Slot& At(int slot) { return slots_.at(static_cast<std::size_t>(slot)); }
 
   ucTessel& tessel_;
+  AbandonedTexts::OnDisk onDisk_;
   RecoveryStore store_;
   RecoveryStore::Id nextId_ = 1;
   std::vector<Slot> slots_;

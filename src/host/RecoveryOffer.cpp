@@ -4,6 +4,8 @@
 #include <QHBoxLayout>
 #include <QLocale>
 #include <QPushButton>
+#include <algorithm>
+#include <span>
 #include <utility>
 
 #include "documents/DocumentSlots.h"
@@ -24,6 +26,13 @@ QString Named(const KeptText& text, char separator) {
   const QString form =
       text.damaged ? QObject::tr("what is left of %1 (%2)") : QObject::tr("%1 (%2)");
   return form.arg(name.simplified(), time);
+}
+
+/// What is left of a text must not take a whole one's place, nor an older text a newer one's.
+bool TakesItsDocument(const KeptBytes& text, std::span<const KeptBytes> newerTexts) {
+  return !text.damaged && std::ranges::none_of(newerTexts, [&](const KeptBytes& newer) {
+    return !newer.damaged && newer.path == text.path;
+  });
 }
 
 }  // namespace
@@ -73,11 +82,13 @@ QString RecoveryOffer::Sentence() const {
 void RecoveryOffer::Recover() {
   if (tessel_.Running()) return;
   hide();
-  for (const KeptBytes& text : texts_->Texts()) {
-    // What is left of a text must not take a whole one's place.
-    ShowRestoredText(tessel_, files_, text.damaged ? std::string() : text.path, text.bytes);
+  bool allShown = true;
+  const auto& texts = texts_->Texts();
+  for (auto text = texts.begin(); text != texts.end(); ++text) {
+    const std::string path = TakesItsDocument(*text, {text + 1, texts.end()}) ? text->path : "";
+    allShown = ShowRestoredText(tessel_, files_, path, text->bytes) && allShown;
   }
-  if (keepNow_()) texts_->Discard();
+  if (keepNow_() && allShown) texts_->Discard();
 }
 
 void RecoveryOffer::Discard() {

@@ -54,15 +54,20 @@ void ShowNewDocument(HostedControls& controls, const std::string& bytes) {
 
 }  // namespace
 
-void ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
+bool ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
                       const std::string& bytes) {
+  bool shown = false;
   tessel.RunCommand([&] {
-    if (ShowUnchangedDocument(tessel, files, path)) {
-      ReplaceText(CurrentEditor(tessel.Controls()), bytes);
-    } else {
-      ShowNewDocument(tessel.Controls(), bytes);
-    }
+    if (!ShowUnchangedDocument(tessel, files, path)) return;
+    ReplaceText(CurrentEditor(tessel.Controls()), bytes);
+    shown = true;
   });
+  if (shown) return true;
+  tessel.RunCommand([&] {
+    ShowNewDocument(tessel.Controls(), bytes);
+    shown = true;
+  });
+  return shown;
 }
 
 }  // namespace tessel

@@ -9,8 +9,9 @@ namespace tessel {
 
 /// Shows the text as a modified document; no file is written. It becomes one edit, which Undo takes
 /// back, of the document with that path, opened if necessary; and a new "Untitled" document when
-/// there is no such file, or when its document has changes of its own.
-void ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
+/// there is no such file, when that cannot be opened (which is told), or when its document has
+/// changes of its own. Returns false, with the reason told, when the text is nowhere to be seen.
+bool ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
                       const std::string& bytes);
 
 }  // namespace tessel

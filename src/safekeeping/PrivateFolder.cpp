@@ -33,7 +33,16 @@ void MakeDirectories(const std::string& path) {
   }
 }
 
+/// The folder that this one is in is the program's own as well.
+void RefuseIfInLinkedFolder(const std::string& path) {
+  const auto status = StatusOfLink(path.substr(0, path.rfind('/')));
+  if (status && S_ISLNK(status->st_mode)) {
+    throw FileProblem("the folder that it is in is a symbolic link");
+  }
+}
+
 int OpenDirectory(const std::string& path) {
+  RefuseIfInLinkedFolder(path);
   MakeDirectories(path);
   return Checked(
       [&] { return ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); });

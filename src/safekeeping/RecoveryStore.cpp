@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <filesystem>
 #include <random>
 #include <system_error>
 #include <utility>
@@ -43,6 +44,21 @@ void RemoveEmptyRun(const std::string& path) try {
   }
   ::rmdir(path.c_str());
 } catch (const FileProblem&) {
+}
+
+/// Takes away the run folders that killed programs had not given their name yet. A young one may
+/// belong to a program that is just starting.
+void RemoveUnnamedRuns(const std::string& folder) {
+  constexpr std::chrono::hours kStartingTime{1};
+  const auto then = std::filesystem::file_time_type::clock::now() - kStartingTime;
+  std::error_code problem;  // what cannot be cleared away stays
+  std::filesystem::directory_iterator entry(folder, problem);
+  for (; entry != std::filesystem::directory_iterator(); entry.increment(problem)) {
+    const std::string name = entry->path().filename();
+    if (!name.starts_with(std::string(".") + kRunPrefix) || entry->is_symlink(problem)) continue;
+    const auto written = entry->last_write_time(problem);
+    if (!problem && written < then) RemoveEmptyRun(entry->path());
+  }
 }
 
 }  // namespace
@@ -101,6 +117,12 @@ void RecoveryStore::Keep(Id id, std::string path, std::string bytes) {
 
 void RecoveryStore::Drop(Id id) { Give(id, {}); }
 
+void RecoveryStore::DropReplaced(Id id, Id by) {
+  Order order;
+  order.after = by;
+  Give(id, std::move(order));
+}
+
 void RecoveryStore::Give(Id id, Order order) {
   if (!worker_.joinable()) return;
   {
@@ -118,7 +140,7 @@ bool RecoveryStore::Flush() {
   return failing_.empty();
 }
 
-void RecoveryStore::Finish() {
+void RecoveryStore::Finish(const std::set<Id>& needed) {
   {
     const std::lock_guard guard(mutex_);
     again_.clear();
@@ -126,7 +148,11 @@ void RecoveryStore::Finish() {
   Flush();
   if (!folder_) return;
   try {
-    for (const std::string& name : folder_->Names()) folder_->Remove(name);
+    std::set<std::string> staying;
+    for (const Id id : needed) staying.insert(NameOf(id));
+    for (const std::string& name : folder_->Names()) {
+      if (!staying.contains(name)) folder_->Remove(name);
+    }
   } catch (const FileProblem&) {
     // They are offered at the next start, which does no harm.
   }
@@ -156,6 +182,14 @@ bool RecoveryStore::WaitForOrders(std::unique_lock<std::mutex>& guard) {
   return !orders_.empty();
 }
 
+/// The first that need not wait for another one.
+std::map<RecoveryStore::Id, RecoveryStore::Order>::iterator RecoveryStore::NextOrder() {
+  return std::ranges::find_if(orders_, [this](const auto& entry) {
+    const auto& after = entry.second.after;
+    return !after || !(orders_.contains(*after) || again_.contains(*after));
+  });
+}
+
 void RecoveryStore::Work() {
   std::unique_lock guard(mutex_);
   for (;;) {
@@ -163,7 +197,13 @@ void RecoveryStore::Work() {
       if (ending_) return;
       continue;
     }
-    auto order = orders_.extract(orders_.begin());
+    const auto next = NextOrder();
+    if (next == orders_.end()) {  // all wait for one that failed
+      again_.merge(orders_);
+      changed_.notify_all();
+      continue;
+    }
+    auto order = orders_.extract(next);
     working_ = true;
     guard.unlock();
     std::string problem;
@@ -219,6 +259,7 @@ AbandonedTexts::AbandonedTexts(const std::string& folder, const OnDisk& onDisk) 
 
 void AbandonedTexts::AdoptAll(const std::string& folder, const OnDisk& onDisk) {
   if (!posix::StatusOfLink(folder)) return;
+  RemoveUnnamedRuns(folder);
   for (const std::string& name : PrivateFolder(folder).Names()) {
     const std::string path = std::string(folder).append("/").append(name);
     const auto status = posix::StatusOfLink(path);

@@ -36,10 +36,13 @@ class RecoveryStore {
   /// had it. `path` is empty for a document without a file.
   void Keep(Id id, std::string path, std::string bytes);
   void Drop(Id id);
+  /// The same, but not before the text with the number `by`, which holds what this one held, is on
+  /// the disk.
+  void DropReplaced(Id id, Id by);
   /// Waits until everything is on the disk. Returns false when something could not be kept.
   bool Flush();
-  /// The program ends normally: nothing that is kept here is needed any more.
-  void Finish();
+  /// The program ends normally: nothing that is kept here is needed any more, but for these.
+  void Finish(const std::set<Id>& needed = {});
   /// What went wrong, once until it works again.
   std::optional<std::string> TakeProblem();
   /// True once after the folder had gone, with all texts that were in it, and was made anew.
@@ -50,11 +53,13 @@ class RecoveryStore {
     bool keep = false;
     KeptText text;
     std::string bytes;
+    std::optional<Id> after = {};  // the order that is to be carried out first
   };
 
   void MakeFolder();
   void UseFolder();
   bool WaitForOrders(std::unique_lock<std::mutex>& guard);
+  std::map<Id, Order>::iterator NextOrder();
   void Work();
   void Carry(Id id, const Order& order);
   void Note(Id id, Order order, std::string problem);

@@ -1,4 +1,6 @@
 // What the window does so that nothing is lost: backups, recovery, the documents of the last run.
+#include <sys/stat.h>
+
 #include <QLabel>
 #include <QStatusBar>
 #include <QTreeWidget>
@@ -154,6 +156,77 @@ TEST_F(Safekeeping, TheTextOfAFileThatIsGoneComesBackWithoutOne) {
   EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
   EXPECT_EQ(Run().Tabs().At(1).image, kRedDot);
   EXPECT_TRUE(Run().fakes.messages.shown.empty());
+}
+
+TEST_F(Safekeeping, TheTextOfAFileThatCannotBeOpenedComesBackWithoutOne) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("// mine\r\n");
+  KeepNow();
+  std::filesystem::remove(user_);
+  ASSERT_EQ(::mkfifo(user_.c_str(), 0600), 0);
+  Restart();
+  Run().Press<RecoveryOffer>("&Recover");
+  EXPECT_EQ(CurrentEditor(Run().Controls()).Text(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_EQ(Run().Tabs().At(Run().Tabs().Selected()).tag, kUntitled);
+  EXPECT_EQ(Run().Tabs().At(Run().Tabs().Selected()).image, kRedDot);
+  EXPECT_EQ(Run().fakes.messages.shown.size(), 1U) << "it is said why";
+  EXPECT_EQ(KeptTexts().size(), 1U);
+}
+
+TEST_F(Safekeeping, OfSeveralTextsOfOneFileTheNewestTakesItsDocument) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  Run().Editor(0).Type("old ");
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  Run().Controls().tbToolBar.Press("FileClose");
+  Run().window->OpenFiles({user_});
+  Run().Editor(1).Type("new ");
+  KeepNow();
+  ASSERT_EQ(KeptTexts().size(), 2U);
+  Restart();
+  Run().Press<RecoveryOffer>("&Recover");
+  std::map<std::string, std::string> shown;
+  for (int tab = 1; tab <= Run().Tabs().Count(); ++tab) {
+    shown[Run().Tabs().At(tab).tag] = Run().Editor(tab - 1).Text();
+  }
+  EXPECT_EQ(shown, (std::map<std::string, std::string>{{kUntitled, "old define A 1\r\n"},
+                                                       {user_, "new define A 1\r\n"}}));
+}
+
+// A save that no dialog came before takes the first document's path away; what is opened next goes
+// into its tab, and marks the last one as saved.
+TEST_F(Safekeeping, ATextThatIsWronglyTakenForSavedIsKeptBeyondANormalEnd) {
+  const std::string other = directory_.Put("other.con", "define O 1\r\n");
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  Run().SaveInPlace("");
+  ASSERT_EQ(Run().Tabs().At(1).tag, "");
+  Run().Tabs().Select(2);
+  Run().Editor(1).Type("precious ");
+  Run().window->OpenFiles({other});
+  ASSERT_EQ(Run().Tabs().At(2).image, kBlackDot);
+  KeepNow();
+  const std::vector kept{game_ + ": precious define G 1\r\n"};
+  EXPECT_EQ(KeptTexts(), kept);
+  CloseAndStartAgain();
+  EXPECT_EQ(KeptTexts(), kept);
+  EXPECT_TRUE(OfferVisible());
+}
+
+TEST_F(Safekeeping, ATextThatWasSavedAfterAllIsNotOffered) {
+  const std::string other = directory_.Put("other.con", "define O 1\r\n");
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  Run().SaveInPlace("");
+  Run().Tabs().Select(2);
+  Run().Editor(1).Type("precious ");
+  Run().window->OpenFiles({other});
+  Run().Tabs().Select(2);
+  Run().SaveInPlace(game_);
+  ASSERT_EQ(BytesOf(game_), "precious define G 1\r\n");
+  CloseAndStartAgain();
+  EXPECT_FALSE(OfferVisible());
+  EXPECT_TRUE(KeptTexts().empty());
 }
 
 TEST_F(Safekeeping, RecoveringTouchesNoDocumentWithChangesOfItsOwn) {

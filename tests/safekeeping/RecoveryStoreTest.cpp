@@ -370,6 +370,84 @@ TEST_F(Recovery, ATextThatCannotBeWrittenIsToldUntilItCan) {
   EXPECT_TRUE(store.Flush());
 }
 
+// Another document's text has moved to an editor whose text had the higher number.
+TEST_F(Recovery, ATextIsNotDroppedBeforeTheOneThatReplacesItIsThere) {
+  RecoveryStore store(folder_, std::chrono::milliseconds(20));
+  store.Keep(1, "/a", "text");
+  ASSERT_TRUE(store.Flush());
+  const std::string run = folder_ + "/" + Runs().at(0);
+  std::filesystem::create_directories(run + "/text-2/occupied");  // no file can take its place
+  store.Keep(2, "/a", "text");
+  store.DropReplaced(1, 2);
+  EXPECT_FALSE(store.Flush());
+  ::usleep(100'000);  // some more attempts
+  EXPECT_TRUE(std::filesystem::is_regular_file(run + "/text-1"));
+  std::filesystem::remove_all(run + "/text-2");
+  const auto replaced = [&] {
+    return std::filesystem::is_regular_file(run + "/text-2") &&
+           !std::filesystem::exists(run + "/text-1");
+  };
+  for (int i = 0; i < 500 && !replaced(); ++i) ::usleep(10'000);
+  EXPECT_TRUE(replaced());
+}
+
+TEST_F(Recovery, ATextMayBeReplacedSeveralTimesInARow) {
+  RecoveryStore store(folder_, std::chrono::milliseconds(20));
+  store.Keep(1, "/a", "text");
+  ASSERT_TRUE(store.Flush());
+  const std::string run = folder_ + "/" + Runs().at(0);
+  std::filesystem::create_directories(run + "/text-3/occupied");
+  store.Keep(2, "/a", "text");
+  store.DropReplaced(1, 2);
+  store.Keep(3, "/a", "text");
+  store.DropReplaced(2, 3);
+  EXPECT_FALSE(store.Flush());
+  EXPECT_TRUE(std::filesystem::is_regular_file(run + "/text-1") ||
+              std::filesystem::is_regular_file(run + "/text-2"));
+  std::filesystem::remove_all(run + "/text-3");
+  const auto replaced = [&] {
+    return std::filesystem::is_regular_file(run + "/text-3") &&
+           !std::filesystem::exists(run + "/text-1") && !std::filesystem::exists(run + "/text-2");
+  };
+  for (int i = 0; i < 500 && !replaced(); ++i) ::usleep(10'000);
+  EXPECT_TRUE(replaced());
+}
+
+TEST_F(Recovery, ANormalEndLeavesWhatIsStillNeeded) {
+  {
+    RecoveryStore store(folder_);
+    store.Keep(1, "/a", "needed");
+    store.Keep(2, "/b", "not needed");
+    store.Finish({1});
+  }
+  EXPECT_EQ(Offered(), std::vector<std::string>{"/a: needed"});
+}
+
+TEST_F(Recovery, AFolderThatAKilledStartLeftGoesOnceItIsOld) {
+  std::filesystem::create_directories(folder_ + "/.run-1-old");
+  std::filesystem::create_directories(folder_ + "/.run-2-young");
+  std::filesystem::create_directories(folder_ + "/.run-3-full/more");
+  const auto hoursAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(2);
+  std::filesystem::last_write_time(folder_ + "/.run-1-old", hoursAgo);
+  std::filesystem::last_write_time(folder_ + "/.run-3-full", hoursAgo);
+  EXPECT_TRUE(Offered().empty());
+  EXPECT_FALSE(std::filesystem::exists(folder_ + "/.run-1-old"));
+  EXPECT_TRUE(std::filesystem::exists(folder_ + "/.run-2-young"));
+  EXPECT_TRUE(std::filesystem::exists(folder_ + "/.run-3-full/more"));
+}
+
+TEST_F(Recovery, AProgramsFolderThatIsALinkIsToldAndNotFollowed) {
+  std::filesystem::create_directories(directory_ / "elsewhere");
+  std::filesystem::create_directories(directory_ / "state");
+  std::filesystem::create_directory_symlink(directory_ / "elsewhere",
+                                            directory_ / "state/ZanthMan");
+  RecoveryStore store(folder_);
+  store.Keep(1, "/a", "text");
+  EXPECT_FALSE(store.Flush());
+  EXPECT_TRUE(store.TakeProblem().has_value());
+  EXPECT_TRUE(std::filesystem::is_empty(directory_ / "elsewhere"));
+}
+
 TEST_F(Recovery, KeepingTenMegabytesTakesNoTimeOfTheCaller) {
   RecoveryStore store(folder_);
   std::string bytes(10 << 20, 'x');
