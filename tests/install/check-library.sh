@@ -39,7 +39,7 @@ say "Compiling each header alone"
 for header in "$prefix"/include/Tessel/*.h; do
   echo "#include <Tessel/$(basename "$header")>" >"$work/alone.cpp"
   # shellcheck disable=SC2046
-  g++ -std=c++17 -fPIC -Wall -Wextra -Wpedantic -Werror -fsyntax-only $(pkg-config --cflags tessel | sed 's|-I/usr|-isystem /usr|g') "$work/alone.cpp" ||
+  g++ -std=c++17 -fPIC -DQT_NO_KEYWORDS -Wall -Wextra -Wpedantic -Werror -fsyntax-only $(pkg-config --cflags tessel | sed 's|-I/usr|-isystem /usr|g') "$work/alone.cpp" ||
     fail "$(basename "$header") does not compile alone"
   grep -qE '#include "' "$header" && fail "$(basename "$header") includes what is not installed"
 done

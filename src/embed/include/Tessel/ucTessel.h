@@ -59,7 +59,7 @@ class TESSEL_EXPORT ucTessel : public QWidget {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
- public slots:
+ public Q_SLOTS:
   // --- Automation interface
   /// Accepts its arguments and does nothing: the control keeps its own version handling.
   void SetTesselVersion(QString& strVersion, QString& strDefault);
@@ -67,7 +67,7 @@ class TESSEL_EXPORT ucTessel : public QWidget {
   /// Converts the current document, a user file of version 1.3D, to 1.4/1.5.
   void Convert();
 
- signals:
+ Q_SIGNALS:
   // --- Automation interface
   /// A line for the host's status bar. Only the colouring has any.
   void SettingTextColor(const QString& StatusText);
