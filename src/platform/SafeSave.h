@@ -11,8 +11,9 @@ namespace tessel::posix {
 ///
 /// The bytes go to a new file beside the old one, are flushed and then take the old one's place,
 /// with its permissions and, where the system lets them, its owner, group, access control list and
-/// extended attributes: a crash at any moment leaves the old bytes or the new ones. Only where the directory forbids that, the file is written
-/// in place, with the room reserved first. A read-only file is refused.
+/// extended attributes: a crash at any moment leaves the old bytes or the new ones. Only where the
+/// directory forbids that, the file is written in place, with the room reserved first. A read-only
+/// file is refused.
 ///
 /// What a save that was killed has left in the same directory is taken away by a later one, after
 /// an hour at the earliest.

@@ -19,8 +19,8 @@ std::string DefaultStateFolder();
 class PrivateFolder {
  public:
   /// Makes the directory, and those on the way to it, where they are not there. One that belongs to
-  /// somebody else is refused, and so is a symbolic link in its place or in that of the folder around
-  /// it. Links further up are the user's own affair.
+  /// somebody else is refused, and so is a symbolic link in its place or in that of the folder
+  /// around it. Links further up are the user's own affair.
   explicit PrivateFolder(const std::string& path);
 
   /// Puts a whole file in place, flushed to the disk, for its owner's eyes alone. A crash leaves
