@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -18,6 +19,7 @@
 #include "faults/HostWorld.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
+#include "support/SystemCalls.h"
 #include "words/ScriptWords.h"
 
 namespace tessel::test {
@@ -59,11 +61,22 @@ void KillAtARandomMoment(Prepare prepare, Work work, std::chrono::microseconds m
 
 class KillTest : public testing::Test {
  protected:
-  /// Some are killed during the first save, some after dozens.
-  std::chrono::microseconds Moment() {
-    return std::chrono::microseconds(std::uniform_int_distribution<int>(0, 20'000)(random));
+  /// How long a flushed writing takes here decides when to kill.
+  void SetUp() override {
+    using namespace std::chrono;
+    const auto start = steady_clock::now();
+    for (int i = 0; i < 4; ++i) PosixFiles().Write(directory / "probe", std::string(100'000, 'x'));
+    span = std::max(span, 3 * duration_cast<microseconds>(steady_clock::now() - start));
+    std::filesystem::remove(directory / "probe");
   }
 
+  /// Some are killed during the first save, some after dozens.
+  std::chrono::microseconds Moment() {
+    return std::chrono::microseconds(
+        std::uniform_int_distribution<std::chrono::microseconds::rep>(0, span.count())(random));
+  }
+
+  std::chrono::microseconds span{20'000};
   TempDirectory directory;
   std::string store = directory / "settings/settings.db";
   std::mt19937 random{20'240};
@@ -195,6 +208,42 @@ TEST_F(KillTest, EveryTextThatASaveReplacedIsAmongTheBackups) {
   for (const auto& entry : std::filesystem::directory_iterator(state + "/backups")) {
     EXPECT_FALSE(entry.path().filename().string().starts_with('.')) << entry.path();
   }
+}
+
+// Where the folder takes no new file, a save writes into the old one, and a kill can tear it.
+TEST_F(KillTest, ATextThatASaveInPlaceTearsIsAmongTheBackups) {
+  const std::string old(300'000, 'o');
+  const std::string replacement(200'000, 'n');
+  const std::string path = directory.Put("fixed/user.con", old);
+  const std::string home = directory / "home";
+  std::filesystem::create_directory(home);
+  GiveToOrdinaryUser(path);
+  GiveToOrdinaryUser(home);
+  int torn = 0;
+  auto outcome = DisturbedChild::Outcome::kKilled;
+  for (int call = 1; outcome == DisturbedChild::Outcome::kKilled; ++call) {
+    ASSERT_EQ(::chmod((directory / "fixed").c_str(), 0755), 0);
+    directory.Put("fixed/user.con", old);
+    ASSERT_EQ(::chmod((directory / "fixed").c_str(), 0555), 0);
+    std::filesystem::remove_all(home + "/state");
+    const auto save = [&] {
+      HostFiles host(home + "/state");
+      host.files.Write(path, replacement);
+      return host.problems.empty();
+    };
+    outcome = DisturbedChild(save, BecomeOrdinaryUser).KillAt(call);
+    const std::string bytes = BytesOf(path);
+    if (bytes == old) continue;
+    if (bytes != replacement) ++torn;
+    ASSERT_EQ(AsOrdinaryUser([&] {
+                return BackedUp(home + "/state") == std::vector{old} ? "kept" : "not kept";
+              }),
+              "kept")
+        << "killed at call " << call;
+  }
+  ::chmod((directory / "fixed").c_str(), 0755);
+  EXPECT_EQ(outcome, DisturbedChild::Outcome::kSucceeded);
+  EXPECT_GE(torn, 1);
 }
 
 TEST_F(KillTest, EveryTextThatWasKeptForRecoveryIsOffered) {
