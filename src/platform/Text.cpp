@@ -129,14 +129,38 @@ std::string_view NumericPrefix(std::string_view text) {
   return text.substr(start, end - start);
 }
 
+namespace {
+
+/// What a number is that no double can hold: 0 or an infinity, by the power of ten of its first
+/// digit that is not 0.
+double BeyondDoubles(std::string_view number) {
+  const bool negative = number.starts_with('-');
+  const std::size_t end = std::min(number.find_first_of("eE"), number.size());
+  const std::size_t point = std::min(number.find('.'), end);
+  const std::size_t first = number.find_first_of("123456789");
+  double power = static_cast<double>(point) - static_cast<double>(first);
+  std::string_view exponent = number.substr(std::min(end + 1, number.size()));
+  if (exponent.starts_with('+')) exponent.remove_prefix(1);
+  long long written = 0;
+  const auto parsed = std::from_chars(exponent.data(), exponent.data() + exponent.size(), written);
+  constexpr double kBeyondAnyText = 1e30;
+  if (parsed.ec == std::errc::result_out_of_range) {
+    power = exponent.starts_with('-') ? -kBeyondAnyText : kBeyondAnyText;
+  } else {
+    power += static_cast<double>(written);
+  }
+  if (power < 0) return 0;
+  return negative ? -HUGE_VAL : HUGE_VAL;
+}
+
+}  // namespace
+
 double NumericValue(std::string_view text) {
   std::string_view number = NumericPrefix(text);
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
   const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (parsed.ec != std::errc::result_out_of_range) return value;
-  const bool tiny = number.find("e-") != number.npos || number.find("E-") != number.npos;
-  return tiny ? 0 : number.starts_with('-') ? -HUGE_VAL : HUGE_VAL;
+  return parsed.ec == std::errc::result_out_of_range ? BeyondDoubles(number) : value;
 }
 
 }  // namespace tessel

@@ -1,5 +1,6 @@
 #include "randomizer/Randomizer.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -116,7 +117,9 @@ void Randomizer::WalkList(ListBox& list, ComboBox& valueBox, const std::string& 
     if (!ToBeDrawn(itemPrefix + list.List(i), range)) continue;
     const float width = static_cast<float>(range.upper) - static_cast<float>(range.lower) + 1.0F;
     const float drawn = width * services_.random.Next() + static_cast<float>(range.lower);
-    valueBox.SetText(std::to_string(static_cast<int>(std::floor(drawn))));
+    // Single precision may round a number close to 1 up, beyond the range.
+    const int value = std::min(static_cast<int>(std::floor(drawn)), int{range.upper});
+    valueBox.SetText(std::to_string(value));
   }
 }
 

@@ -105,6 +105,19 @@ TEST(NumericValue, IsTheValueOfThePrefix) {
   EXPECT_EQ(NumericValue("1e-999"), 0);
 }
 
+TEST(NumericValue, IsNothingOrEndlessBeyondWhatDoublesHold) {
+  const std::string zeros(400, '0');
+  EXPECT_EQ(NumericValue("0." + zeros + "1"), 0);
+  EXPECT_EQ(NumericValue("-." + zeros + "1"), 0);
+  EXPECT_EQ(NumericValue("1" + zeros), HUGE_VAL);
+  EXPECT_EQ(NumericValue("1" + zeros + "e-1"), HUGE_VAL);
+  EXPECT_EQ(NumericValue("-1" + zeros + ".5E-1"), -HUGE_VAL);
+  EXPECT_EQ(NumericValue("0." + zeros + "1e+1"), 0);
+  EXPECT_EQ(NumericValue("1e99999999999999999999"), HUGE_VAL);
+  EXPECT_EQ(NumericValue("1e-99999999999999999999"), 0);
+  EXPECT_EQ(NumericValue("0." + zeros + "1e401"), 1) << "it is no such number";
+}
+
 // --- Paths
 
 TEST(Paths, NeedASeparatorUnlessOneEndsThem) {

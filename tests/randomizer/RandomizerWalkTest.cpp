@@ -236,6 +236,20 @@ TEST_F(RandomizerWalk, ReachesBothEndsOfTheRange) {
   EXPECT_EQ(Editor().Text(), PlayerFile(values));
 }
 
+TEST_F(RandomizerWalk, ComputesInSinglePrecision) {
+  Editor().SetText(PlayerFile(Ten("1")));
+  services_.random.numbers.assign(10, 16520549.0F / 16777216.0F);
+  Randomize("Player", {"10000", "20000"});
+  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("19848")));  // double precision: 19847
+}
+
+TEST_F(RandomizerWalk, NeverLeavesTheRangeByRounding) {
+  Editor().SetText(PlayerFile(Ten("1")));
+  services_.random.numbers.assign(10, 16767394.0F / 16777216.0F);  // 20000.999 becomes 20001
+  Randomize("Player", {"20000", "20000"});
+  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("20000")));
+}
+
 RC_GTEST_FIXTURE_PROP(RandomizerWalk, LeavesEveryByteOutsideTheValues, ()) {
   const auto blanks = [] {
     return std::string(static_cast<std::size_t>(*rc::gen::inRange(1, 4)), ' ');

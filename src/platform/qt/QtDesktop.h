@@ -4,10 +4,10 @@
 #include <string>
 
 #include "platform/LinearCongruentialRandom.h"
-#include "platform/PosixFiles.h"
 #include "platform/Services.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtFiles.h"
 #include "platform/qt/QtMessageBox.h"
 #include "platform/qt/QtModalForms.h"
 #include "platform/qt/QtScreen.h"
@@ -23,7 +23,7 @@ struct QtDesktop {
   QtModalForms forms;
   QtClipboard clipboard;
   QtScreenPointer pointer;
-  PosixFiles files;
+  QtFiles files;
   LinearCongruentialRandom random;
   WidgetMap widgets;  ///< for TesselWidget, which enters its widgets, and for the focus
   QtFocus focus{widgets};
