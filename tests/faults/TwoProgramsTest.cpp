@@ -148,5 +148,39 @@ TEST(TwoPrograms, AreNeverOfferedEachOthersTextsWhileTheyLive) {
   EXPECT_TRUE(living.Flush());
 }
 
+TEST(TwoPrograms, DoNotWaitForOneThatHangs) {
+  const TempDirectory directory;
+  const std::string store = directory / "settings.db";
+  const std::string state = directory / "state/ZanthMan";
+  const auto work = [&](const std::string& name) {
+    const std::string path = directory.Put(name + ".con", "old");
+    HostedProgram program(store, state);
+    RecoveryStore recovery(state + "/recovery");
+    program.Open(path);
+    program.Retype("new");
+    recovery.Keep(1, path, "new");
+    AddWord(program, name);
+    program.SaveAs(path);
+    const bool kept = recovery.Flush();
+    if (name == "hanging") ::raise(SIGSTOP);
+    return program.EverythingTold() + (kept ? "saved and kept" : "not kept");
+  };
+  const pid_t hanging = ::fork();
+  if (hanging == 0) ::_exit(work("hanging").size() % 256);
+  int status = 0;
+  ASSERT_EQ(::waitpid(hanging, &status, WUNTRACED), hanging);
+  ASSERT_TRUE(WIFSTOPPED(status));
+
+  ::alarm(20);
+  EXPECT_EQ(work("other"), "saved and kept");
+  ::alarm(0);
+  EXPECT_EQ(BytesOf(directory / "other.con"), "new");
+  EXPECT_EQ(BackedUp(state).size(), 2U);
+  EXPECT_THAT(Offered(state), IsEmpty()) << "the hanging one's text is its own still";
+  ::kill(hanging, SIGKILL);
+  ::waitpid(hanging, nullptr, 0);
+  EXPECT_THAT(Offered(state), IsEmpty()) << "it was saved";
+}
+
 }  // namespace
 }  // namespace tessel::test

@@ -333,18 +333,6 @@ TEST_F(Recovery, ANormalEndThatCannotClearUpLeavesTheTexts) {
             "/a: text");
 }
 
-TEST_F(Recovery, AProgramThatHangsKeepsNobodyWaiting) {
-  RecoveryStore hanging(folder_);
-  const PrivateFolder all(folder_);
-  const posix::Descriptor lock(all.Lock(".lock"));
-  ::alarm(20);
-  RecoveryStore store(folder_);
-  store.Keep(1, "/a", "text");
-  EXPECT_TRUE(store.Flush());
-  EXPECT_TRUE(Offered().empty());
-  ::alarm(0);
-}
-
 TEST_F(Recovery, AFolderThatCannotBeUsedIsToldOnce) {
   directory_.Put("state", "a file where the folder should be");
   RecoveryStore store(folder_);
