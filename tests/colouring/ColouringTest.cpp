@@ -216,6 +216,19 @@ TEST_F(Colouring, TellsTheHostBeforeAndAfterThePass) {
   EXPECT_THAT(colours, ElementsAre("......", "rrrrrr"));
 }
 
+TEST_F(Colouring, IsInItsModeBeforeTheFirstLineAndInItsPlaceBeforeTheLast) {
+  editor_.SetText("define");
+  editor_.SetLeft(120);
+  editor_.SetSelStart(3);
+  std::vector<std::string> states;
+  ColorizeDocument(editor_, [&](const std::string&) {
+    states.push_back(editor_.Tag() + (editor_.Visible() ? " visible " : " hidden ") +
+                     std::to_string(static_cast<int>(editor_.Left())) + " " +
+                     std::to_string(editor_.SelStart()));
+  });
+  EXPECT_THAT(states, ElementsAre("COLOR visible 120 3", "COLOR visible 0 0"));
+}
+
 TEST_F(Colouring, WorksOutOfSightAndPutsTheEditorBack) {
   editor_.SetText("define // x");
   editor_.SetLeft(120);

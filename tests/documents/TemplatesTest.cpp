@@ -90,6 +90,13 @@ TEST_F(NewFromTemplate, FillsTheStartTabColoured) {
   EXPECT_TRUE(C().tbToolBar.Pressed("Colorize"));
 }
 
+TEST_F(NewFromTemplate, LeavesTheColourModeThatTheStartTabHasAlready) {
+  Current().SetTag("COLOR");
+  New("13DU");
+  EXPECT_EQ(Current().Tag(), "COLOR");
+  EXPECT_EQ(Current().Store().ColourAt(0), kBlack) << "it was not coloured for this text";
+}
+
 TEST_F(NewFromTemplate, ColoursTheDocumentThatWasCurrentAndSetsNoColourMode) {
   Open("/a.con", "define A 1");
   Editor(0).SetTag("");

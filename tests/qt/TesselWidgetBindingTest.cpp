@@ -1,5 +1,7 @@
 // Property in, gesture out: each kind of view, both ways.
 #include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -7,6 +9,7 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QToolButton>
+#include <set>
 
 #include "platform/qt/ToolbarView.h"
 #include "qt/TesselWidgetFixture.h"
@@ -273,6 +276,26 @@ TEST_F(TesselWidgetTest, ThePopupMenuShowsWhatCanBeChosenAndReportsTheChoice) {
   menu.findChild<QAction*>("mnuRtbPopupEditSel")->trigger();
   EXPECT_EQ(chosen, "mnuRtbPopupEditSel");
   menu.hide();
+}
+
+TEST_F(TesselWidgetTest, EveryPageHasItsCaptions) {
+  std::multiset<std::string> shown;
+  for (const auto* label : widget_.findChildren<QLabel*>()) {
+    shown.insert(QString(label->text()).remove('&').toStdString());
+  }
+  for (const auto* frame : widget_.findChildren<QGroupBox*>()) {
+    shown.insert(QString(frame->title()).remove('&').toStdString());
+  }
+  const std::vector<std::pair<std::string, std::size_t>> wanted{{"Select Item:", 3},
+                                                                {"Select Category:", 1},
+                                                                {"Select Weapon:", 1},
+                                                                {"Current Value:", 4},
+                                                                {"Cameras Destructable:", 1},
+                                                                {"Freeze Hurt Owner:", 1},
+                                                                {"Episode/Level", 1},
+                                                                {"Map file", 1},
+                                                                {"Title", 1}};
+  for (const auto& [caption, count] : wanted) EXPECT_EQ(shown.count(caption), count) << caption;
 }
 
 }  // namespace

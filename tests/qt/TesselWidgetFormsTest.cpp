@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -38,6 +39,40 @@ TEST_F(TesselWidgetFormsTest, ADialogOpensAndClosesWithItsForm) {
     form->Hide();
     EXPECT_FALSE(dialog->isVisible());
   }
+}
+
+TEST_F(TesselWidgetFormsTest, ADialogOpensInTheMiddleOfTheScreen) {
+  widget_.move(0, 0);
+  for (tessel::Form* form : widget_.Tessel().Forms()) {
+    const QWidget* dialog = widget_.DialogFor(*form);
+    form->Show();
+    const QRect place(dialog->pos(), dialog->size());
+    EXPECT_EQ(place.center(), widget_.screen()->availableGeometry().center()) << form->Name();
+    form->Hide();
+  }
+}
+
+TEST_F(TesselWidgetFormsTest, TheWordListEditorOpensWithTheCaretInTheParameters) {
+  const Services s = services_.Get();
+  WidgetMap widgets;
+  QtFocus mover(widgets);
+  const Services services{s.messages, s.fileDialogs, s.forms,        s.clipboard,
+                          s.settings, s.pointer,     s.files,        s.random,
+                          mover,      s.loop,        s.hostDirectory};
+  TesselWidget widget(services, widgets);
+  widget.show();
+  HostedControls& controls = widget.Tessel().Controls();
+  controls.tbsCon.Select(kFunctionsPage + 1);
+  controls.txtSearch.Type("move");
+  const QWidget* focus = nullptr;
+  const QWidget* parameters = nullptr;
+  services_.forms.scripts.push_back([&](tessel::Form& form) {
+    focus = widget.DialogFor(form)->focusWidget();
+    parameters = widget.WidgetFor(dynamic_cast<frmAddParam&>(form).txtParams);
+  });
+  controls.cmdAddword.Press();
+  ASSERT_NE(parameters, nullptr);
+  EXPECT_EQ(focus, parameters);
 }
 
 TEST_F(TesselWidgetFormsTest, EscapeAndTheCloseButtonPressCancel) {

@@ -160,6 +160,16 @@ TEST_F(Level, IsTheFirstLineThatBeginsAsTheEntrySays) {
   EXPECT_EQ(C().txtMap.Text(), "TEN.map");
 }
 
+// Only a blank ends the map.
+TEST_F(Level, WhoseLineEndsBehindItsMapRunsOnIntoTheNext) {
+  for (const std::string brk : {"\r\n", "\n"}) {
+    Listed("[]definelevelname 0 7 A.map" + brk + "definelevelname 0 8 B.map 01:00 02:00 T" + brk);
+    Choose(0);
+    EXPECT_EQ(C().txtMap.Text(), "A.map" + brk + "definelevelname");
+    EXPECT_EQ(C().txtTitle.Text(), "T");
+  }
+}
+
 TEST_F(Level, ThatIsNotFoundLeavesTheBoxes) {
   Listed(kTwoLevels);
   Choose(0);

@@ -1,4 +1,5 @@
 // Typing in the value boxes, choosing presets, and the YES/NO options.
+#include "support/EditorTrace.h"
 #include "support/TesselTest.h"
 
 namespace tessel::test {
@@ -121,6 +122,15 @@ TEST_F(YesNoOptions, WriteTheirAnswerAndSelectIt) {
   EXPECT_EQ(Document(), "define CAMERASDESTRUCTABLE NO // a\r\ndefine FREEZERHURTOWNER [YES]\r\n");
   EXPECT_FALSE(Current().HideSelection());
   EXPECT_EQ(TabOf(0).image, kRedDot);
+}
+
+TEST_F(YesNoOptions, SearchWhileTheSelectionIsHidden) {
+  SetDocument("[]define CAMERASDESTRUCTABLE YES");
+  Current().SetHideSelection(false);
+  EditorTrace trace(Current(), world_.pointer);
+  C().optCamNo.Press();
+  EXPECT_EQ(trace.Take().at(0), "selection hidden");
+  EXPECT_FALSE(Current().HideSelection());
 }
 
 TEST_F(YesNoOptions, EnableTheValueBoxOfTheMiscPage) {

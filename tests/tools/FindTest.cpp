@@ -211,6 +211,19 @@ TEST_F(Find, KeepsTheLastPositionWhenTheDocumentChanges) {
   EXPECT_EQ(Boxes(), (std::vector{NotFound("cat", MessageIcon::kNone)}));
 }
 
+TEST_F(Find, GoesOnBehindTheLastPositionInAnotherDocument) {
+  services_.files.files["/c/a.con"] = "cat dog cat";
+  services_.files.files["/c/b.con"] = "cat 456789cat";
+  control_.OpenFile("/c/a.con");
+  FindText("cat");
+  FindNext();
+  ASSERT_EQ(State().FindPos, 8);
+  control_.OpenFile("/c/b.con");
+  FindNext();
+  EXPECT_EQ(State().FindPos, 10);
+  EXPECT_EQ(Shown(), "cat 456789[cat]");
+}
+
 TEST_F(Find, TakesTheTextByteForByte) {
   Given("x \xC4/* [y] */");
   FindText("\xE4/*");

@@ -145,6 +145,25 @@ TEST_F(EditCommands, CutOfNothingClearsTheClipboardAndKeepsTheText) {
   }
 }
 
+TEST_F(EditCommands, CopyOfNothingClearsTheClipboard) {
+  for (const bool byToolbar : {false, true}) {
+    services_.clipboard.SetText("old");
+    Given("a [] c");
+    byToolbar ? Press("Copy") : Choose("mnuRtbPopupEditCopy");
+    EXPECT_EQ(Shown(), "a [] c");
+    EXPECT_EQ(services_.clipboard.GetText(), "");
+  }
+}
+
+TEST_F(EditCommands, PasteOfNothingDeletesTheSelection) {
+  for (const bool byToolbar : {false, true}) {
+    services_.clipboard.SetText("");
+    Given("a [b] c");
+    byToolbar ? Press("Paste") : Choose("mnuRtbPopupEditPaste");
+    EXPECT_EQ(Shown(), "a [] c");
+  }
+}
+
 TEST_F(EditCommands, PasteReplacesTheSelection) {
   for (const bool byToolbar : {false, true}) {
     services_.clipboard.SetText("x\r\ny");

@@ -48,6 +48,10 @@ class WordEditor : public test::ControlFixture {
 };
 
 TEST_F(WordEditor, OpensWithTheSearchTextAndTheFocusInTheParameters) {
+  auto* shown = dynamic_cast<frmAddParam*>(control_.Forms().at(1));
+  ASSERT_NE(shown, nullptr);
+  int selections = 0;
+  const auto counting = shown->txtParams.SelectAllRequested.Connect([&] { ++selections; });
   Open("mo", [this](frmAddParam& form) {
     EXPECT_EQ(form.Caption(), "Edit or add words/parameters");
     EXPECT_THAT(form.lstWords.List(), ElementsAre("cactor", "move"));
@@ -57,6 +61,7 @@ TEST_F(WordEditor, OpensWithTheSearchTextAndTheFocusInTheParameters) {
     ASSERT_FALSE(services_.focus.moves.empty());
     EXPECT_EQ(services_.focus.moves.back().first, "txtParams");
   });
+  EXPECT_EQ(selections, 1);
 }
 
 TEST_F(WordEditor, ShowsAClickedWord) {
@@ -170,6 +175,20 @@ TEST_F(WordEditor, DeletesTheListedWordWhateverWasTypedMeanwhile) {
   });
   EXPECT_EQ(Boxes().at(0).text, "Delete move from the list?");
   EXPECT_THAT(Controls().lstWords.List(), ElementsAre("cactor"));
+}
+
+// A list that was read again would have neither.
+TEST_F(WordEditor, TakesADeletedWordAloneFromItsList) {
+  Store("odd", "no bracket");
+  control_.Initialize();
+  Answer(MessageAnswer::kYes);
+  Open("x", [](frmAddParam& form) {
+    EXPECT_THAT(form.lstWords.List(), ElementsAre("cactor", "move", "odd", "no bracket"));
+    form.lstWords.Pick(2);
+    form.cmdDelete.Press();
+    EXPECT_THAT(form.lstWords.List(), ElementsAre("cactor", "move", "no bracket"));
+  });
+  EXPECT_THAT(Controls().lstWords.List(), ElementsAre("cactor", "move"));
 }
 
 TEST_F(WordEditor, KeepsAWordThatIsNotToBeDeletedAfterAll) {

@@ -138,6 +138,21 @@ TEST_F(WordPanel, SearchesAgainWhenTheListIsReadAgain) {
   EXPECT_EQ(Params(), "[number]");
 }
 
+// Without an empty text in between, the search would go on from its last hit.
+TEST_F(WordPanel, StartsTheSearchAnewWhenTheListIsReadAgain) {
+  Store("bb", "[second]");
+  control_.Initialize();
+  Search("bb");
+  ASSERT_EQ(Selected(), 3);
+  services_.settings.DeleteSetting("ConWords", "NAMEbb");
+  services_.settings.DeleteSetting("ConWords", "PARAMSbb");
+  Store("cc", "[last]");
+  Controls().cmdAddword.Press();
+  EXPECT_THAT(Controls().lstWords.List(), ElementsAre("cactor", "move", "movie", "cc"));
+  EXPECT_EQ(Selected(), 0);
+  EXPECT_EQ(Params(), "[new actor]");
+}
+
 TEST_F(WordPanel, StopsAtAnEmptySectionBeforeSearchingAgain) {
   Search("move");
   for (const auto& [key, value] : services_.settings.GetAllSettings("ConWords")) {
@@ -171,6 +186,33 @@ TEST_F(WordPanel, SearchesAnEmptyListWithoutComplaint) {
   EXPECT_EQ(Selected(), kNoSelection);
   EXPECT_EQ(Params(), "");
   EXPECT_TRUE(CanAdd());
+}
+
+/// A store that can be read until it is damaged.
+class VanishingStore : public MemorySettingsStore {
+ public:
+  std::vector<Entry> GetAllSettings(const std::string& section) override {
+    if (gone) throw RuntimeError("Cannot read it.");
+    return MemorySettingsStore::GetAllSettings(section);
+  }
+  bool gone = false;
+};
+
+TEST(WordPanelOnADamagedStore, SearchesAgainInAnEmptyList) {
+  test::FakeServices fakes;
+  VanishingStore settings;
+  settings.SaveSetting("ConWords", "NAMEmove", "move");
+  settings.SaveSetting("ConWords", "PARAMSmove", "[moveflags]");
+  const Services s = fakes.Get();
+  ucTessel control({s.messages, s.fileDialogs, s.forms, s.clipboard, settings, s.pointer, s.files,
+                    s.random, s.focus, s.loop, s.hostDirectory});
+  control.Initialize();
+  control.Controls().txtSearch.Type("move");
+  ASSERT_EQ(control.Controls().lblParams.Caption(), "[moveflags]");
+  fakes.forms.scripts.push_back([&](Form&) { settings.gone = true; });
+  control.Controls().cmdAddword.Press();
+  EXPECT_TRUE(control.Controls().lstWords.List().empty());
+  EXPECT_EQ(control.Controls().lblParams.Caption(), "");
 }
 
 /// A store in which one entry cannot be read.
