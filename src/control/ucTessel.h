@@ -48,6 +48,8 @@ class ucTessel {
   Event<const std::string&> SettingTextColor;
 
   // --- For the program that hosts the control
+  // A walk of the randomizer lets timers run in between: nothing here that opens, closes, loads or
+  // converts is to be called while Running() is true.
   HostedControls& Controls() { return controls_; }
   const HostedControls& Controls() const { return controls_; }
   /// The modal forms, for views and by name.

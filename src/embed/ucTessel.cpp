@@ -54,13 +54,17 @@ ucTessel::~ucTessel() = default;
 tessel::TesselWidget& ucTessel::Inside() const { return control_->Widget(); }
 
 void ucTessel::OpenFile(const QString& path) {
+  if (Running()) return;
   // The control keeps the path: it has to hold when the working directory is another one.
   const QString whole = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
   Inside().Tessel().OpenFile(PathOf(whole));
 }
 
-void ucTessel::ReloadDocument() { Inside().Tessel().ReloadDocument(); }
-bool ucTessel::CloseAll() { return Inside().Tessel().CloseAll(); }
+void ucTessel::ReloadDocument() {
+  if (!Running()) Inside().Tessel().ReloadDocument();
+}
+
+bool ucTessel::CloseAll() { return !Running() && Inside().Tessel().CloseAll(); }
 bool ucTessel::Running() const { return Inside().Tessel().Running(); }
 
 QString ucTessel::DocumentPath() const {
@@ -83,7 +87,9 @@ void ucTessel::SetTesselVersion(QString& strVersion) {
   SetTesselVersion(strVersion, none);
 }
 
-void ucTessel::Convert() { Inside().Tessel().Convert(); }
+void ucTessel::Convert() {
+  if (!Running()) Inside().Tessel().Convert();
+}
 
 // The control itself has nothing to type into.
 void ucTessel::focusInEvent(QFocusEvent*) {

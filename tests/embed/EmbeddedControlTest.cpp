@@ -84,6 +84,26 @@ TEST_F(EmbeddedControlTest, OpensAFileAndTellsItsColouring) {
   EXPECT_FALSE(status.first().first().toString().isEmpty());
 }
 
+TEST_F(EmbeddedControlTest, DoesNothingElseWhileACommandIsOnItsWay) {
+  const std::string path = folder_.Put("User.con", BytesOf(kOldUserFile));
+  const std::string other = folder_.Put("other.con", "define B 1");
+  ucTessel control;
+  int calls = 0;
+  QObject::connect(&control, &ucTessel::SettingTextColor, &control, [&] {
+    ++calls;
+    EXPECT_TRUE(control.Running());
+    control.OpenFile(QString::fromStdString(other));
+    control.ReloadDocument();
+    control.Convert();
+    EXPECT_FALSE(control.CloseAll());
+  });
+  control.OpenFile(QString::fromStdString(path));
+  EXPECT_GE(calls, 1);
+  EXPECT_FALSE(control.Running());
+  EXPECT_EQ(control.DocumentPath().toStdString(), path);
+  EXPECT_FALSE(control.DocumentModified());
+}
+
 TEST_F(EmbeddedControlTest, KeepsWholePathsOfRelativeOnes) {
   const std::string path = folder_.Put("maps/User.con", "// mine\r\n");
   const QString before = QDir::currentPath();

@@ -14,7 +14,7 @@
 namespace tessel::test {
 namespace {
 
-constexpr int kPatience = 5000;  // milliseconds
+constexpr int kPatience = 30'000;  // milliseconds
 
 class ChangedOutside : public testing::Test {
  protected:

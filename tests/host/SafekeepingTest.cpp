@@ -10,11 +10,16 @@
 #include "host/BackupsDialog.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
+#include "host/Session.h"
 
 namespace tessel::test {
 namespace {
 
-constexpr int kTwoSeconds = 2000;
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr milliseconds kTwoSeconds{2000};
+constexpr int kPatience = 30'000;
 
 class Safekeeping : public HostTest {
  protected:
@@ -31,18 +36,27 @@ class Safekeeping : public HostTest {
     std::vector<std::string> texts;
     const std::string folder = State() + "/recovery";
     if (!std::filesystem::exists(folder)) return texts;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-      const std::string name = entry.path().filename();
-      if (!name.starts_with("text-")) continue;
-      const PrivateFolder run(entry.path().parent_path());
-      const KeptBytes text = ReadKeptText(run, name);
-      texts.push_back(text.path + ": " + text.bytes);
+    try {
+      for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        const std::string name = entry.path().filename();
+        if (!name.starts_with("text-")) continue;
+        const PrivateFolder run(entry.path().parent_path());
+        const KeptBytes text = ReadKeptText(run, name);
+        texts.push_back(text.path + ": " + text.bytes);
+      }
+    } catch (const std::runtime_error&) {
+      return {"one of them went meanwhile"};
     }
     std::ranges::sort(texts);
     return texts;
   }
   bool KeptBecomes(const std::vector<std::string>& wanted) {
-    return QTest::qWaitFor([&] { return KeptTexts() == wanted; }, kTwoSeconds);
+    return QTest::qWaitFor([&] { return KeptTexts() == wanted; }, kPatience);
+  }
+  Clock::duration DurationOfAFlushedWriting() {
+    const auto start = Clock::now();
+    PosixFiles().Write(directory_ / "probe", "x");
+    return 2 * (Clock::now() - start);  // its folder and it
   }
   BackupsDialog* OpenBackups() {
     Run().MenuItem("&Backups...")->trigger();
@@ -56,12 +70,17 @@ class Safekeeping : public HostTest {
 // --- Recovery
 
 TEST_F(Safekeeping, AChangeIsKeptWithinTwoSecondsOfTheFirstOneUnderSteadyTyping) {
+  constexpr milliseconds kPause{20};
   Run().window->OpenFiles({user_});
-  const auto start = std::chrono::steady_clock::now();
+  // A machine that is slow, or busy with something else, makes everything late.
+  Clock::duration late = DurationOfAFlushedWriting();
+  const auto start = Clock::now();
   while (KeptTexts().empty()) {
-    ASSERT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(kTwoSeconds));
+    const auto before = Clock::now();
+    ASSERT_LT(before - start - late, kTwoSeconds);
     Run().Editor(0).Type("x");
-    QTest::qWait(20);
+    QTest::qWait(kPause.count());
+    late += Clock::now() - before - kPause;
   }
 }
 
@@ -360,7 +379,8 @@ TEST_F(Safekeeping, DocumentsAreReopenedWithTheCurrentOneInFront) {
 TEST_F(Safekeeping, DocumentsAreReopenedAfterAKillToo) {
   Run().MenuItem("&Reopen Documents at Start")->trigger();
   Run().window->OpenFiles({user_});
-  QTest::qWait(1300);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return RememberedDocuments().paths == std::vector{user_}; },
+                              kPatience));
   Restart();
   EXPECT_EQ(Run().Tabs().At(1).tag, user_);
 }

@@ -231,7 +231,7 @@ TEST_F(Window, KeepsAllTextsAgainWhenTheFolderVanishes) {
             std::filesystem::exists(State() + "/recovery") ? TheRunsFolder() : "";
         return std::filesystem::exists(run + "/text-1") && std::filesystem::exists(run + "/text-2");
       },
-      8000));
+      30'000));
 }
 
 TEST_F(Window, KeepsTheLastTextsThatWereDroppedAndNoMoreThanTwenty) {

@@ -38,13 +38,16 @@ class TESSEL_EXPORT ucTessel : public QWidget {
   explicit ucTessel(const Options& options, QWidget* parent = nullptr);
   ~ucTessel() override;
 
+  // While a command is on its way (Running), the calls that open, load, close or convert do
+  // nothing: a timer or a slot may come in between its steps.
+
   /// Opens a file as the list of recent files does; an empty path shows the open dialog. It is
   /// absolute or relative to the working directory.
   void OpenFile(const QString& path);
   /// Takes the current document's text from its file again: for a host that sees it changed.
   void ReloadDocument();
   /// Asks for every modified document, then closes all. False, with nothing closed, when the user
-  /// cancelled one: a window that is closing stays open then.
+  /// cancelled one or a command is on its way: a window that is closing stays open then.
   bool CloseAll();
 
   /// True while a command is on its way: close no window now. (A modal dialog of the control is no
