@@ -31,7 +31,7 @@ xdotool key ctrl+Home
 xdotool type --delay 20 '// every letter of it '
 wait_for modified || fail "the window does not show the change: $(shows)"
 sleep 2
-kept || fail "nothing was kept within two seconds"
+wait_for kept || fail "nothing was kept"
 kill -9 "$pid"
 wait "$pid" 2>/dev/null || true
 cmp -s "$file" "$data/zmuserp.dat" || fail "the file on disk has changed"

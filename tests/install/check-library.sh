@@ -30,6 +30,7 @@ grep -q "SONAME.*\[$soname\]" "$work/dynamic" || fail "its SONAME is not $soname
 grep -Eq 'RPATH|RUNPATH' "$work/dynamic" && fail "it names a directory of the build"
 # Every name that can be linked to is one of the public classes.
 nm -DC --defined-only "$library" | awk '$2 ~ /^[A-Z]$/ && $2 != "A" { $1 = $2 = ""; print }' >"$work/names"
+nm -D "$library" | grep -w "A TESSEL_${version%.*}" >"$work/node" || fail "its symbols are not those of version ${version%.*}"
 grep -q ' ucTessel::Convert()' "$work/names" || fail "ucTessel::Convert() is not public"
 if grep -vE '^ +((typeinfo|typeinfo name|vtable|non-virtual thunk) (for|to) )?(ucTessel|TesselAutomation)(::|@@|$)' "$work/names"; then
   fail "these names are public too"
