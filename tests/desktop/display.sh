@@ -1,5 +1,4 @@
-# A display and a home of the test's own, gone with it. Source it: . display.sh FIRST
-# FIRST is the number of the first display to try: tests that run at the same time name others, 20 apart.
+# A display and a home of the test's own, gone with it. Source it: . display.sh
 
 work=$(mktemp -d)
 cleanup() {
@@ -9,14 +8,14 @@ cleanup() {
 }
 trap cleanup EXIT
 
-display=
-for try in $(seq "$1" $(($1 + 19))); do
-  [ -e "/tmp/.X11-unix/X$try" ] || { display=:$try; break; }
-done
-Xvfb "$display" -screen 0 1100x820x24 -nolisten tcp >/dev/null 2>&1 &
+# The server takes a number that is free, and writes it down once it can be used. It does not start anew
+# when the last program leaves: the next one might come too early.
+Xvfb -displayfd 1 -noreset -screen 0 1100x820x24 -nolisten tcp >"$work/display" 2>"$work/display-errors" &
+for _ in $(seq 600); do [ -s "$work/display" ] && break; sleep 0.05; done
+[ -s "$work/display" ] || { echo "there is no display: $(cat "$work/display-errors")" >&2; exit 1; }
+display=:$(cat "$work/display")
 export DISPLAY=$display QT_QPA_PLATFORM=xcb HOME=$work XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
 export XDG_RUNTIME_DIR=$work ZANTHMAN_STORE=$work/settings.db QT_SCALE_FACTOR=1 QT_FONT_DPI=96
-for _ in $(seq 50); do xdotool getdisplaygeometry >/dev/null 2>&1 && break; sleep 0.1; done
 
 # Waits for the program's window and puts it into the corner.
 find_window() {

@@ -7,7 +7,7 @@
 set -euo pipefail
 program=$1 data=$2
 
-. "$(dirname "$0")/display.sh" 110
+. "$(dirname "$0")/display.sh"
 
 file=$work/User.con
 cp "$data/zmuserp.dat" "$file"

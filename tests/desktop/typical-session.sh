@@ -7,7 +7,7 @@
 set -euo pipefail
 program=$1 data=$2 picture=${3-}
 
-. "$(dirname "$0")/display.sh" 90
+. "$(dirname "$0")/display.sh"
 
 cp "$data/zmuserp.dat" "$work/User.con"
 "$program" --light --size 1000x760 --host-dir "$data" 2>"$work/errors" &

@@ -58,8 +58,18 @@ class FileDialogTest : public testing::Test {
       QMetaObject::invokeMethod(&dialog, "accept");
     });
   }
+  /// Answers the next question, and goes on.
+  void Answer(
+      QMessageBox::StandardButton answer, const std::function<void()>& goOn = [] {}) {
+    Once<QMessageBox>([this, answer, goOn](QMessageBox& question) {
+      asked = question.text();
+      goOn();
+      question.button(answer)->click();
+    });
+  }
 
   TempDirectory directory;
+  QString asked;
   QObject untilTheEnd;
 };
 
@@ -103,12 +113,8 @@ TEST_F(FileDialogTest, GivesANameWithoutAnExtensionTheOneOfTheFilter) {
 
 TEST_F(FileDialogTest, AsksBeforeAFileIsReplaced) {
   directory.Put("User.con", "");
-  QString asked;
   Choose("User.con");
-  Once<QMessageBox>([&](QMessageBox& question) {
-    asked = question.text();
-    question.button(QMessageBox::Yes)->click();
-  });
+  Answer(QMessageBox::Yes);
   EXPECT_THAT(Save(), Optional(ElementsAre(directory / "User.con")));
   EXPECT_TRUE(asked.startsWith("User.con already exists.")) << asked.toStdString();
 }
@@ -116,12 +122,8 @@ TEST_F(FileDialogTest, AsksBeforeAFileIsReplaced) {
 // A save goes to the file whose name differs in case alone.
 TEST_F(FileDialogTest, AsksBeforeAFileOfAnotherSpellingIsReplacedAndTakesItsName) {
   directory.Put("USER.CON", "");
-  QString asked;
   Choose("User");
-  Once<QMessageBox>([&](QMessageBox& question) {
-    asked = question.text();
-    question.button(QMessageBox::Yes)->click();
-  });
+  Answer(QMessageBox::Yes);
   EXPECT_THAT(Save(), Optional(ElementsAre(directory / "USER.CON")));
   EXPECT_EQ(asked, "USER.CON already exists.\nDo you want to replace it?");
 }
@@ -129,10 +131,7 @@ TEST_F(FileDialogTest, AsksBeforeAFileOfAnotherSpellingIsReplacedAndTakesItsName
 TEST_F(FileDialogTest, AsksForAnotherNameWhenThatFileIsToStay) {
   directory.Put("USER.CON", "");
   Choose("User");
-  Once<QMessageBox>([&](QMessageBox& question) {
-    Choose("Other");
-    question.button(QMessageBox::No)->click();
-  });
+  Answer(QMessageBox::No, [this] { Choose("Other"); });
   EXPECT_THAT(Save(), Optional(ElementsAre(directory / "Other.con")));
 }
 

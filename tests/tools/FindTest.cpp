@@ -35,6 +35,17 @@ class Find : public test::ControlFixture {
         [](Form& form) { static_cast<frmFind&>(form).cmdCancel.Press(); });
     Choose("mnuRtbPopupFind");
   }
+  /// Finds the "cat" at 8 in one document, and the next one in another.
+  void FindTheSecondAndGoOnIn(const std::string& other) {
+    services_.files.files["/c/a.con"] = "cat dog cat";
+    services_.files.files["/c/b.con"] = other;
+    control_.OpenFile("/c/a.con");
+    FindText("cat");
+    FindNext();
+    ASSERT_EQ(State().FindPos, 8);
+    control_.OpenFile("/c/b.con");
+    FindNext();
+  }
   const SearchState& State() { return control_.LastSearch(); }
   const std::vector<Box>& Boxes() { return services_.messages.shown; }
 };
@@ -199,29 +210,15 @@ TEST_F(Find, NextRunsOnF3WithAnyModifier) {
 }
 
 TEST_F(Find, KeepsTheLastPositionWhenTheDocumentChanges) {
-  services_.files.files["/c/a.con"] = "cat dog cat";
-  services_.files.files["/c/b.con"] = "cat cat cat";
-  control_.OpenFile("/c/a.con");
-  FindText("cat");
-  FindNext();
-  ASSERT_EQ(State().FindPos, 8);
-  control_.OpenFile("/c/b.con");
-  FindNext();
-  EXPECT_EQ(State().FindPos, -1);
-  EXPECT_EQ(Boxes(), (std::vector{NotFound("cat", MessageIcon::kNone)}));
-}
-
-TEST_F(Find, GoesOnBehindTheLastPositionInAnotherDocument) {
-  services_.files.files["/c/a.con"] = "cat dog cat";
-  services_.files.files["/c/b.con"] = "cat 456789cat";
-  control_.OpenFile("/c/a.con");
-  FindText("cat");
-  FindNext();
-  ASSERT_EQ(State().FindPos, 8);
-  control_.OpenFile("/c/b.con");
-  FindNext();
+  FindTheSecondAndGoOnIn("cat 456789cat");
   EXPECT_EQ(State().FindPos, 10);
   EXPECT_EQ(Shown(), "cat 456789[cat]");
+}
+
+TEST_F(Find, FindsNothingBehindTheLastPositionInAnotherDocument) {
+  FindTheSecondAndGoOnIn("cat cat cat");
+  EXPECT_EQ(State().FindPos, -1);
+  EXPECT_EQ(Boxes(), (std::vector{NotFound("cat", MessageIcon::kNone)}));
 }
 
 TEST_F(Find, TakesTheTextByteForByte) {
