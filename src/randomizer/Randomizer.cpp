@@ -117,8 +117,10 @@ void Randomizer::WalkList(ListBox& list, ComboBox& valueBox, const std::string& 
     if (!ToBeDrawn(itemPrefix + list.List(i), range)) continue;
     const float width = static_cast<float>(range.upper) - static_cast<float>(range.lower) + 1.0F;
     const float drawn = width * services_.random.Next() + static_cast<float>(range.lower);
-    // Single precision may round a number close to 1 up, beyond the range.
-    const int value = std::min(static_cast<int>(std::floor(drawn)), int{range.upper});
+    // Single precision may round a number close to 1 up, beyond the range. Bounds such as 5.9 and
+    // 5.1 cross when they are rounded: the larger one is the limit.
+    const int limit = std::max(range.upper, range.lower);
+    const int value = std::min(static_cast<int>(std::floor(drawn)), limit);
     valueBox.SetText(std::to_string(value));
   }
 }

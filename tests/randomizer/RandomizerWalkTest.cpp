@@ -68,6 +68,13 @@ TEST_F(RandomizerWalk, KeepsEverythingButTheValues) {
   EXPECT_EQ(Editor().Text(), PlayerFile(Ten("7")));
 }
 
+// 5.9 becomes 6 and 5.1 becomes 5: the larger one is the limit.
+TEST_F(RandomizerWalk, WritesTheLargerOfTwoBoundsThatCrossWhenTheyAreRounded) {
+  Editor().SetText(PlayerFile(Ten("55")));
+  Randomize("Player", {"5.9", "5.1"});
+  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("6")));
+}
+
 struct KeepRow {
   bool below, above;
   const char* of5;
