@@ -10,6 +10,7 @@
 #include "documents/DocumentSlots.h"
 #include "documents/Documents.h"
 #include "documents/RecentFiles.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/ScopeGuard.h"
 #include "randomizer/Randomizer.h"
@@ -45,8 +46,9 @@ class ucTessel::CommandsInForms : public ModalForms {
   int& commandDepth_;
 };
 
-ucTessel::ucTessel(const Services& services)
-    : modalForms_(std::make_unique<CommandsInForms>(services.forms, commandDepth_)),
+ucTessel::ucTessel(const Services& services, const Options& options)
+    : options_(options),
+      modalForms_(std::make_unique<CommandsInForms>(services.forms, commandDepth_)),
       services_{services.messages, services.fileDialogs, *modalForms_,          services.clipboard,
                 services.settings, services.pointer,     services.files,        services.random,
                 services.focus,    services.loop,        services.hostDirectory},
@@ -133,6 +135,8 @@ bool ucTessel::CloseAll() {
 
 void ucTessel::RunCommand(const std::function<void()>& command) {
   if (commandDepth_ > 0) return command();  // the outermost command reports errors
+  HoldDocument();
+  const ScopeGuard holdAgain([this] { HoldDocument(); });
   try {
     const ScopeGuard leave([this] { --commandDepth_; });
     ++commandDepth_;
@@ -142,6 +146,13 @@ void ucTessel::RunCommand(const std::function<void()>& command) {
   } catch (const std::bad_alloc&) {  // the other documents are still there to be saved
     ShowError("There is not enough memory for this.");
   }
+}
+
+void ucTessel::HoldDocument() {
+  if (!options_.dialogHoldsDocument) return;
+  const std::string& tag = controls_.tbsRtb.At(controls_.tbsRtb.Selected()).tag;
+  const std::string path = tag == kUntitled ? std::string() : tag;
+  controls_.dlgCommon.SetHeld({path, NameOfPath(path, services_.files.Separator())});
 }
 
 void ucTessel::ShowError(const std::string& text) {

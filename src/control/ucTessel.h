@@ -24,8 +24,16 @@ struct SearchState;
 /// its size changes. Everything runs on the caller's thread.
 class ucTessel {
  public:
+  /// What a host may ask for beyond the control's own rules.
+  struct Options {
+    /// The file dialog always holds the file of the document in front (nothing when that has none),
+    /// not the file chosen last: so an in-place save keeps the document's name.
+    bool dialogHoldsDocument = false;
+  };
+
   /// The services outlive the control.
-  explicit ucTessel(const Services& services);
+  explicit ucTessel(const Services& services) : ucTessel(services, Options()) {}
+  ucTessel(const Services& services, const Options& options);
   ~ucTessel();
   ucTessel(const ucTessel&) = delete;
   ucTessel& operator=(const ucTessel&) = delete;
@@ -84,9 +92,11 @@ class ucTessel {
   void ConnectForms();
   void rtbCon_MouseUp(const RichTextBox& editor, MouseButton button);
   void ShowError(const std::string& text);
+  void HoldDocument();
 
   class CommandsInForms;
 
+  Options options_;
   int commandDepth_ = 0;
   std::unique_ptr<CommandsInForms> modalForms_;
   Services services_;

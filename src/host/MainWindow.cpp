@@ -65,7 +65,7 @@ CaretPlace PlaceOfCaret(const ScintillaView& view) {
 }  // namespace
 
 MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
-    : control_(new TesselWidget(services, widgets, this)),
+    : control_(new TesselWidget(services, widgets, this, {.dialogHoldsDocument = true})),
       files_(files),
       messages_(services.messages) {
   auto* centre = new QWidget(this);

@@ -40,10 +40,7 @@ struct HostRun {
   HostedControls& Controls() { return window->Control().Tessel().Controls(); }
   TabStrip& Tabs() { return Controls().tbsRtb; }
   RichTextBox& Editor(int slot) { return Controls().rtbCon[slot]; }
-  void SaveInPlace(const std::string& path) {
-    Controls().dlgCommon.SetHeld({path, path.substr(path.rfind('/') + 1)});
-    Controls().mnuRtbPopup.Choose("mnuRtbPopupFileSave");
-  }
+  void SaveInPlace() { Controls().mnuRtbPopup.Choose("mnuRtbPopupFileSave"); }
   template <class Widget>
   bool Press(const QString& caption) {
     for (auto* part : window->findChildren<Widget*>()) {

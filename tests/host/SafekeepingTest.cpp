@@ -95,7 +95,7 @@ TEST_F(Safekeeping, ASavedDocumentIsNotKeptAnyMore) {
   Run().Editor(0).Type("// mine\r\n");
   KeepNow();
   EXPECT_EQ(KeptTexts(), std::vector{user_ + ": // mine\r\ndefine A 1\r\n"});
-  Run().SaveInPlace(user_);
+  Run().SaveInPlace();
   EXPECT_TRUE(KeptBecomes({}));
 }
 
@@ -212,13 +212,13 @@ TEST_F(Safekeeping, OfSeveralTextsOfOneFileTheNewestTakesItsDocument) {
                                                        {user_, "new define A 1\r\n"}}));
 }
 
-// A save that no dialog came before takes the first document's path away; what is opened next goes
-// into its tab, and marks the last one as saved.
+// What is opened next goes into the tab of a document without a path, and marks the last one as
+// saved.
 TEST_F(Safekeeping, ATextThatIsWronglyTakenForSavedIsKeptBeyondANormalEnd) {
   const std::string other = directory_.Put("other.con", "define O 1\r\n");
   Run().window->OpenFiles({user_, game_});
   Run().Tabs().Select(1);
-  Run().SaveInPlace("");
+  Run().Tabs().SetTabTag(1, "");
   ASSERT_EQ(Run().Tabs().At(1).tag, "");
   Run().Tabs().Select(2);
   Run().Editor(1).Type("precious ");
@@ -236,12 +236,12 @@ TEST_F(Safekeeping, ATextThatWasSavedAfterAllIsNotOffered) {
   const std::string other = directory_.Put("other.con", "define O 1\r\n");
   Run().window->OpenFiles({user_, game_});
   Run().Tabs().Select(1);
-  Run().SaveInPlace("");
+  Run().Tabs().SetTabTag(1, "");
   Run().Tabs().Select(2);
   Run().Editor(1).Type("precious ");
   Run().window->OpenFiles({other});
   Run().Tabs().Select(2);
-  Run().SaveInPlace(game_);
+  Run().SaveInPlace();
   ASSERT_EQ(BytesOf(game_), "precious define G 1\r\n");
   CloseAndStartAgain();
   EXPECT_FALSE(OfferVisible());
@@ -307,10 +307,10 @@ TEST_F(Safekeeping, AnEndThatTheUserCancelledKeepsTheText) {
 TEST_F(Safekeeping, TheBackupsOfTheCurrentFileComeFirst) {
   Run().window->OpenFiles({game_, user_});
   Run().Editor(1).Type("2 ");
-  Run().SaveInPlace(user_);
+  Run().SaveInPlace();
   Run().Tabs().Select(1);
   Run().Editor(0).Type("2 ");
-  Run().SaveInPlace(game_);
+  Run().SaveInPlace();
   Run().Tabs().Select(2);
   const auto* list = OpenBackups()->findChild<QTreeWidget*>();
   ASSERT_EQ(list->topLevelItemCount(), 2);
@@ -321,7 +321,7 @@ TEST_F(Safekeeping, TheBackupsOfTheCurrentFileComeFirst) {
 TEST_F(Safekeeping, ABackupComesBackAsAChangeThatUndoTakesBack) {
   Run().window->OpenFiles({user_});
   Run().Editor(0).Type("2 ");
-  Run().SaveInPlace(user_);
+  Run().SaveInPlace();
   OpenBackups();
   ASSERT_TRUE(Run().Press<BackupsDialog>("&Open"));
   EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
@@ -333,11 +333,10 @@ TEST_F(Safekeeping, ABackupComesBackAsAChangeThatUndoTakesBack) {
 
 TEST_F(Safekeeping, ASaveThatHitTheWrongFileCanBePutRight) {
   Run().window->OpenFiles({game_, user_});
-  Run().SaveInPlace(game_);  // the user file's document now belongs to the game file
-  ASSERT_EQ(Run().Tabs().At(2).tag, game_);
   Run().Editor(1).Type("2 ");
-  Run().SaveInPlace(game_);
-  EXPECT_EQ(BytesOf(game_), "2 define A 1\r\n");
+  Run().fakes.fileDialogs.answers = {{{game_}}};
+  Run().Controls().tbToolBar.Press("FileSave");
+  ASSERT_EQ(BytesOf(game_), "2 define A 1\r\n");
   OpenBackups();
   Run().Press<BackupsDialog>("&Open");
   EXPECT_EQ(CurrentEditor(Run().Controls()).Text(), "define G 1\r\n");
@@ -348,7 +347,7 @@ TEST_F(Safekeeping, ABackupThatCannotBeKeptIsToldAndTheFileIsSaved) {
   directory_.Put("state/ZanthMan/backups", "no folder");
   Run().window->OpenFiles({user_});
   Run().Editor(0).Type("2 ");
-  Run().SaveInPlace(user_);
+  Run().SaveInPlace();
   EXPECT_EQ(BytesOf(user_), "2 define A 1\r\n");
   EXPECT_EQ(Run().problems.size(), 1U);
   EXPECT_TRUE(Run().fakes.messages.shown.empty());

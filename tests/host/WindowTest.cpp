@@ -45,7 +45,7 @@ class Window : public HostTest {
   }
   void SaveInPlaceWith(const std::string& text) {
     Run().Editor(0).Type(text);
-    Run().SaveInPlace(user_);
+    Run().SaveInPlace();
   }
 
   std::string user_ = directory_.Put("user.con", "define A 1\r\n");
@@ -71,6 +71,56 @@ TEST_F(Window, TellsWhatItIs) {
 TEST_F(Window, QuitsFromTheMenu) {
   Run().MenuItem("&Quit")->trigger();
   EXPECT_FALSE(Run().window->isVisible());
+}
+
+// --- Save writes into the document's own file, and its tab keeps its name
+
+TEST_F(Window, SavesAFileOfTheCommandLineUnderItsOwnName) {
+  Run().window->OpenFiles({user_});
+  SaveInPlaceWith("one ");
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(Run().Tabs().At(1).caption, "user.con");
+  SaveInPlaceWith("two ");
+  EXPECT_EQ(BytesOf(user_), "one two define A 1\r\n");
+}
+
+TEST_F(Window, OpensNothingIntoADocumentThatWasSaved) {
+  Run().window->OpenFiles({user_});
+  SaveInPlaceWith("one ");
+  Run().Editor(0).Type("two ");
+  Run().fakes.fileDialogs.answers = {{{game_}}};
+  Run().MenuItem("&Open...")->trigger();
+  ASSERT_EQ(Run().Tabs().Count(), 2);
+  EXPECT_EQ(Run().Editor(0).Text(), "one two define A 1\r\n");
+  EXPECT_EQ(Run().Tabs().At(1).image, kRedDot);
+}
+
+TEST_F(Window, SavesEachOfSeveralFilesOfOneDialogIntoItself) {
+  Run().fakes.fileDialogs.answers = {{{user_, game_}}};
+  Run().MenuItem("&Open...")->trigger();
+  Run().Tabs().Select(1);
+  SaveInPlaceWith("one ");
+  SaveInPlaceWith("two ");
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(BytesOf(user_), "one two define A 1\r\n");
+  EXPECT_EQ(BytesOf(game_), "define G 1\r\n");
+}
+
+TEST_F(Window, KeepsTheDocumentsNameAlsoAfterAMapWasChosen) {
+  Run().window->OpenFiles({user_});
+  Run().fakes.fileDialogs.answers = {{{directory_.Put("E1L1.map", "")}}};
+  Run().Controls().cmdMap.Press();
+  SaveInPlaceWith("one ");
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+}
+
+TEST_F(Window, GivesADocumentTheNameUnderWhichItWasSaved) {
+  const std::string other = directory_ / "other.con";
+  Run().window->OpenFiles({user_, game_});
+  Run().fakes.fileDialogs.answers = {{{other}}};
+  Run().Controls().tbToolBar.Press("FileSave");
+  EXPECT_EQ(Run().Tabs().At(2).tag, other);
+  EXPECT_EQ(Run().Tabs().At(2).caption, "other.con");
 }
 
 // --- Dropped files

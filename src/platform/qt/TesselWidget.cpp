@@ -35,11 +35,12 @@ bool IsControlKey(const QKeyEvent& key) {
 
 }  // namespace
 
-TesselWidget::TesselWidget(const Services& services, WidgetMap& widgets, QWidget* parent)
+TesselWidget::TesselWidget(const Services& services, WidgetMap& widgets, QWidget* parent,
+                           const ucTessel::Options& options)
     : QWidget(parent),
       widgets_(widgets),
       clipboard_(services.clipboard),
-      tessel_(std::make_unique<ucTessel>(services)) {
+      tessel_(std::make_unique<ucTessel>(services, options)) {
   setAccessibleName(tr("CON file editor"));
   BuildPanel();
   BuildDocuments();

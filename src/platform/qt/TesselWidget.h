@@ -24,7 +24,8 @@ class TesselWidget : public QWidget {
   Q_OBJECT
 
  public:
-  TesselWidget(const Services& services, WidgetMap& widgets, QWidget* parent = nullptr);
+  TesselWidget(const Services& services, WidgetMap& widgets, QWidget* parent = nullptr,
+               const ucTessel::Options& options = {});
   ~TesselWidget() override;
 
   ucTessel& Tessel() { return *tessel_; }
