@@ -1,5 +1,7 @@
 #include "drive/HeadlessPlayer.h"
 
+#include "drive/IndentLines.h"
+
 namespace tessel::drive {
 namespace {
 
@@ -16,6 +18,11 @@ ucTessel& HeadlessPlayer::Open(const Services& services) {
 
 void HeadlessPlayer::PressMenuItem(Toolbar& toolbar, const std::string& key, int item) {
   toolbar.PressMenuItem(key, item);
+}
+
+void HeadlessPlayer::Type(RichTextBox& editor, const std::string& text) {
+  if (text == "\t" && SelectsOverLines(editor)) return IndentLines(editor);
+  editor.Type(text);
 }
 
 void HeadlessPlayer::SelectText(RichTextBox& editor, SelectedRange range) {

@@ -26,7 +26,7 @@ class HeadlessPlayer : public Player {
   void PickTwice(ListBox& list, int entry) override { list.PickTwice(entry); }
   void Type(TextBox& box, const std::string& text) override { box.Type(text); }
   void Type(ComboBox& box, const std::string& text) override { box.Type(text); }
-  void Type(RichTextBox& editor, const std::string& text) override { editor.Type(text); }
+  void Type(RichTextBox& editor, const std::string& text) override;
   void SelectText(RichTextBox& editor, SelectedRange range) override;
   void ReleaseMouse(RichTextBox& editor, MouseButton button) override;
   void Choose(PopupMenu& menu, const std::string& item) override { menu.Choose(item); }
@@ -47,6 +47,7 @@ class HeadlessPlayer : public Player {
   std::vector<Tab> Tabs(const TabStrip& strip) const override;
   int SelectedTab(const TabStrip& strip) const override { return strip.Selected(); }
   std::vector<ToolbarButton> Buttons(const Toolbar& bar) const override { return bar.Buttons(); }
+  std::vector<MenuItem> Items(const PopupMenu& menu) const override { return menu.Items(); }
   std::string Text(const RichTextBox& editor) const override { return editor.Text(); }
   SelectedRange Selection(const RichTextBox& editor) const override;
   std::vector<ColourRun> Colours(const RichTextBox& editor) const override;

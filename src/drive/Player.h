@@ -65,6 +65,7 @@ class Sight {
   virtual std::vector<Tab> Tabs(const TabStrip& strip) const = 0;
   virtual int SelectedTab(const TabStrip& strip) const = 0;
   virtual std::vector<ToolbarButton> Buttons(const Toolbar& toolbar) const = 0;
+  virtual std::vector<MenuItem> Items(const PopupMenu& menu) const = 0;
   virtual std::string Text(const RichTextBox& editor) const = 0;
   virtual SelectedRange Selection(const RichTextBox& editor) const = 0;
   /// All maximal runs of one colour, black ones too.

@@ -64,6 +64,17 @@ void AddButtons(Json& out, const Toolbar& toolbar, const Sight& sight) {
   out["Buttons"] = std::move(buttons);
 }
 
+Json ItemsOf(const std::vector<MenuItem>& items) {
+  Json list = Json::array();
+  for (const MenuItem& item : items) {
+    list.push_back({{"Name", FromBytes(item.name)},
+                    {"Caption", FromBytes(item.caption)},
+                    {"Enabled", item.enabled},
+                    {"Items", ItemsOf(item.children)}});
+  }
+  return list;
+}
+
 Json SelColorOf(const RichTextBox& editor) {
   const auto colour = editor.SelColor();
   return colour ? Json(*colour) : Json();
@@ -113,6 +124,8 @@ Json PropertiesOf(const Control& control, const Sight& sight) {
     AddTabs(out, *strip, sight);
   } else if (const auto* toolbar = dynamic_cast<const Toolbar*>(&control)) {
     AddButtons(out, *toolbar, sight);
+  } else if (const auto* menu = dynamic_cast<const PopupMenu*>(&control)) {
+    out["Items"] = ItemsOf(sight.Items(*menu));
   } else if (const auto* editor = dynamic_cast<const RichTextBox*>(&control)) {
     AddEditor(out, *editor, sight);
   }

@@ -100,6 +100,23 @@ TEST_F(TesselWidgetTest, CtrlFAndF3WorkWhereverTheFocusIs) {
   EXPECT_EQ(Editor().Text(), "one two one two") << "no key has reached the text";
 }
 
+// While its box closes nothing has the focus; the key must not run again at the parents.
+TEST_F(TesselWidgetTest, F3WithoutAHitShowsItsBoxOnce) {
+  Open("a.con", "one");
+  for (const Control* place :
+       {static_cast<Control*>(&Controls().rtbCon[0]), static_cast<Control*>(&Controls().lstPlayers),
+        static_cast<Control*>(&Controls().tbsRtb)}) {
+    QWidget* widget = WidgetFor(*place);
+    widget->setFocus();
+    services_.messages.shown.clear();
+    services_.messages.meanwhile = [] {
+      if (QWidget* focused = QApplication::focusWidget()) focused->clearFocus();
+    };
+    QTest::keyClick(widget, Qt::Key_F3);
+    EXPECT_EQ(services_.messages.shown.size(), 1U) << place->Name();
+  }
+}
+
 TEST_F(TesselWidgetTest, TabReachesEveryUsableControlOfEveryPage) {
   for (int page = 0; page < kSettingsPages; ++page) {
     Controls().tbsCon.Press(page + 1);

@@ -53,6 +53,7 @@ class WidgetPlayer : public Player {
   std::vector<Tab> Tabs(const TabStrip& strip) const override;
   int SelectedTab(const TabStrip& strip) const override;
   std::vector<ToolbarButton> Buttons(const Toolbar& toolbar) const override;
+  std::vector<MenuItem> Items(const PopupMenu& menu) const override;
   std::string Text(const RichTextBox& editor) const override;
   SelectedRange Selection(const RichTextBox& editor) const override;
   std::vector<ColourRun> Colours(const RichTextBox& editor) const override;

@@ -24,6 +24,17 @@ std::string BytesOfName(const QString& seen, const std::string& modelled) {
              : TypedBytes(seen);
 }
 
+std::vector<MenuItem> ItemsOf(const QMenu& menu) {
+  std::vector<MenuItem> items;
+  for (const QAction* action : menu.actions()) {
+    const std::string caption = action->isSeparator() ? "-" : TypedBytes(action->text());
+    MenuItem item{action->objectName().toStdString(), caption, {}, action->isEnabled()};
+    if (action->menu() != nullptr) item.children = ItemsOf(*action->menu());
+    items.push_back(std::move(item));
+  }
+  return items;
+}
+
 }  // namespace
 
 bool WidgetPlayer::Enabled(const Control& control) const {
@@ -110,6 +121,10 @@ std::vector<ToolbarButton> WidgetPlayer::Buttons(const Toolbar& toolbar) const {
     }
   }
   return buttons;
+}
+
+std::vector<MenuItem> WidgetPlayer::Items(const PopupMenu& menu) const {
+  return ItemsOf(As<QMenu>(menu));
 }
 
 std::string WidgetPlayer::Text(const RichTextBox& editor) const {

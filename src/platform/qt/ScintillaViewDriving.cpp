@@ -33,7 +33,7 @@ void ScintillaView::typeText(const QString& text) {
       if ((c == '\r' || c == '\n') && lineEnd.toStdString() == LineEndOfText()) {
         Press(*this, Qt::Key_Return, QStringLiteral("\r"));
         i += pair ? 1 : 0;
-      } else if (c == '\t') {
+      } else if (c == '\t' && (i > 0 || text.size() == 1)) {  // over lines the key alone indents
         Press(*this, Qt::Key_Tab, lineEnd);
       } else if (c.isPrint()) {
         Press(*this, c.toUpper().unicode(), lineEnd);

@@ -202,11 +202,7 @@ bool TesselWidget::eventFilter(QObject* watched, QEvent* event) {
     return false;
 
   const auto& key = *static_cast<QKeyEvent*>(event);
-  if (event->type() == QEvent::KeyPress) {
-    // A key that nobody takes comes by again at each parent of its first receiver.
-    const QWidget* first = QApplication::focusWidget();
-    return (first == nullptr || first == watched) && TakeKey(key);
-  }
+  if (event->type() == QEvent::KeyPress) return TakeKey(key);
   // The control's own keys are no shortcuts of the window around it.
   if (!IsControlKey(key)) return false;
   event->accept();
@@ -220,7 +216,11 @@ bool TesselWidget::TakeKey(const QKeyEvent& event) {
     return true;
   }
   const int code = KeyCodeOf(event.key());
-  return code != 0 && tessel_->KeyDown(code, ShiftMaskOf(modifiers));
+  if (code == 0) return false;
+  const bool swallowed = tessel_->KeyDown(code, ShiftMaskOf(modifiers));
+  // A key that nobody takes comes by again at each parent of its first receiver: a command that has
+  // run once is over.
+  return swallowed || IsControlKey(event);
 }
 
 // From part to part: the editor, which keeps the Tab key for itself, can be left this way.
