@@ -7,7 +7,7 @@ build_packages=(
   fonts-dejavu-core
 )
 test_packages=(
-  libgtest-dev libgmock-dev librapidcheck-dev
+  libgtest-dev libgmock-dev librapidcheck-dev libqt6opengl6-dev
   desktop-file-utils appstream libxml2-utils shared-mime-info groff-base dpkg-dev file
   clang clang-format clang-tidy util-linux git
   xvfb xdotool xauth
