@@ -7,7 +7,7 @@
 #include "ConText.h"
 #include "Control.h"
 #include "Measure.h"
-#include "platform/qt/ScintillaView.h"
+#include "qt/editor/ScintillaView.h"
 
 namespace tessel::bench {
 namespace {

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Measures which lines of src/ the tests run: everything but the widgets of platform/qt. Prints the
+# Measures which lines of src/ the tests run: everything but the widgets of qt/. Prints the
 # share of each folder and the lines that no test runs. COVERAGE_GOAL=98 makes it fail below that.
 set -euo pipefail
 cd "$(dirname "$0")/.."

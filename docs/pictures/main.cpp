@@ -8,13 +8,13 @@
 #include <iostream>
 
 #include "host/MainWindow.h"
-#include "platform/Form.h"
-#include "platform/HostDirectory.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/qt/QtDesktop.h"
-#include "platform/qt/ScintillaView.h"
-#include "platform/qt/Theme.h"
+#include "models/Form.h"
+#include "posix/HostDirectory.h"
+#include "qt/editor/ScintillaView.h"
+#include "qt/looks/Theme.h"
+#include "qt/services/QtDesktop.h"
 #include "safekeeping/DiskState.h"
+#include "services/MemorySettingsStore.h"
 #include "words/StarterWords.h"
 
 using namespace tessel;

@@ -3,7 +3,7 @@
 #include <QDBusError>
 
 #include "automation/ControlObject.h"
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
 
 namespace tessel {
 namespace {

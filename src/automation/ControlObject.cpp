@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QDBusError>
 
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
 
 namespace tessel {
 namespace {

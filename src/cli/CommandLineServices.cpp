@@ -4,7 +4,7 @@
 
 #include "cli/Progress.h"
 #include "cli/SafeText.h"
-#include "platform/Form.h"
+#include "models/Form.h"
 
 namespace tessel::cli {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "documents/DocumentSlots.h"
-#include "platform/HostDirectory.h"
+#include "posix/HostDirectory.h"
 
 namespace tessel::cli {
 

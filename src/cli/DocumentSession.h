@@ -6,10 +6,10 @@
 
 #include "cli/CommandLineServices.h"
 #include "control/ucTessel.h"
-#include "platform/HeadlessServices.h"
-#include "platform/LinearCongruentialRandom.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/PosixFiles.h"
+#include "posix/PosixFiles.h"
+#include "services/HeadlessServices.h"
+#include "services/LinearCongruentialRandom.h"
+#include "services/MemorySettingsStore.h"
 
 namespace tessel::cli {
 

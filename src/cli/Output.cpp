@@ -2,9 +2,9 @@
 
 #include <iostream>
 
+#include "base/RuntimeError.h"
 #include "cli/CommandLineServices.h"
-#include "platform/PosixFiles.h"
-#include "platform/RuntimeError.h"
+#include "posix/PosixFiles.h"
 
 namespace tessel::cli {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "platform/Text.h"
 #include "settings/Defines.h"
 #include "settings/ItemTables.h"
+#include "text/Text.h"
 
 namespace tessel::cli {
 namespace {

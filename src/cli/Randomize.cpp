@@ -9,8 +9,8 @@
 #include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
-#include "platform/Text.h"
 #include "randomizer/frmRand.h"
+#include "text/Text.h"
 
 namespace tessel::cli {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/SafeText.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessel::cli {
 namespace {

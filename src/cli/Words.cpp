@@ -2,15 +2,15 @@
 #include <iostream>
 #include <sstream>
 
+#include "base/RuntimeError.h"
 #include "cli/CommandLineServices.h"
 #include "cli/CommonOptions.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
-#include "platform/FallbackSettingsStore.h"
-#include "platform/PosixFiles.h"
-#include "platform/RuntimeError.h"
-#include "platform/SqliteSettingsStore.h"
-#include "platform/Text.h"
+#include "posix/FallbackSettingsStore.h"
+#include "posix/PosixFiles.h"
+#include "posix/SqliteSettingsStore.h"
+#include "text/Text.h"
 #include "words/ScriptWords.h"
 #include "words/WordFile.h"
 

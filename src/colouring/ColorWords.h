@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "platform/TextTypes.h"
+#include "text/TextTypes.h"
 
 namespace tessel {
 

@@ -4,18 +4,18 @@
 #include <new>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "control/Commands.h"
-#include "control/Layout.h"
 #include "converter/Converter.h"
 #include "documents/DocumentSlots.h"
 #include "documents/Documents.h"
 #include "documents/RecentFiles.h"
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
-#include "platform/ScopeGuard.h"
 #include "randomizer/Randomizer.h"
+#include "services/Paths.h"
+#include "services/ScopeGuard.h"
 #include "settings/Levels.h"
 #include "settings/SettingsPanel.h"
+#include "surface/Layout.h"
 #include "tools/Search.h"
 #include "words/WordPanel.h"
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "base/Event.h"
 #include "control/Commands.h"
-#include "control/HostedControls.h"
-#include "platform/Event.h"
-#include "platform/Services.h"
+#include "services/Services.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

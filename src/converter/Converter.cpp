@@ -6,7 +6,7 @@
 #include "converter/EditPrimitives.h"
 #include "converter/modConVersion.h"
 #include "documents/DocumentSlots.h"
-#include "platform/ScopeGuard.h"
+#include "services/ScopeGuard.h"
 
 namespace tessel {
 namespace {

@@ -3,9 +3,9 @@
 
 #include <vector>
 
-#include "control/HostedControls.h"
 #include "converter/VersionEdits.h"
-#include "platform/Services.h"
+#include "services/Services.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "platform/RichTextBox.h"
+#include "models/RichTextBox.h"
 
 namespace tessel {
 

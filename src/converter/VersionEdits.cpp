@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "base/RuntimeError.h"
 #include "converter/EditPrimitives.h"
 #include "converter/modConVersion.h"
-#include "platform/RuntimeError.h"
 
 namespace tessel {
 namespace {

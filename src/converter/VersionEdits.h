@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/RichTextBox.h"
+#include "models/RichTextBox.h"
 
 namespace tessel {
 

@@ -2,7 +2,7 @@
 
 #include "colouring/Colouring.h"
 #include "documents/DocumentSlots.h"
-#include "platform/ScopeGuard.h"
+#include "services/ScopeGuard.h"
 
 namespace tessel {
 namespace {

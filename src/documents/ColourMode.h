@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "control/HostedControls.h"
-#include "platform/Services.h"
+#include "services/Services.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

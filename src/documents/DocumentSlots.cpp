@@ -1,6 +1,6 @@
 #include "documents/DocumentSlots.h"
 
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessel {
 

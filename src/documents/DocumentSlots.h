@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "control/HostedControls.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

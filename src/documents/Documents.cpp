@@ -3,14 +3,14 @@
 #include <new>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "colouring/Colouring.h"
 #include "documents/DocumentSlots.h"
 #include "documents/RecentFiles.h"
 #include "documents/Templates.h"
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
+#include "services/Paths.h"
 #include "settings/Levels.h"
+#include "text/Text.h"
 
 namespace tessel {
 namespace {

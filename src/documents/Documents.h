@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "control/HostedControls.h"
 #include "documents/ColourMode.h"
-#include "platform/Services.h"
+#include "services/Services.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

@@ -1,7 +1,7 @@
 #include "documents/RecentFiles.h"
 
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
+#include "base/RuntimeError.h"
+#include "text/Text.h"
 
 namespace tessel {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "platform/Services.h"
-#include "platform/Toolbar.h"
+#include "models/Toolbar.h"
+#include "services/Services.h"
 
 namespace tessel {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel::drive {
 

@@ -1,7 +1,7 @@
 // What one tab does to a selection that goes over several lines.
 #pragma once
 
-#include "platform/RichTextBox.h"
+#include "models/RichTextBox.h"
 
 namespace tessel::drive {
 

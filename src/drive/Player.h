@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "control/ucTessel.h"
-#include "platform/Form.h"
+#include "models/Form.h"
 
 namespace tessel::drive {
 

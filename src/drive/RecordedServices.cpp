@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "platform/CommonDialog.h"
-#include "platform/Control.h"
+#include "models/CommonDialog.h"
+#include "models/Control.h"
 
 namespace tessel::drive {
 namespace {

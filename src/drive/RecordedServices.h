@@ -9,7 +9,7 @@
 
 #include "drive/Answers.h"
 #include "drive/EventLog.h"
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel::drive {
 

@@ -12,7 +12,7 @@
 #include "drive/EventLog.h"
 #include "drive/Player.h"
 #include "drive/RecordedServices.h"
-#include "platform/HeadlessServices.h"
+#include "services/HeadlessServices.h"
 
 namespace tessel::drive {
 

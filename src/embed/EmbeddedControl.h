@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "platform/qt/QtDesktop.h"
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
+#include "qt/services/QtDesktop.h"
 
 namespace tessel {
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "platform/HostDirectory.h"
+#include "posix/HostDirectory.h"
 
 namespace tessel {
 

@@ -2,8 +2,8 @@
 
 #include <map>
 
-#include "platform/FallbackSettingsStore.h"
-#include "platform/qt/QtMessageBox.h"
+#include "posix/FallbackSettingsStore.h"
+#include "qt/services/QtMessageBox.h"
 
 namespace tessel {
 

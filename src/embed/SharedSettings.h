@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel {
 

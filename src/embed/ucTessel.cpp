@@ -8,10 +8,10 @@
 #include "embed/EmbeddedControl.h"
 #include "embed/InstalledTemplates.h"
 #include "embed/SharedSettings.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/SqliteSettingsStore.h"
-#include "platform/qt/QtText.h"
-#include "platform/qt/ScintillaView.h"
+#include "posix/SqliteSettingsStore.h"
+#include "qt/base/QtText.h"
+#include "qt/editor/ScintillaView.h"
+#include "services/MemorySettingsStore.h"
 
 namespace {
 

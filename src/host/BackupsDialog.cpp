@@ -10,9 +10,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/PathResolution.h"
-#include "platform/Paths.h"
-#include "platform/qt/QtText.h"
+#include "posix/PathResolution.h"
+#include "qt/base/QtText.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 
 #include "documents/DocumentSlots.h"
-#include "platform/Paths.h"
-#include "platform/qt/QtText.h"
+#include "qt/base/QtText.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

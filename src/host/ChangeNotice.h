@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <string>
 
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
 #include "safekeeping/DiskState.h"
 
 namespace tessel {

@@ -9,6 +9,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include "base/RuntimeError.h"
 #include "documents/DocumentSlots.h"
 #include "host/BackupsDialog.h"
 #include "host/ChangeNotice.h"
@@ -16,11 +17,10 @@
 #include "host/RecoveryOffer.h"
 #include "host/RestoredText.h"
 #include "host/Session.h"
-#include "platform/Paths.h"
-#include "platform/PosixFiles.h"
-#include "platform/RuntimeError.h"
-#include "platform/qt/QtText.h"
-#include "platform/qt/ScintillaView.h"
+#include "posix/PosixFiles.h"
+#include "qt/base/QtText.h"
+#include "qt/editor/ScintillaView.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "host/MainMenu.h"
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/DiskState.h"
 

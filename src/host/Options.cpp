@@ -6,8 +6,8 @@
 #include <regex>
 #include <system_error>
 
-#include "platform/HostDirectory.h"
-#include "platform/SqliteSettingsStore.h"
+#include "posix/HostDirectory.h"
+#include "posix/SqliteSettingsStore.h"
 
 namespace tessel {
 namespace {

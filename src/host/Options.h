@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/Theme.h"
+#include "qt/looks/Theme.h"
 
 namespace tessel {
 

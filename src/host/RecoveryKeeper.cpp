@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "documents/DocumentSlots.h"
-#include "platform/qt/QtText.h"
+#include "qt/base/QtText.h"
 
 namespace tessel {
 namespace {

@@ -10,8 +10,8 @@
 
 #include "documents/DocumentSlots.h"
 #include "host/RestoredText.h"
-#include "platform/Paths.h"
-#include "platform/qt/QtText.h"
+#include "qt/base/QtText.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

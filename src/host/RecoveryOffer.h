@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "control/ucTessel.h"
-#include "platform/Services.h"
 #include "safekeeping/RecoveryStore.h"
+#include "services/Services.h"
 
 namespace tessel {
 

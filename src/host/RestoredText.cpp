@@ -1,7 +1,7 @@
 #include "host/RestoredText.h"
 
 #include "documents/DocumentSlots.h"
-#include "platform/Paths.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

@@ -4,7 +4,7 @@
 #include <QSettings>
 
 #include "documents/DocumentSlots.h"
-#include "platform/Paths.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

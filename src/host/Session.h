@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "control/ucTessel.h"
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel {
 

@@ -5,9 +5,9 @@
 #include <cmath>
 #include <limits>
 
+#include "base/RuntimeError.h"
 #include "documents/DocumentSlots.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
+#include "text/Text.h"
 
 namespace tessel {
 namespace {

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "control/HostedControls.h"
-#include "platform/Services.h"
 #include "randomizer/frmRand.h"
+#include "services/Services.h"
 #include "settings/SettingsPanel.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

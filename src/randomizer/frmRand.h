@@ -1,10 +1,10 @@
 // The dialog that asks for the randomizer's range.
 #pragma once
 
-#include "platform/Buttons.h"
-#include "platform/ControlArray.h"
-#include "platform/Form.h"
-#include "platform/Lists.h"
+#include "models/Buttons.h"
+#include "models/ControlArray.h"
+#include "models/Form.h"
+#include "models/Lists.h"
 
 namespace tessel {
 

@@ -9,9 +9,9 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/PathResolution.h"
-#include "platform/Paths.h"
+#include "posix/PathResolution.h"
 #include "safekeeping/Hash.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

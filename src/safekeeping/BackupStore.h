@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Services.h"
 #include "safekeeping/KeptText.h"
+#include "services/Services.h"
 
 namespace tessel {
 

@@ -2,9 +2,9 @@
 
 #include <sys/stat.h>
 
-#include "platform/PathResolution.h"
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
+#include "posix/PathResolution.h"
+#include "services/Paths.h"
 
 namespace tessel {
 namespace {

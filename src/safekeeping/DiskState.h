@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel {
 

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "platform/FreshFile.h"
+#include "posix/FreshFile.h"
 
 namespace tessel {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Posix.h"
+#include "posix/Posix.h"
 
 namespace tessel {
 

@@ -1,6 +1,6 @@
 #include "settings/Defines.h"
 
-#include "platform/ScopeGuard.h"
+#include "services/ScopeGuard.h"
 
 namespace tessel {
 namespace {

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Lists.h"
-#include "platform/RichTextBox.h"
+#include "models/Lists.h"
+#include "models/RichTextBox.h"
 
 namespace tessel {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "documents/DocumentSlots.h"
-#include "platform/ScopeGuard.h"
+#include "services/ScopeGuard.h"
 
 namespace tessel {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "control/HostedControls.h"
-#include "platform/Services.h"
+#include "services/Services.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

@@ -2,9 +2,9 @@
 
 #include <span>
 
-#include "control/Layout.h"
 #include "documents/DocumentSlots.h"
 #include "settings/Defines.h"
+#include "surface/Layout.h"
 
 namespace tessel {
 namespace {

@@ -3,9 +3,9 @@
 
 #include <string_view>
 
-#include "control/HostedControls.h"
 #include "settings/ItemTables.h"
 #include "settings/Levels.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 

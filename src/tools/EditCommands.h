@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/RichTextBox.h"
-#include "platform/Services.h"
+#include "models/RichTextBox.h"
+#include "services/Services.h"
 
 namespace tessel {
 

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "control/HostedControls.h"
-#include "platform/Services.h"
+#include "services/Services.h"
+#include "surface/HostedControls.h"
 #include "tools/frmFind.h"
 
 namespace tessel {

@@ -1,10 +1,10 @@
 // The find dialog.
 #pragma once
 
-#include "platform/Buttons.h"
-#include "platform/Control.h"
-#include "platform/Form.h"
-#include "platform/Lists.h"
+#include "models/Buttons.h"
+#include "models/Control.h"
+#include "models/Form.h"
+#include "models/Lists.h"
 
 namespace tessel {
 

@@ -1,6 +1,6 @@
 #include "words/ScriptWords.h"
 
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
 
 namespace tessel {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel {
 

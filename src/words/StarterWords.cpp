@@ -1,6 +1,6 @@
 #include "words/StarterWords.h"
 
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "words/ScriptWords.h"
 #include "words/WordFile.h"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/Services.h"
+#include "services/Services.h"
 
 namespace tessel {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/ScopeGuard.h"
-#include "platform/Text.h"
+#include "services/ScopeGuard.h"
+#include "text/Text.h"
 #include "words/WordList.h"
 
 namespace tessel {

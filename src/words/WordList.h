@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Lists.h"
+#include "models/Lists.h"
 #include "words/ScriptWords.h"
 
 namespace tessel {

@@ -1,8 +1,8 @@
 #include "words/WordPanel.h"
 
+#include "base/RuntimeError.h"
 #include "documents/DocumentSlots.h"
-#include "platform/RuntimeError.h"
-#include "platform/ScopeGuard.h"
+#include "services/ScopeGuard.h"
 #include "words/WordList.h"
 
 namespace tessel {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "control/HostedControls.h"
-#include "platform/Services.h"
+#include "services/Services.h"
 #include "settings/SettingsPanel.h"
+#include "surface/HostedControls.h"
 #include "words/WordEditor.h"
 #include "words/WordSearch.h"
 

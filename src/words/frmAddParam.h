@@ -1,10 +1,10 @@
 // The word list editor.
 #pragma once
 
-#include "platform/Buttons.h"
-#include "platform/Form.h"
-#include "platform/Lists.h"
-#include "platform/TextBox.h"
+#include "models/Buttons.h"
+#include "models/Form.h"
+#include "models/Lists.h"
+#include "models/TextBox.h"
 
 namespace tessel {
 

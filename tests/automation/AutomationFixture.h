@@ -13,7 +13,7 @@
 #include <string>
 
 #include "automation/Automation.h"
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
 #include "support/FakeServices.h"
 
 namespace tessel::test {

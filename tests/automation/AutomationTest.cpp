@@ -9,7 +9,7 @@
 
 #include "automation/Automation.h"
 #include "automation/AutomationFixture.h"
-#include "platform/qt/QtModalForms.h"
+#include "qt/services/QtModalForms.h"
 
 namespace tessel::test {
 namespace {

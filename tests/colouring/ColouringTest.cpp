@@ -7,11 +7,11 @@
 
 #include "colouring/ColorWords.h"
 #include "colouring/Colouring.h"
-#include "control/HostedControls.h"
 #include "documents/ColourMode.h"
 #include "documents/DocumentSlots.h"
 #include "support/FakeServices.h"
 #include "support/SelectionText.h"
+#include "surface/HostedControls.h"
 
 namespace tessel {
 namespace {

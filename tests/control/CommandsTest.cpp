@@ -1,5 +1,5 @@
 // The routing of buttons, drop-down items and popup items, and what errors do at its boundary.
-#include "platform/Form.h"
+#include "models/Form.h"
 #include "support/EditorTrace.h"
 #include "support/TesselTest.h"
 

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "support/PersonAtControl.h"
 #include "words/ScriptWords.h"
 #include "words/frmAddParam.h"

@@ -7,10 +7,10 @@
 #include <string>
 
 #include "RedText.h"
+#include "base/RuntimeError.h"
 #include "converter/Converter.h"
 #include "converter/modConVersion.h"
 #include "documents/DocumentSlots.h"
-#include "platform/RuntimeError.h"
 #include "support/FakeServices.h"
 #include "support/SelectionText.h"
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "RedText.h"
+#include "base/RuntimeError.h"
 #include "converter/EditPrimitives.h"
-#include "platform/RuntimeError.h"
 #include "support/SelectionText.h"
 
 namespace tessel {

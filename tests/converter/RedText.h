@@ -4,7 +4,7 @@
 #include <string>
 
 #include "converter/EditPrimitives.h"
-#include "platform/RichTextBox.h"
+#include "models/RichTextBox.h"
 
 namespace tessel::test {
 

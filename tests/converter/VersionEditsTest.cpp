@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "RedText.h"
+#include "base/RuntimeError.h"
 #include "converter/VersionEdits.h"
 #include "converter/modConVersion.h"
-#include "platform/RuntimeError.h"
 
 namespace tessel {
 namespace {

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "data/DataFiles.h"
-#include "platform/TextSearch.h"
+#include "text/TextSearch.h"
 
 namespace tessel::test {
 namespace {

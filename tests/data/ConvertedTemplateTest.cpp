@@ -5,8 +5,8 @@
 
 #include "converter/VersionEdits.h"
 #include "data/DataFiles.h"
-#include "platform/ControlSet.h"
-#include "platform/RichTextBox.h"
+#include "models/ControlSet.h"
+#include "models/RichTextBox.h"
 
 namespace tessel::test {
 namespace {

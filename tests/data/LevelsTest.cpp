@@ -6,7 +6,7 @@
 #include <set>
 
 #include "data/DataFiles.h"
-#include "platform/TextSearch.h"
+#include "text/TextSearch.h"
 
 namespace tessel::test {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "data/DataFiles.h"
-#include "platform/ControlSet.h"
-#include "platform/RichTextBox.h"
+#include "models/ControlSet.h"
+#include "models/RichTextBox.h"
 
 namespace tessel::test {
 namespace {

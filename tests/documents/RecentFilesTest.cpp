@@ -1,6 +1,6 @@
 // The recent-file list and its mirror in the settings store.
 #include "documents/RecentFiles.h"
-#include "platform/Paths.h"
+#include "services/Paths.h"
 #include "support/TesselTest.h"
 
 namespace tessel::test {

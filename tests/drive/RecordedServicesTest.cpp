@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "drive/RecordedServices.h"
-#include "platform/CommonDialog.h"
+#include "models/CommonDialog.h"
 
 namespace tessel::drive {
 namespace {

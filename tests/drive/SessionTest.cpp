@@ -4,10 +4,10 @@
 
 #include "drive/HeadlessPlayer.h"
 #include "drive/Session.h"
-#include "platform/HeadlessServices.h"
-#include "platform/LinearCongruentialRandom.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/PosixFiles.h"
+#include "posix/PosixFiles.h"
+#include "services/HeadlessServices.h"
+#include "services/LinearCongruentialRandom.h"
+#include "services/MemorySettingsStore.h"
 
 namespace tessel::drive {
 namespace {

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/SqliteSettingsStore.h"
+#include "posix/SqliteSettingsStore.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
 

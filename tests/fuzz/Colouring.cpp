@@ -6,7 +6,7 @@
 #include "documents/ColourMode.h"
 #include "documents/DocumentSlots.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/HeadlessServices.h"
+#include "services/HeadlessServices.h"
 
 namespace tessel::fuzz {
 namespace {

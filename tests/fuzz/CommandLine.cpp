@@ -16,7 +16,7 @@
 
 #include "cli/Program.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/Posix.h"
+#include "posix/Posix.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::fuzz {

@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
+#include "base/RuntimeError.h"
 #include "documents/DocumentSlots.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/RuntimeError.h"
 #include "support/FakeServices.h"
 
 namespace tessel::fuzz {

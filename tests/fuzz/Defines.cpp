@@ -5,7 +5,7 @@
 #include <string>
 
 #include "fuzz/Fuzzing.h"
-#include "platform/Lists.h"
+#include "models/Lists.h"
 
 namespace tessel::fuzz {
 namespace {

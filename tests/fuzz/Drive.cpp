@@ -8,9 +8,9 @@
 #include "drive/HeadlessPlayer.h"
 #include "drive/Session.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/HeadlessServices.h"
-#include "platform/LinearCongruentialRandom.h"
-#include "platform/MemorySettingsStore.h"
+#include "services/HeadlessServices.h"
+#include "services/LinearCongruentialRandom.h"
+#include "services/MemorySettingsStore.h"
 #include "support/MemoryFiles.h"
 
 namespace tessel::fuzz {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "fuzz/Fuzzing.h"
-#include "platform/FallbackSettingsStore.h"
+#include "posix/FallbackSettingsStore.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::fuzz {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "fuzz/Fuzzing.h"
-#include "platform/RichTextBox.h"
+#include "models/RichTextBox.h"
 #include "support/NaiveEditor.h"
 
 namespace tessel::fuzz {

@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <string>
 
+#include "base/RuntimeError.h"
 #include "fuzz/Fuzzing.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/RuntimeError.h"
-#include "platform/Text.h"
+#include "services/MemorySettingsStore.h"
+#include "text/Text.h"
 #include "words/ScriptWords.h"
 #include "words/WordFile.h"
 #include "words/WordSearch.h"

@@ -7,7 +7,7 @@
 
 #include "host/ChangeNotice.h"
 #include "host/MainWindow.h"
-#include "platform/PosixFiles.h"
+#include "posix/PosixFiles.h"
 #include "support/FakeServices.h"
 #include "support/TempDirectory.h"
 

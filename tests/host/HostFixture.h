@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "host/MainWindow.h"
-#include "platform/PosixFiles.h"
+#include "posix/PosixFiles.h"
 #include "safekeeping/BackupStore.h"
 #include "support/FakeServices.h"
 #include "support/TempDirectory.h"

@@ -12,7 +12,7 @@
 #include "host/BackupsDialog.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
-#include "platform/qt/ScintillaView.h"
+#include "qt/editor/ScintillaView.h"
 
 namespace tessel::test {
 namespace {

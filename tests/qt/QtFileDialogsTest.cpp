@@ -10,8 +10,8 @@
 #include <QTimer>
 #include <functional>
 
-#include "platform/CommonDialog.h"
-#include "platform/qt/QtFileDialogs.h"
+#include "models/CommonDialog.h"
+#include "qt/services/QtFileDialogs.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::test {

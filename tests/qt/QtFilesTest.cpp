@@ -1,8 +1,8 @@
 // Files that the editor widget cannot show.
 #include <gtest/gtest.h>
 
-#include "platform/RuntimeError.h"
-#include "platform/qt/QtFiles.h"
+#include "base/RuntimeError.h"
+#include "qt/services/QtFiles.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::test {

@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/ControlSet.h"
-#include "platform/HeadlessServices.h"
-#include "platform/RichTextBox.h"
-#include "platform/qt/ScintillaView.h"
+#include "models/ControlSet.h"
+#include "models/RichTextBox.h"
+#include "qt/editor/ScintillaView.h"
+#include "services/HeadlessServices.h"
 
 namespace tessel {
 

@@ -3,8 +3,8 @@
 // needs the one above
 #include <rapidcheck/gtest.h>
 
-#include "platform/qt/ScintillaViewIndex.h"
-#include "platform/qt/Windows1252Qt.h"
+#include "qt/base/Windows1252Qt.h"
+#include "qt/editor/ScintillaViewIndex.h"
 
 namespace tessel {
 namespace {

@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include "platform/qt/Windows1252Qt.h"
 #include "qt/ScintillaViewFixture.h"
+#include "qt/base/Windows1252Qt.h"
 
 namespace tessel {
 namespace {

@@ -3,8 +3,8 @@
 // needs the one above
 #include <rapidcheck/gtest.h>
 
-#include "platform/Text.h"
 #include "qt/ScintillaViewFixture.h"
+#include "text/Text.h"
 
 namespace tessel {
 namespace {

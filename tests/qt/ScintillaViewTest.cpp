@@ -4,10 +4,10 @@
 #include <QMimeData>
 #include <utility>
 
-#include "platform/RuntimeError.h"
-#include "platform/qt/QtClipboard.h"
-#include "platform/qt/Windows1252Qt.h"
+#include "base/RuntimeError.h"
 #include "qt/ScintillaViewFixture.h"
+#include "qt/base/Windows1252Qt.h"
+#include "qt/services/QtClipboard.h"
 
 namespace tessel {
 namespace {

@@ -1,8 +1,8 @@
 // Colours that can be read on every palette, while the text keeps its own.
 #include <QImage>
 
-#include "platform/qt/EditorTheme.h"
 #include "qt/ScintillaViewFixture.h"
+#include "qt/editor/EditorTheme.h"
 
 namespace tessel {
 namespace {

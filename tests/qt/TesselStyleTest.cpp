@@ -4,7 +4,7 @@
 #include <QDialogButtonBox>
 #include <QPushButton>
 
-#include "platform/qt/TesselStyle.h"
+#include "qt/looks/TesselStyle.h"
 
 namespace tessel::test {
 namespace {

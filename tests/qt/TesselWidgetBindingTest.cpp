@@ -11,8 +11,8 @@
 #include <QToolButton>
 #include <set>
 
-#include "platform/qt/ToolbarView.h"
 #include "qt/TesselWidgetFixture.h"
+#include "qt/views/ToolbarView.h"
 
 namespace tessel::test {
 namespace {

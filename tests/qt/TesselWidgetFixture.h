@@ -7,10 +7,10 @@
 #include <QTest>
 #include <string>
 
-#include "platform/qt/QtScreen.h"
-#include "platform/qt/QtText.h"
-#include "platform/qt/ScintillaView.h"
-#include "platform/qt/TesselWidget.h"
+#include "qt/TesselWidget.h"
+#include "qt/base/QtText.h"
+#include "qt/editor/ScintillaView.h"
+#include "qt/services/QtScreen.h"
 #include "support/FakeServices.h"
 
 namespace tessel::test {

@@ -8,9 +8,9 @@
 #include <QPushButton>
 #include <QTimer>
 
-#include "platform/qt/QtMessageBox.h"
-#include "platform/qt/QtModalForms.h"
 #include "qt/TesselWidgetFixture.h"
+#include "qt/services/QtMessageBox.h"
+#include "qt/services/QtModalForms.h"
 #include "randomizer/frmRand.h"
 #include "tools/frmFind.h"
 #include "words/frmAddParam.h"

@@ -5,9 +5,9 @@
 #include <QTabBar>
 #include <set>
 
-#include "platform/Form.h"
-#include "platform/qt/TwipScale.h"
+#include "models/Form.h"
 #include "qt/TesselWidgetFixture.h"
+#include "qt/base/TwipScale.h"
 
 namespace tessel::test {
 namespace {

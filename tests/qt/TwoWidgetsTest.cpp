@@ -11,12 +11,12 @@
 #include <numeric>
 #include <random>
 
-#include "platform/qt/QtDesktop.h"
-#include "platform/qt/QtText.h"
-#include "platform/qt/ScintillaView.h"
-#include "platform/qt/TabStripView.h"
-#include "platform/qt/TesselWidget.h"
-#include "platform/qt/ToolbarView.h"
+#include "qt/TesselWidget.h"
+#include "qt/base/QtText.h"
+#include "qt/editor/ScintillaView.h"
+#include "qt/services/QtDesktop.h"
+#include "qt/views/TabStripView.h"
+#include "qt/views/ToolbarView.h"
 #include "support/PersonAtControl.h"
 #include "words/ScriptWords.h"
 

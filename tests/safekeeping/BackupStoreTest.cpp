@@ -5,7 +5,7 @@
 
 #include <set>
 
-#include "platform/PosixFiles.h"
+#include "posix/PosixFiles.h"
 #include "safekeeping/BackupStore.h"
 #include "support/ChildProcess.h"
 #include "support/TempDirectory.h"

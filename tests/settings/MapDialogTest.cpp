@@ -1,5 +1,5 @@
 // Browsing for a map file.
-#include "platform/CommonDialog.h"
+#include "models/CommonDialog.h"
 #include "support/TesselTest.h"
 
 namespace tessel::test {

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/HeadlessServices.h"
-#include "platform/RichTextBox.h"
+#include "models/RichTextBox.h"
+#include "services/HeadlessServices.h"
 
 namespace tessel::test {
 

@@ -8,12 +8,12 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Control.h"
-#include "platform/Form.h"
-#include "platform/HeadlessServices.h"
-#include "platform/LinearCongruentialRandom.h"
-#include "platform/MemorySettingsStore.h"
-#include "platform/Services.h"
+#include "models/Control.h"
+#include "models/Form.h"
+#include "services/HeadlessServices.h"
+#include "services/LinearCongruentialRandom.h"
+#include "services/MemorySettingsStore.h"
+#include "services/Services.h"
 #include "support/MemoryFiles.h"
 
 namespace tessel::test {

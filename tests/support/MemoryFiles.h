@@ -7,11 +7,11 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/Paths.h"
-#include "platform/RuntimeError.h"
-#include "platform/Services.h"
-#include "platform/Text.h"
-#include "platform/Wildcards.h"
+#include "base/RuntimeError.h"
+#include "services/Paths.h"
+#include "services/Services.h"
+#include "text/Text.h"
+#include "text/Wildcards.h"
 
 namespace tessel::test {
 

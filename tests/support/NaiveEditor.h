@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/RichTextBox.h"
-#include "platform/Text.h"
+#include "models/RichTextBox.h"
+#include "text/Text.h"
 
 namespace tessel::test {
 

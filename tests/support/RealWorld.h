@@ -7,8 +7,8 @@
 
 #include "control/ucTessel.h"
 #include "documents/DocumentSlots.h"
-#include "platform/FallbackSettingsStore.h"
-#include "platform/PosixFiles.h"
+#include "posix/FallbackSettingsStore.h"
+#include "posix/PosixFiles.h"
 #include "support/FakeServices.h"
 #include "support/TempDirectory.h"
 

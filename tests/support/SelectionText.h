@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/RichTextBox.h"
-#include "platform/TextTypes.h"
+#include "models/RichTextBox.h"
+#include "text/TextTypes.h"
 
 namespace tessel::test {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/Text.h"
+#include "text/Text.h"
 #include "tools/modMenuOptions.h"
 
 namespace tessel {

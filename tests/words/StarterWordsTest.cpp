@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/MemorySettingsStore.h"
+#include "services/MemorySettingsStore.h"
 #include "support/MemoryFiles.h"
 #include "words/ScriptWords.h"
 #include "words/StarterWords.h"

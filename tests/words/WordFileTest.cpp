@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
 #include "words/WordFile.h"
 
 namespace tessel {

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/MemorySettingsStore.h"
-#include "platform/RuntimeError.h"
+#include "base/RuntimeError.h"
+#include "services/MemorySettingsStore.h"
 #include "support/ControlFixture.h"
 #include "words/ScriptWords.h"
 

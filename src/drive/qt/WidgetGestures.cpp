@@ -14,10 +14,10 @@
 
 #include "drive/qt/Input.h"
 #include "drive/qt/WidgetPlayer.h"
-#include "platform/qt/PopupMenuView.h"
-#include "platform/qt/QtText.h"
-#include "platform/qt/ScintillaView.h"
-#include "platform/qt/ToolbarView.h"
+#include "qt/base/QtText.h"
+#include "qt/editor/ScintillaView.h"
+#include "qt/views/PopupMenuView.h"
+#include "qt/views/ToolbarView.h"
 
 namespace tessel::drive {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "platform/qt/TwipScale.h"
+#include "qt/base/TwipScale.h"
 
 namespace tessel::drive {
 

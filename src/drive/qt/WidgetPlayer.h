@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "drive/Player.h"
-#include "platform/qt/QtScreen.h"
-#include "platform/qt/TesselWidget.h"
-#include "platform/qt/WidgetMap.h"
+#include "qt/TesselWidget.h"
+#include "qt/base/WidgetMap.h"
+#include "qt/services/QtScreen.h"
 
 namespace tessel::drive {
 

@@ -9,10 +9,10 @@
 #include <QTabBar>
 
 #include "drive/qt/WidgetPlayer.h"
-#include "platform/Text.h"
-#include "platform/qt/QtText.h"
-#include "platform/qt/ScintillaView.h"
-#include "platform/qt/ToolbarView.h"
+#include "qt/base/QtText.h"
+#include "qt/editor/ScintillaView.h"
+#include "qt/views/ToolbarView.h"
+#include "text/Text.h"
 
 namespace tessel::drive {
 namespace {

@@ -1,0 +1,245 @@
+#include "posix/SqliteSettingsStore.h"
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+#include "base/RuntimeError.h"
+#include "posix/PathResolution.h"
+#include "posix/Posix.h"
+#include "text/Text.h"
+
+namespace tessel {
+namespace {
+
+constexpr int kSchemaVersion = 1;
+constexpr int kPatienceMilliseconds = 2000;
+
+// The place of an entry is its row: a new row goes behind the last one, and a rewritten one stays.
+constexpr const char* kSchema = R"(
+  CREATE TABLE settings (
+    place INTEGER PRIMARY KEY,
+    section BLOB NOT NULL,
+    key BLOB NOT NULL,
+    value BLOB NOT NULL,
+    section_folded BLOB NOT NULL,
+    key_folded BLOB NOT NULL,
+    UNIQUE (section_folded, key_folded)
+  );
+  PRAGMA user_version = 1;)";
+
+std::string FromEnvironment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+std::string HomeDirectory() {
+  if (std::string home = FromEnvironment("HOME"); !home.empty()) return home;
+  const passwd* user = ::getpwuid(::getuid());
+  return user == nullptr ? std::string() : std::string(user->pw_dir);
+}
+
+/// SQLite takes ":memory:" for no file at all, and no path for a temporary one.
+std::string AsFileName(const std::string& path) {
+  return path.starts_with('/') ? path : "./" + path;
+}
+
+void MakePrivateDirectories(const std::string& directory) {
+  if (directory.empty() || posix::StatusOf(directory)) return;
+  MakePrivateDirectories(
+      posix::DirectoryPart(directory.substr(0, directory.find_last_not_of('/') + 1)));
+  if (::mkdir(directory.c_str(), S_IRWXU) == -1 && errno != EEXIST) {
+    throw posix::FileProblem(errno);
+  }
+}
+
+void MakePrivateFile(const std::string& path) {
+  if (path.empty()) throw posix::FileProblem(ENOENT);
+  MakePrivateDirectories(posix::DirectoryPart(path));
+  if (const auto status = posix::StatusOf(path)) return posix::RefuseUnlessRegular(*status);
+  posix::Checked([&] {
+    return posix::Descriptor(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)).Number();
+  });
+}
+
+}  // namespace
+
+std::string DefaultSettingsPath() {
+  if (std::string store = FromEnvironment("ZANTHMAN_STORE"); !store.empty()) return store;
+  std::string directory = FromEnvironment("XDG_CONFIG_HOME");
+  // A relative directory there is to be ignored, says the standard of base directories.
+  if (!directory.starts_with('/')) directory = HomeDirectory() + "/.config";
+  return directory + "/ZanthMan/settings.db";
+}
+
+/// A prepared statement. Parameters count from 1, columns from 0; all are blobs.
+class SqliteSettingsStore::Statement {
+ public:
+  Statement(SqliteSettingsStore& store, const char* sql) : store_(store) {
+    if (sqlite3_prepare_v2(store.database_.get(), sql, -1, &statement_, nullptr) != SQLITE_OK) {
+      store.Fail();
+    }
+  }
+  ~Statement() { sqlite3_finalize(statement_); }
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+
+  void Bind(int parameter, const std::string& bytes) {
+    // The bytes outlive the statement.
+    if (sqlite3_bind_blob64(statement_, parameter, bytes.data(), bytes.size(), SQLITE_STATIC) !=
+        SQLITE_OK) {
+      store_.Fail();
+    }
+  }
+
+  /// True while there is a row.
+  bool Step() {
+    const int result = sqlite3_step(statement_);
+    if (result != SQLITE_ROW && result != SQLITE_DONE) store_.Fail();
+    return result == SQLITE_ROW;
+  }
+
+  std::string Bytes(int column) const {
+    const void* bytes = sqlite3_column_blob(statement_, column);
+    const int length = sqlite3_column_bytes(statement_, column);
+    return bytes == nullptr
+               ? std::string()
+               : std::string(static_cast<const char*>(bytes), static_cast<std::size_t>(length));
+  }
+  int Number(int column) const { return sqlite3_column_int(statement_, column); }
+
+ private:
+  SqliteSettingsStore& store_;
+  sqlite3_stmt* statement_ = nullptr;
+};
+
+void SqliteSettingsStore::Closer::operator()(sqlite3* database) const { sqlite3_close(database); }
+
+SqliteSettingsStore::SqliteSettingsStore(std::string path) : path_(std::move(path)) {
+  try {
+    MakePrivateFile(path_);
+  } catch (const posix::FileProblem& problem) {
+    Fail(problem.what());
+  }
+  Open();
+  MakeSchema();
+}
+
+SqliteSettingsStore::~SqliteSettingsStore() = default;
+
+void SqliteSettingsStore::Open() {
+  sqlite3* database = nullptr;
+  const int result =
+      sqlite3_open_v2(AsFileName(path_).c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
+  database_.reset(database);
+  if (result != SQLITE_OK) Fail();
+  sqlite3_extended_result_codes(database, 1);
+  sqlite3_busy_timeout(database, kPatienceMilliseconds);
+}
+
+void SqliteSettingsStore::MakeSchema() {
+  if (Number("PRAGMA user_version") == kSchemaVersion) return RefuseIfDamaged();
+  // Somebody else may be making it at this moment: look again when nobody can.
+  Execute("BEGIN IMMEDIATE");
+  const int version = Number("PRAGMA user_version");
+  if (version > kSchemaVersion) {
+    Fail("it was written by a newer version of this program");
+  }
+  if (version < 0 || (version == 0 && Number("SELECT count(*) FROM sqlite_schema") > 0)) {
+    Fail("it is no settings store");
+  }
+  // Writing into a damaged file may fail half-way, which changes it.
+  RefuseIfDamaged();
+  if (version == 0) Execute(kSchema);
+  Execute("COMMIT");
+}
+
+/// Of itself SQLite only notices damage that it cannot read past: the rest would give wrong
+/// answers.
+void SqliteSettingsStore::RefuseIfDamaged() {
+  {
+    Statement check(*this, "PRAGMA integrity_check(1)");
+    if (!check.Step() || check.Bytes(0) != "ok") Fail("it is damaged");
+  }
+  // Pages that are remembered from the check would hide what happens to the file later.
+  sqlite3_db_release_memory(database_.get());
+}
+
+std::optional<std::string> SqliteSettingsStore::GetSetting(const std::string& section,
+                                                           const std::string& key) {
+  const std::string sectionFolded = AsciiLower(section);
+  const std::string keyFolded = AsciiLower(key);
+  Statement select(*this,
+                   "SELECT value FROM settings WHERE section_folded = ?1 AND key_folded = ?2");
+  select.Bind(1, sectionFolded);
+  select.Bind(2, keyFolded);
+  if (!select.Step()) return std::nullopt;
+  return select.Bytes(0);
+}
+
+std::vector<SettingsStore::Entry> SqliteSettingsStore::GetAllSettings(const std::string& section) {
+  const std::string sectionFolded = AsciiLower(section);
+  Statement select(*this,
+                   "SELECT key, value FROM settings WHERE section_folded = ?1 ORDER BY place");
+  select.Bind(1, sectionFolded);
+  std::vector<Entry> entries;
+  while (select.Step()) entries.emplace_back(select.Bytes(0), select.Bytes(1));
+  return entries;
+}
+
+void SqliteSettingsStore::SaveSetting(const std::string& section, const std::string& key,
+                                      const std::string& value) {
+  const std::string sectionFolded = AsciiLower(section);
+  const std::string keyFolded = AsciiLower(key);
+  Statement insert(*this,
+                   "INSERT INTO settings (section, key, value, section_folded, key_folded)"
+                   " VALUES (?1, ?2, ?3, ?4, ?5)"
+                   " ON CONFLICT (section_folded, key_folded) DO UPDATE SET value = ?3");
+  insert.Bind(1, section);
+  insert.Bind(2, key);
+  insert.Bind(3, value);
+  insert.Bind(4, sectionFolded);
+  insert.Bind(5, keyFolded);
+  insert.Step();
+}
+
+void SqliteSettingsStore::SaveSettings(const std::string& section,
+                                       const std::vector<Entry>& entries) {
+  Execute("BEGIN IMMEDIATE");
+  try {
+    for (const auto& [key, value] : entries) SaveSetting(section, key, value);
+    Execute("COMMIT");
+  } catch (const RuntimeError&) {
+    sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    throw;
+  }
+}
+
+void SqliteSettingsStore::DeleteSetting(const std::string& section, const std::string& key) {
+  const std::string sectionFolded = AsciiLower(section);
+  const std::string keyFolded = AsciiLower(key);
+  Statement remove(*this, "DELETE FROM settings WHERE section_folded = ?1 AND key_folded = ?2");
+  remove.Bind(1, sectionFolded);
+  remove.Bind(2, keyFolded);
+  remove.Step();
+}
+
+void SqliteSettingsStore::Execute(const char* sql) {
+  if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) Fail();
+}
+
+int SqliteSettingsStore::Number(const char* sql) {
+  Statement statement(*this, sql);
+  return statement.Step() ? statement.Number(0) : 0;
+}
+
+void SqliteSettingsStore::Fail(const std::string& reason) const {
+  throw RuntimeError("Cannot use the settings store " + path_ + ": " + reason + ".");
+}
+
+void SqliteSettingsStore::Fail() const { Fail(sqlite3_errmsg(database_.get())); }
+
+}  // namespace tessel

@@ -1,0 +1,55 @@
+// Settings in a file that several programs may use at once.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "services/Services.h"
+
+struct sqlite3;
+
+namespace tessel {
+
+/// The settings store of the user: $ZANTHMAN_STORE, else ZanthMan/settings.db under
+/// $XDG_CONFIG_HOME, else under .config in $HOME.
+std::string DefaultSettingsPath();
+
+/// A SQLite file. Opening it makes it, readable for its user alone, where it is missing, and the
+/// directories on the way to it. Keys, names and values are any bytes. Every call is a transaction
+/// of its own and waits up to two seconds for another program's.
+///
+/// A file that is damaged, locked for longer, no settings store or one of a newer version is a
+/// RuntimeError that names it, in the constructor or in a later call.
+class SqliteSettingsStore : public SettingsStore {
+ public:
+  explicit SqliteSettingsStore(std::string path);
+  ~SqliteSettingsStore() override;
+
+  std::optional<std::string> GetSetting(const std::string& section,
+                                        const std::string& key) override;
+  std::vector<Entry> GetAllSettings(const std::string& section) override;
+  void SaveSetting(const std::string& section, const std::string& key,
+                   const std::string& value) override;
+  void SaveSettings(const std::string& section, const std::vector<Entry>& entries) override;
+  void DeleteSetting(const std::string& section, const std::string& key) override;
+
+ private:
+  class Statement;
+  struct Closer {
+    void operator()(sqlite3* database) const;
+  };
+
+  void Open();
+  void MakeSchema();
+  void RefuseIfDamaged();
+  void Execute(const char* sql);
+  int Number(const char* sql);
+  [[noreturn]] void Fail(const std::string& reason) const;
+  [[noreturn]] void Fail() const;
+
+  std::string path_;
+  std::unique_ptr<sqlite3, Closer> database_;
+};
+
+}  // namespace tessel

@@ -1,0 +1,40 @@
+#include "qt/editor/ScintillaViewColours.h"
+
+#include <Qsci/qsciscintillabase.h>
+
+#include <algorithm>
+
+namespace tessel {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+// Styles from STYLE_DEFAULT to STYLE_LASTPREDEFINED are Scintilla's own.
+int StyleAfter(int style) {
+  return style + 1 == Sci::STYLE_DEFAULT ? Sci::STYLE_LASTPREDEFINED + 1 : style + 1;
+}
+
+}  // namespace
+
+int ScintillaViewColours::StyleOf(Colour colour) {
+  const auto has = [&](int style) { return ColourOf(style) == colour; };
+  if (const auto it = std::ranges::find_if(styles_, has); it != styles_.end()) return *it;
+  const int next = StyleAfter(styles_.back());
+  if (next > Sci::STYLE_MAX) return styles_.back();
+  styles_.push_back(next);
+  colourOfStyle_[static_cast<std::size_t>(next)] = colour;
+  Paint(next);
+  return next;
+}
+
+void ScintillaViewColours::SetTheme(const EditorTheme& theme) {
+  theme_ = theme;
+  for (const int style : styles_) Paint(style);
+}
+
+void ScintillaViewColours::Paint(int style) const {
+  widget_.SendScintilla(Sci::SCI_STYLESETFORE, static_cast<unsigned long>(style),
+                        theme_.PaintOf(ColourOf(style)));
+}
+
+}  // namespace tessel

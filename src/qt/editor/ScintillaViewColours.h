@@ -1,0 +1,36 @@
+// The styles by which a Scintilla document knows the colours of its text.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "qt/editor/EditorTheme.h"
+#include "text/TextTypes.h"
+
+class QsciScintillaBase;
+
+namespace tessel {
+
+/// Gives each colour a Scintilla style of its own, and paints the styles by a theme. The model's
+/// colour and the paint are two things: the theme may paint a colour lighter or darker.
+///
+/// Scintilla leaves 248 styles; should a text have more colours, the rest share the last style.
+class ScintillaViewColours {
+ public:
+  explicit ScintillaViewColours(QsciScintillaBase& widget) : widget_(widget) {}
+
+  /// The style for a colour; makes one when it is new.
+  int StyleOf(Colour colour);
+  Colour ColourOf(int style) const { return colourOfStyle_[static_cast<std::size_t>(style)]; }
+  void SetTheme(const EditorTheme& theme);
+
+ private:
+  void Paint(int style) const;
+
+  QsciScintillaBase& widget_;
+  EditorTheme theme_;
+  std::vector<int> styles_ = {0};  // in use, in the order of their making; style 0 is black
+  std::array<Colour, 256> colourOfStyle_ = {};
+};
+
+}  // namespace tessel

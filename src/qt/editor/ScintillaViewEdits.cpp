@@ -1,0 +1,49 @@
+#include "qt/editor/ScintillaViewEdits.h"
+
+#include <utility>
+
+#include "qt/base/Windows1252Qt.h"
+
+namespace tessel {
+
+void ScintillaViewEdits::ReadInsertion() {
+  if (!unread_) return;
+  const auto bytes = BytesOfUtf8(document_.Utf8(unread_->at, unread_->length));
+  document_.NoteInsertion(unread_->at, unread_->length);
+  unread_.reset();
+  if (bytes) {
+    edits_.back().inserted += *bytes;
+  } else {
+    refused_ = true;
+  }
+}
+
+void ScintillaViewEdits::BeforeInsertion(SciPosition at, SciPosition length) {
+  ReadInsertion();
+  const Position offset = document_.OffsetOf(at);
+  const bool goesOn =
+      !edits_.empty() && edits_.back().at + std::ssize(edits_.back().inserted) == offset;
+  if (!goesOn) edits_.push_back({offset, 0, {}});
+  unread_ = Insertion{at, length};
+}
+
+void ScintillaViewEdits::BeforeDeletion(SciPosition at, SciPosition length) {
+  ReadInsertion();
+  edits_.push_back({document_.OffsetOf(at), CharactersOfUtf8(document_.Utf8(at, length)), {}});
+  document_.NoteDeletion(at, length);
+}
+
+std::optional<std::vector<ScintillaViewEdit>> ScintillaViewEdits::Take() {
+  ReadInsertion();
+  auto edits = std::exchange(edits_, {});
+  if (std::exchange(refused_, false)) return std::nullopt;
+  return edits;
+}
+
+void ScintillaViewEdits::Forget() {
+  edits_.clear();
+  unread_.reset();
+  refused_ = false;
+}
+
+}  // namespace tessel

@@ -1,0 +1,100 @@
+#include "qt/services/QtFileDialogs.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QRegularExpression>
+
+#include "models/CommonDialog.h"
+#include "posix/PathResolution.h"
+#include "posix/Posix.h"
+#include "qt/base/QtText.h"
+#include "qt/services/DialogOwner.h"
+
+namespace tessel {
+namespace {
+
+void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
+  const bool open = request.kind == FileDialogRequest::Kind::kOpen;
+  dialog.setWindowTitle(open ? QObject::tr("Open") : QObject::tr("Save As"));
+  dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  if (!open) {
+    dialog.setFileMode(QFileDialog::AnyFile);
+  } else {
+    dialog.setFileMode(request.flags & kAllowMultiSelect ? QFileDialog::ExistingFiles
+                                                         : QFileDialog::ExistingFile);
+  }
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !(request.flags & kOverwritePrompt));
+  dialog.setDirectory(QFile::decodeName(request.initDir.c_str()));
+
+  const QStringList filters = NameFilters(request.filter);
+  dialog.setNameFilters(filters);
+  if (request.filterIndex >= 1 && request.filterIndex <= filters.size()) {
+    dialog.selectNameFilter(filters[request.filterIndex - 1]);
+  }
+  if (!request.fileName.empty()) dialog.selectFile(QFile::decodeName(request.fileName.c_str()));
+}
+
+/// The extension that the first pattern asks for: a name typed without one gets it.
+QString SuffixOf(std::string_view filter) {
+  static const QRegularExpression kExtension(R"(\|\*\.(\w+))");
+  return kExtension.match(ShownText(filter)).captured(1);
+}
+
+std::vector<std::string> Chosen(const QFileDialog& dialog) {
+  std::vector<std::string> chosen;
+  for (const QString& file : dialog.selectedFiles()) {
+    chosen.push_back(QFile::encodeName(QFileInfo(file).absoluteFilePath()).toStdString());
+  }
+  return chosen;
+}
+
+/// The toolkit asks before a file of exactly the chosen name is replaced. One whose name differs in
+/// case would be written to as well: this asks about that, and true chooses its spelling.
+bool TakeSpellingOfExisting(QFileDialog& dialog, std::string& path) {
+  const std::string existing = posix::ResolveIgnoringCase(path);
+  if (existing == path || !posix::StatusOf(existing)) return true;
+  const QString name = QFileInfo(QFile::decodeName(existing.c_str())).fileName();
+  QMessageBox question(QMessageBox::Warning, dialog.windowTitle(),
+                       QObject::tr("%1 already exists.\nDo you want to replace it?").arg(name),
+                       QMessageBox::Yes | QMessageBox::No, &dialog);
+  question.setTextFormat(Qt::PlainText);
+  question.setDefaultButton(QMessageBox::No);
+  path = existing;
+  return question.exec() == QMessageBox::Yes;
+}
+
+}  // namespace
+
+QStringList NameFilters(std::string_view filter) {
+  const QStringList parts = ShownText(filter).split('|');
+  static const QRegularExpression kPatternInDescription(R"(\s*\([^)]*\)\s*$)");
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QString description = parts[i];
+    description.remove(kPatternInDescription);
+    const QString pattern = parts[i + 1];
+    const QString upper = pattern.toUpper();
+    const QString patterns = pattern == upper ? pattern : pattern + " " + upper;
+    filters += description + " (" + patterns + ")";
+  }
+  return filters;
+}
+
+std::optional<std::vector<std::string>> QtFileDialogs::Show(const FileDialogRequest& request) {
+  QFileDialog dialog(DialogOwner());
+  Prepare(dialog, request);
+  if (request.kind == FileDialogRequest::Kind::kSave) {
+    dialog.setDefaultSuffix(SuffixOf(request.filter));
+  }
+  while (dialog.exec() == QDialog::Accepted) {
+    std::vector<std::string> chosen = Chosen(dialog);
+    if (chosen.empty()) return std::nullopt;
+    const bool asks = (request.flags & kOverwritePrompt) != 0;
+    if (!asks || TakeSpellingOfExisting(dialog, chosen.front())) return chosen;
+  }
+  return std::nullopt;
+}
+
+}  // namespace tessel

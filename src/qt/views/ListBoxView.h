@@ -1,0 +1,33 @@
+// A list box on the screen.
+#pragma once
+
+#include <QListWidget>
+#include <string>
+#include <vector>
+
+#include "models/Lists.h"
+
+namespace tessel {
+
+/// Shows a ListBox. A click, a double click and the arrow keys are a person's picks.
+class ListBoxView : public QListWidget {
+  Q_OBJECT
+
+ public:
+  ListBoxView(ListBox& model, QWidget* parent);
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  void Draw();
+  void DrawEntries();
+
+  ListBox& model_;
+  std::vector<std::string> shown_;
+  Subscription refresh_;
+};
+
+}  // namespace tessel

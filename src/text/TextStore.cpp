@@ -1,0 +1,160 @@
+#include "text/TextStore.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/RuntimeError.h"
+
+namespace tessel {
+namespace {
+
+constexpr std::size_t kMostColours = 256;
+
+}  // namespace
+
+void TextStore::Assign(std::string bytes) {
+  const Position before = Length();
+  colours_ = std::string(bytes.size(), '\0');  // may throw: before anything has changed
+  bytes_ = std::move(bytes);
+  palette_.assign(1, kBlack);
+  EmptyUndoBuffer();
+  if (view_ != nullptr) view_->Replaced(0, before, Length());
+}
+
+void TextStore::Replace(Position at, Position length, std::string_view inserted, Colour colour) {
+  if (length == 0 && inserted.empty()) return;
+  // What may throw comes first: without room nothing has changed.
+  const char index = PaletteIndex(colour);
+  MakeRoom(length, inserted);
+  Step* step = stepStarted_ && !undo_.empty() ? &undo_.back() : nullptr;
+  const bool continues = step != nullptr && length == 0 && !step->empty() &&
+                         step->back().at + std::ssize(step->back().inserted) == at;
+  if (continues) {
+    step->back().inserted += inserted;
+  } else {
+    Edit edit{at, bytes_.substr(at, length), std::string(inserted)};
+    if (step == nullptr) step = &undo_.emplace_back();
+    step->push_back(std::move(edit));
+  }
+  redo_.clear();
+  stepStarted_ = openSteps_ > 0;
+  Change(at, length, inserted, index);
+}
+
+void TextStore::MakeRoom(Position length, std::string_view inserted) {
+  const std::size_t size = bytes_.size() - static_cast<std::size_t>(length) + inserted.size();
+  if (size > bytes_.size()) {
+    bytes_.reserve(size);
+    colours_.reserve(size);
+  }
+}
+
+void TextStore::Change(Position at, Position length, std::string_view inserted, char colourIndex) {
+  MakeRoom(length, inserted);
+  bytes_.replace(at, length, inserted);
+  colours_.replace(at, length, inserted.size(), colourIndex);
+  if (view_ != nullptr) view_->Replaced(at, length, std::ssize(inserted));
+}
+
+char TextStore::PaletteIndex(Colour colour) {
+  const auto it = std::ranges::find(palette_, colour);
+  if (it != palette_.end()) return static_cast<char>(it - palette_.begin());
+  if (palette_.size() == kMostColours) {
+    throw RuntimeError("A document cannot hold more than 256 colours.");
+  }
+  palette_.push_back(colour);
+  return static_cast<char>(palette_.size() - 1);
+}
+
+Colour TextStore::ColourAt(Position at) const {
+  return palette_[static_cast<unsigned char>(colours_[at])];
+}
+
+std::optional<Colour> TextStore::UniformColour(Position at, Position length) const {
+  if (length == 0) return std::nullopt;
+  const char* first = colours_.data() + at;
+  // A range is uniform when it equals itself shifted by one.
+  if (std::memcmp(first, first + 1, static_cast<std::size_t>(length - 1)) != 0) return std::nullopt;
+  return ColourAt(at);
+}
+
+void TextStore::Paint(Position at, Position length, Colour colour) {
+  const char index = PaletteIndex(colour);
+  std::fill_n(colours_.begin() + at, length, index);
+  if (view_ != nullptr) view_->Painted(at, length);
+}
+
+std::vector<ColourRun> TextStore::Runs(Position at, Position length) const {
+  std::vector<ColourRun> runs;
+  const Position end = at + length;
+  while (at < end) {
+    const auto next = static_cast<Position>(
+        std::min(colours_.find_first_not_of(colours_[at], at), static_cast<std::size_t>(end)));
+    runs.push_back({at, next - at, ColourAt(at)});
+    at = next;
+  }
+  return runs;
+}
+
+Colour TextStore::InheritedColour(Position at, Position length) const {
+  if (length > 0) return ColourAt(at);
+  return at > 0 ? ColourAt(at - 1) : kBlack;
+}
+
+void TextStore::BeginStep(bool joinPrevious) {
+  if (openSteps_++ == 0) stepStarted_ = joinPrevious && !undo_.empty();
+}
+
+void TextStore::EndStep() {
+  if (--openSteps_ == 0) stepStarted_ = false;
+}
+
+std::optional<Position> TextStore::Undo() {
+  if (undo_.empty()) return std::nullopt;
+  Step step = std::move(undo_.back());
+  undo_.pop_back();
+  Position caret = 0;
+  for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
+    const Position length = std::ssize(edit->inserted);
+    Change(edit->at, length, edit->removed, PaletteIndex(InheritedColour(edit->at, length)));
+    caret = edit->at + std::ssize(edit->removed);
+  }
+  redo_.push_back(std::move(step));
+  return caret;
+}
+
+std::optional<Position> TextStore::Redo() {
+  if (redo_.empty()) return std::nullopt;
+  Step step = std::move(redo_.back());
+  redo_.pop_back();
+  Position caret = 0;
+  for (const Edit& edit : step) {
+    const Position length = std::ssize(edit.removed);
+    Change(edit.at, length, edit.inserted, PaletteIndex(InheritedColour(edit.at, length)));
+    caret = edit.at + std::ssize(edit.inserted);
+  }
+  undo_.push_back(std::move(step));
+  return caret;
+}
+
+void TextStore::EmptyUndoBuffer() {
+  undo_.clear();
+  redo_.clear();
+  stepStarted_ = false;
+}
+
+TextStore::Snapshot TextStore::TakeSnapshot() const {
+  return {bytes_, colours_, palette_, undo_, redo_};
+}
+
+void TextStore::Restore(Snapshot snapshot) {
+  const Position before = Length();
+  bytes_ = std::move(snapshot.bytes);
+  colours_ = std::move(snapshot.colours);
+  palette_ = std::move(snapshot.palette);
+  undo_ = std::move(snapshot.undo);
+  redo_ = std::move(snapshot.redo);
+  if (view_ != nullptr) view_->Replaced(0, before, Length());
+}
+
+}  // namespace tessel

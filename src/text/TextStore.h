@@ -1,0 +1,102 @@
+// The bytes of one document with their colours and the undo history.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/TextTypes.h"
+
+namespace tessel {
+
+/// Something that shows a store's text and has to follow its changes.
+class TextStoreView {
+ public:
+  virtual ~TextStoreView() = default;
+  /// `removed` bytes at `at` gave way to `inserted` new ones, which the store holds already.
+  virtual void Replaced(Position at, Position removed, Position inserted) = 0;
+  /// The bytes in [at, at + length) have a new colour.
+  virtual void Painted(Position at, Position length) = 0;
+};
+
+/// A text of single-byte characters in one contiguous buffer, a colour for each, and what undo
+/// needs. The store knows nothing of selections, searching or notifications: those rules are
+/// RichTextBox's. Positions are taken on trust: 0 ≤ at, at + length ≤ Length().
+class TextStore {
+ public:
+  std::string_view Bytes() const { return bytes_; }
+  Position Length() const { return std::ssize(bytes_); }
+
+  /// Replaces everything; black; nothing to undo.
+  void Assign(std::string bytes);
+  /// Replaces a range by text of one colour and records it as an undo step of its own, or as part
+  /// of the step that BeginStep opened or continued. Replacing nothing by nothing is no step.
+  void Replace(Position at, Position length, std::string_view inserted, Colour colour);
+
+  Colour ColourAt(Position at) const;
+  /// The one colour of a range, or nothing when it is mixed or empty.
+  std::optional<Colour> UniformColour(Position at, Position length) const;
+  /// Colours are no undo step. A store holds at most 256 different colours: a RuntimeError beyond.
+  void Paint(Position at, Position length, Colour colour);
+  /// For a view: each byte's colour as an index into the palette. Valid until the next change.
+  std::string_view ColourIndices() const { return colours_; }
+  const std::vector<Colour>& Palette() const { return palette_; }
+  /// All maximal runs of one colour, in order; black ones too.
+  std::vector<ColourRun> Runs(Position at, Position length) const;
+
+  /// Edits until EndStep are undone together. With `joinPrevious` they also join the step before.
+  void BeginStep(bool joinPrevious);
+  void EndStep();
+
+  bool CanUndo() const { return !undo_.empty(); }
+  bool CanRedo() const { return !redo_.empty(); }
+  /// Takes the last step back (or performs it again); restored text takes the colour that inserted
+  /// text takes. Returns the position behind the restored text, or nothing when there is no step.
+  std::optional<Position> Undo();
+  std::optional<Position> Redo();
+  void EmptyUndoBuffer();
+
+  /// What a document looked like, to go back to it whole: text, colours, undo history.
+  struct Snapshot;
+  Snapshot TakeSnapshot() const;
+  void Restore(Snapshot snapshot);
+
+  /// The view to be told of changes, or null.
+  void SetView(TextStoreView* view) { view_ = view; }
+
+  /// The colour that text inserted over a range takes by itself: that of the first replaced
+  /// character, else of the character before it, else black.
+  Colour InheritedColour(Position at, Position length) const;
+
+ private:
+  struct Edit {
+    Position at = 0;
+    std::string removed;
+    std::string inserted;
+  };
+  using Step = std::vector<Edit>;
+
+  void MakeRoom(Position length, std::string_view inserted);
+  void Change(Position at, Position length, std::string_view inserted, char colourIndex);
+  char PaletteIndex(Colour colour);
+
+  std::string bytes_;
+  std::string colours_;  // an index into palette_ for each byte
+  std::vector<Colour> palette_ = {kBlack};
+  std::vector<Step> undo_;
+  std::vector<Step> redo_;
+  int openSteps_ = 0;
+  bool stepStarted_ = false;
+  TextStoreView* view_ = nullptr;
+};
+
+struct TextStore::Snapshot {
+  std::string bytes;
+  std::string colours;
+  std::vector<Colour> palette;
+  std::vector<Step> undo;
+  std::vector<Step> redo;
+};
+
+}  // namespace tessel
