@@ -37,8 +37,10 @@ bool ConvertFile(const std::string& file, const Options& options) {
   session.Messages().prefix = file + ": ";
   std::vector<StepResult> results;
   const bool converted = session.Run([&] {
-    session.Control().RunCommand(
-        [&] { results = ConvertUserCon(session.Controls(), session.World()); });
+    session.Control().Run([&] {
+      results = ConvertUserCon(session.Editor(), session.World().pointer, session.World().messages,
+                               [] {});
+    });
   });
   if (!converted) return false;
   if (options.report) Report(file, results);

@@ -2,24 +2,23 @@
 
 #include <filesystem>
 
-#include "documents/DocumentSlots.h"
 #include "posix/HostDirectory.h"
 
 namespace tessel::cli {
 
 DocumentSession::DocumentSession(std::uint32_t seed)
     : random_(seed),
-      services_{messages_,
-                fileDialogs_,
-                forms_,
-                clipboard_,
-                settings_,
-                pointer_,
-                files_,
-                random_,
-                focus_,
-                loop_,
-                DefaultHostDirectory()},
+      services_{.messages = messages_,
+                .fileDialogs = fileDialogs_,
+                .forms = forms_,
+                .clipboard = clipboard_,
+                .settings = settings_,
+                .pointer = pointer_,
+                .files = files_,
+                .random = random_,
+                .focus = focus_,
+                .loop = loop_,
+                .hostDirectory = DefaultHostDirectory()},
       control_(services_) {
   control_.Initialize();
   Controls().tbToolBar.SetPressed("Colorize", false);
@@ -56,6 +55,6 @@ bool DocumentSession::Run(const std::function<void()>& command) {
   return !messages_.Shown();
 }
 
-RichTextBox& DocumentSession::Editor() { return CurrentEditor(Controls()); }
+RichTextBox& DocumentSession::Editor() { return control_.OpenDocuments().CurrentEditor(); }
 
 }  // namespace tessel::cli

@@ -3,7 +3,8 @@
 #include <iterator>
 
 #include "colouring/ColorWords.h"
-#include "documents/DocumentSlots.h"
+#include "surface/ColourMode.h"
+#include "surface/Parked.h"
 
 namespace tessel {
 namespace {
@@ -103,21 +104,13 @@ void ColourAllWords(RichTextBox& editor) {
 }  // namespace
 
 void ColorizeDocument(RichTextBox& editor, const std::function<void(const std::string&)>& status) {
-  if (editor.Tag() == kColourMode) return;
-  editor.SetTag(kColourMode);
+  if (ColourModeOf(editor) == ColourMode::kColoured) return;
+  SetColourMode(editor, ColourMode::kColoured);
   status(kWorkingText);
-
-  editor.SetVisible(false);
-  editor.SetLeft(kParkedLeft);
-  editor.SetHideSelection(true);
-  editor.SetSelStart(0);
-  ColourAllWords(editor);
-  editor.SetHideSelection(false);
-  editor.SetSelStart(0);
-  editor.SetSelLength(0);
-  editor.SetLeft(0);
-  editor.SetVisible(true);
-
+  {
+    const Parked parked(editor, Parked::Left::kInFront, Parked::Selection::kHidden);
+    ColourAllWords(editor);
+  }
   status(kReadyText);
 }
 

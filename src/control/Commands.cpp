@@ -2,12 +2,11 @@
 
 #include <utility>
 
-#include "converter/Converter.h"
-#include "documents/DocumentSlots.h"
 #include "documents/Documents.h"
 #include "documents/Templates.h"
 #include "randomizer/Randomizer.h"
 #include "settings/SettingsPanel.h"
+#include "surface/CurrentEditor.h"
 #include "text/Text.h"
 #include "tools/EditCommands.h"
 #include "tools/Search.h"
@@ -87,8 +86,8 @@ Commands::Table Buttons(const CommandTargets& t, const EditorActions& editor) {
       {"RandAll", Randomize(t.randomizer, "All")},
       {"RandSec", [&r = t.randomizer,
                    &c = t.controls] { r.RandomizeSection(c.tbsCon.At(c.tbsCon.Selected()).key); }},
-      {"Convert", [&c = t.controls, &s = t.services] { ConvertUserCon(c, s); }},
-      {"Colorize", [&d = t.documents] { d.ApplyColourMode(); }},
+      {"Convert", t.convert},
+      {"Colorize", t.applyColourMode},
       {"ShowTabs", [&panel = t.settings,
                     &c = t.controls] { panel.ShowSettingsPanel(c.tbToolBar.Pressed("ShowTabs")); }},
   };

@@ -26,6 +26,8 @@ struct CommandTargets {
   WordPanel& words;
   Search& search;
   Randomizer& randomizer;
+  std::function<void()> convert;
+  std::function<void()> applyColourMode;
 };
 
 /// Commands by key. Keys are compared exactly; an unknown one does nothing.

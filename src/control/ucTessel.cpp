@@ -5,14 +5,16 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "base/ScopeGuard.h"
+#include "colouring/ColourCommand.h"
+#include "colouring/Colouring.h"
 #include "control/Commands.h"
+#include "control/Wiring.h"
 #include "converter/Converter.h"
-#include "documents/DocumentSlots.h"
 #include "documents/Documents.h"
 #include "documents/RecentFiles.h"
 #include "randomizer/Randomizer.h"
 #include "services/Paths.h"
-#include "services/ScopeGuard.h"
 #include "settings/Levels.h"
 #include "settings/SettingsPanel.h"
 #include "surface/Layout.h"
@@ -25,6 +27,11 @@ namespace {
 constexpr int kKeyF = 70;
 constexpr int kKeyF3 = 114;
 constexpr int kCtrlOnly = 2;
+
+DocumentHost& NobodyToAsk() {
+  static SilentHost host;
+  return host;
+}
 
 }  // namespace
 
@@ -49,17 +56,43 @@ class ucTessel::CommandsInForms : public ModalForms {
 ucTessel::ucTessel(const Services& services, const Options& options)
     : options_(options),
       modalForms_(std::make_unique<CommandsInForms>(services.forms, commandDepth_)),
-      services_{services.messages, services.fileDialogs, *modalForms_,          services.clipboard,
-                services.settings, services.pointer,     services.files,        services.random,
-                services.focus,    services.loop,        services.hostDirectory},
-      levels_(std::make_unique<Levels>(controls_, services_, conPath_)),
-      settings_(std::make_unique<SettingsPanel>(controls_, *levels_)),
-      documents_(std::make_unique<Documents>(
-          controls_, services_, *levels_, conPath_,
-          [this](const std::string& text) { SettingTextColor.Raise(text); })),
-      words_(std::make_unique<WordPanel>(controls_, services_, *settings_)),
-      search_(std::make_unique<Search>(controls_, services_)),
-      randomizer_(std::make_unique<Randomizer>(controls_, services_, *settings_)) {
+      services_{.messages = services.messages,
+                .fileDialogs = services.fileDialogs,
+                .forms = *modalForms_,
+                .clipboard = services.clipboard,
+                .settings = services.settings,
+                .pointer = services.pointer,
+                .files = services.files,
+                .random = services.random,
+                .focus = services.focus,
+                .loop = services.loop,
+                .hostDirectory = services.hostDirectory},
+      levels_(std::make_unique<Levels>(documentList_, LevelsControls(controls_),
+                                       LevelsServices(services_), conPath_)),
+      settings_(std::make_unique<SettingsPanel>(documentList_, SettingsControls(controls_),
+                                                *levels_, [this] { Layout(controls_); })),
+      documents_(std::make_unique<Documents>(Documents::Uses{
+          .list = documentList_,
+          .tbToolBar = controls_.tbToolBar,
+          .dlgCommon = controls_.dlgCommon,
+          .messages = services_.messages,
+          .fileDialogs = services_.fileDialogs,
+          .settings = services_.settings,
+          .files = services_.files,
+          .host = options.host != nullptr ? *options.host : NobodyToAsk(),
+          .hostDirectory = services_.hostDirectory,
+          .conPath = conPath_,
+          .applyColourMode = [this] { ApplyColourMode(); },
+          .colorize =
+              [this](RichTextBox& editor) {
+                ColorizeDocument(editor,
+                                 [this](const auto& text) { SettingTextColor.Raise(text); });
+              }})),
+      words_(std::make_unique<WordPanel>(documentList_, WordControls(controls_),
+                                         WordServices(services_), *settings_)),
+      search_(std::make_unique<Search>(documentList_, services_.forms, services_.messages)),
+      randomizer_(std::make_unique<Randomizer>(documentList_, RandomizerControls(controls_),
+                                               RandomizerServices(services_), *settings_)) {
   forms_ = {&search_->Form(), &words_->Editor().Form(), &randomizer_->Form()};
   settings_->tbsCon_Click();
   ConnectCommands();
@@ -115,22 +148,38 @@ void ucTessel::SetTesselVersion(std::string& version) {
 
 void ucTessel::SetTesselVersion(std::string& /*version*/, std::string& /*defaultVersion*/) {}
 
-void ucTessel::Convert() {
-  RunCommand([this] { ConvertUserCon(controls_, services_); });
+bool ucTessel::Convert() {
+  return Run([this] { ConvertDocument(); });
 }
 
-void ucTessel::OpenFile(const std::string& path) {
-  RunCommand([&] { documents_->OpenFile(path); });
+void ucTessel::ConvertDocument() {
+  const Document document = documentList_.Current();
+  ConvertUserCon(document.Editor(), services_.pointer, services_.messages,
+                 [&] { documents_->MarkModified(document.Place()); });
 }
 
-void ucTessel::ReloadDocument() {
-  RunCommand([this] { documents_->ReloadDocument(); });
+bool ucTessel::OpenFile(const std::string& path) {
+  return Run([&] { documents_->OpenFile(path); });
+}
+
+bool ucTessel::ReloadDocument() {
+  return Run([this] { documents_->ReloadDocument(); });
+}
+
+bool ucTessel::ShowAsUntitled(const std::string& text) {
+  return Run([&] { documents_->ShowAsUntitled(text); });
 }
 
 bool ucTessel::CloseAll() {
   bool closed = false;
-  RunCommand([&] { closed = documents_->CloseAll(); });
+  Run([&] { closed = documents_->CloseAll(); });
   return closed;
+}
+
+bool ucTessel::Run(const std::function<void()>& command) {
+  if (Running()) return false;
+  RunCommand(command);
+  return true;
 }
 
 void ucTessel::RunCommand(const std::function<void()>& command) {
@@ -150,9 +199,14 @@ void ucTessel::RunCommand(const std::function<void()>& command) {
 
 void ucTessel::HoldDocument() {
   if (!options_.dialogHoldsDocument) return;
-  const std::string& tag = controls_.tbsRtb.At(controls_.tbsRtb.Selected()).tag;
-  const std::string path = tag == kUntitled ? std::string() : tag;
+  const std::string path = documentList_.Current().Path();
   controls_.dlgCommon.SetHeld({path, NameOfPath(path, services_.files.Separator())});
+}
+
+void ucTessel::ApplyColourMode() {
+  tessel::ApplyColourMode(controls_.tbToolBar.Pressed("Colorize"), documentList_.CurrentEditor(),
+                          services_.pointer,
+                          [this](const std::string& text) { SettingTextColor.Raise(text); });
 }
 
 void ucTessel::ShowError(const std::string& text) {
@@ -161,7 +215,7 @@ void ucTessel::ShowError(const std::string& text) {
   for (int slot = 0; slot < controls_.rtbCon.Count(); ++slot) {
     controls_.rtbCon[slot].SetVisible(true);
   }
-  CurrentEditor(controls_).SetLeft(0);
+  documentList_.CurrentEditor().SetLeft(0);
   services_.messages.Show(text, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
 }
 
@@ -172,8 +226,9 @@ void ucTessel::On(Event<Args...>& event, Handler handler) {
 }
 
 void ucTessel::ConnectCommands() {
-  commands_ = MakeCommands(
-      {controls_, services_, *settings_, *documents_, *words_, *search_, *randomizer_});
+  commands_ =
+      MakeCommands({controls_, services_, *settings_, *documents_, *words_, *search_, *randomizer_,
+                    [this] { ConvertDocument(); }, [this] { ApplyColourMode(); }});
   On(controls_.tbToolBar.ButtonClick,
      [this](const ToolbarButton& button) { commands_.RunButton(button.key); });
   On(controls_.tbToolBar.ButtonMenuClick,
@@ -188,10 +243,15 @@ void ucTessel::ConnectDocuments() {
   On(controls_.tbsRtb.Click, [this] { documents_->ShowSelectedDocument(); });
   for (int i = 0; i < controls_.rtbCon.Count(); ++i) ConnectEditor(controls_.rtbCon[i]);
   On(controls_.rtbCon.Loaded, [this](RichTextBox& editor) { ConnectEditor(editor); });
+  // A command is on its way then.
+  subscriptions_.push_back(
+      documentList_.Shown.Connect([this](const Document&) { levels_->DocumentShown(); }));
+  subscriptions_.push_back(documentList_.Loaded.Connect(
+      [this](const Document& document) { levels_->DocumentLoaded(document); }));
 }
 
 void ucTessel::ConnectEditor(RichTextBox& editor) {
-  On(editor.Change, [this, slot = editor.Index()] { MarkModified(controls_, slot); });
+  On(editor.Change, [this, slot = Slot{editor.Index()}] { documents_->EditorChanged(slot); });
   On(editor.MouseUp, [this, &editor](MouseButton button) { rtbCon_MouseUp(editor, button); });
 }
 

@@ -9,10 +9,12 @@
 #include "base/Event.h"
 #include "control/Commands.h"
 #include "services/Services.h"
+#include "surface/DocumentList.h"
 #include "surface/HostedControls.h"
 
 namespace tessel {
 
+class DocumentHost;
 class Form;
 class Levels;
 struct SearchState;
@@ -29,6 +31,8 @@ class ucTessel {
     /// The file dialog always holds the file of the document in front (nothing when that has none),
     /// not the file chosen last: so an in-place save keeps the document's name.
     bool dialogHoldsDocument = false;
+    /// Is asked before files are opened and saved; null: nobody is. It outlives the control.
+    DocumentHost* host = nullptr;
   };
 
   /// The services outlive the control.
@@ -50,37 +54,43 @@ class ucTessel {
   /// Accepts its arguments and does nothing; the second may be left out.
   void SetTesselVersion(std::string& version);
   void SetTesselVersion(std::string& version, std::string& defaultVersion);
-  /// Runs the version converter on the current document.
-  void Convert();
+  /// Runs the version converter on the current document. Returns false, with nothing done, while
+  /// another command is on its way.
+  bool Convert();
   /// A status line for the host.
   Event<const std::string&> SettingTextColor;
 
   // --- For the program that hosts the control
-  // A walk of the randomizer lets timers run in between: nothing here that opens, closes, loads or
-  // converts is to be called while Running() is true.
   HostedControls& Controls() { return controls_; }
   const HostedControls& Controls() const { return controls_; }
+  /// The open documents and what happens to them.
+  DocumentList& OpenDocuments() { return documentList_; }
+  const DocumentList& OpenDocuments() const { return documentList_; }
   /// The modal forms, for views and by name.
   const std::vector<Form*>& Forms() const { return forms_; }
-  /// Opens a file as the recent list does; an empty path shows the open dialog.
-  void OpenFile(const std::string& path);
-  /// Takes the current document's text from its file again.
-  void ReloadDocument();
-  /// Asks for every modified document, then closes all. Returns false, with nothing closed, when
-  /// one of them was cancelled.
-  bool CloseAll();
   /// The first directory of the file dialogs.
   const std::string& CONPath() const { return conPath_; }
   const SearchState& LastSearch() const;
-
-  /// Runs a command as every event of a hosted control is run: a RuntimeError that ends the
-  /// outermost command puts the editor and the pointer back and becomes a message.
-  void RunCommand(const std::function<void()>& command);
-  /// True while a command is on its way (not while a modal form waits): no time to close the
-  /// control.
+  /// True while a command is on its way (not while a modal form waits). A walk of the randomizer
+  /// lets timers run in between: that is no time for another command, nor to end the control.
   bool Running() const { return commandDepth_ > 0; }
 
+  // Commands of a host. Each returns false, with nothing done, while another command is on its way.
+  /// Opens a file as the recent list does; an empty path shows the open dialog.
+  bool OpenFile(const std::string& path);
+  /// Takes the current document's text from its file again.
+  bool ReloadDocument();
+  /// Shows a text as a modified document without a file.
+  bool ShowAsUntitled(const std::string& text);
+  /// Asks for every modified document, then closes all. Returns false, with nothing closed, also
+  /// when one of them was cancelled.
+  bool CloseAll();
+  /// Runs any other command, as every event of a hosted control is run: a RuntimeError puts the
+  /// editor and the pointer back and becomes a message.
+  bool Run(const std::function<void()>& command);
+
  private:
+  void RunCommand(const std::function<void()>& command);
   template <class... Args, class Handler>
   void On(Event<Args...>& event, Handler handler);
   void ConnectCommands();
@@ -93,6 +103,8 @@ class ucTessel {
   void rtbCon_MouseUp(const RichTextBox& editor, MouseButton button);
   void ShowError(const std::string& text);
   void HoldDocument();
+  void ApplyColourMode();
+  void ConvertDocument();
 
   class CommandsInForms;
 
@@ -101,6 +113,7 @@ class ucTessel {
   std::unique_ptr<CommandsInForms> modalForms_;
   Services services_;
   HostedControls controls_;
+  DocumentList documentList_{controls_};
   std::string conPath_;
   std::vector<Form*> forms_;
   std::unique_ptr<Levels> levels_;

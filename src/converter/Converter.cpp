@@ -3,10 +3,11 @@
 #include <string>
 #include <utility>
 
+#include "base/ScopeGuard.h"
 #include "converter/EditPrimitives.h"
 #include "converter/modConVersion.h"
-#include "documents/DocumentSlots.h"
-#include "services/ScopeGuard.h"
+#include "services/Hourglass.h"
+#include "surface/Parked.h"
 
 namespace tessel {
 namespace {
@@ -34,16 +35,16 @@ std::vector<StepResult> Convert(RichTextBox& editor) {
 
 }  // namespace
 
-std::vector<StepResult> ConvertUserCon(HostedControls& controls, const Services& services) {
-  const Hourglass hourglass(services.pointer);
-  const int slot = CurrentDocIndex(controls);
-  RichTextBox& editor = controls.rtbCon[slot];
+std::vector<StepResult> ConvertUserCon(RichTextBox& editor, ScreenPointer& pointer,
+                                       MessageBox& messages,
+                                       const std::function<void()>& converted) {
+  const Hourglass hourglass(pointer);
   const ScopeGuard show([&] { editor.SetVisible(true); });
   const Position savedStart = editor.SelStart();
   const Position savedLength = editor.SelLength();
 
   if (const char* refusal = Refusal(editor)) {
-    services.messages.Show(refusal, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
+    messages.Show(refusal, MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
     editor.SetSelStart(savedStart);
     return {};
   }
@@ -51,18 +52,18 @@ std::vector<StepResult> ConvertUserCon(HostedControls& controls, const Services&
   RichTextBox::Snapshot before = editor.TakeSnapshot();
   before.selStart = savedStart;
   before.selLength = savedLength;
-  editor.SetVisible(false);
-  editor.SetLeft(kParkedLeft);
-  try {
-    std::vector<StepResult> results = Convert(editor);
-    editor.SetLeft(0);
-    MarkModified(controls, slot);
-    return results;
-  } catch (...) {
-    editor.Restore(std::move(before));
-    editor.SetLeft(0);
-    throw;
+  std::vector<StepResult> results;
+  {
+    const Parked parked(editor, Parked::Left::kInFront);
+    try {
+      results = Convert(editor);
+    } catch (...) {
+      editor.Restore(std::move(before));
+      throw;
+    }
   }
+  converted();
+  return results;
 }
 
 }  // namespace tessel

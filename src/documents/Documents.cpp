@@ -4,12 +4,10 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "colouring/Colouring.h"
-#include "documents/DocumentSlots.h"
 #include "documents/RecentFiles.h"
 #include "documents/Templates.h"
 #include "services/Paths.h"
-#include "settings/Levels.h"
+#include "surface/Parked.h"
 #include "text/Text.h"
 
 namespace tessel {
@@ -29,104 +27,104 @@ std::string ReadDocument(Files& files, const std::string& path) {
 
 }  // namespace
 
-Documents::Documents(HostedControls& controls, const Services& services, Levels& levels,
-                     const std::string& conPath, StatusText status)
-    : controls_(controls),
-      services_(services),
-      levels_(levels),
-      conPath_(conPath),
-      status_(std::move(status)) {}
-
-void Documents::ApplyColourMode() {
-  tessel::ApplyColourMode(controls_, services_.pointer, status_);
-}
-
 void Documents::ShowSelectedDocument() {
-  const int current = CurrentDocIndex(controls_);
-  for (int slot = 0; slot < controls_.tbsRtb.Count(); ++slot) {
-    RichTextBox& editor = controls_.rtbCon[slot];
-    if (slot != current) {
-      editor.SetLeft(kParkedLeft);
+  const Document current = uses_.list.Current();
+  for (const Document& document : uses_.list.All()) {
+    if (document != current) {
+      document.Park();
       continue;
     }
-    editor.SetLeft(0);
-    editor.SetWidth(controls_.picRtb.Width() - 60);
-    editor.SetHeight(controls_.picRtb.Height() - 60);
-    controls_.tbToolBar.SetPressed("Colorize", editor.Tag() == kColourMode);
+    document.BringToFront();
+    uses_.tbToolBar.SetPressed("Colorize", document.Mode() == ColourMode::kColoured);
   }
-  controls_.cboEpisode.Clear();
-  if (CategorySelected(controls_, "LEVEL")) {
-    levels_.ClearBoxes();
-    levels_.FillLevelList();
-  }
+  uses_.list.Shown.Raise(current);
+}
+
+void Documents::MarkModified(Slot slot) {
+  const Document document = uses_.list.At(slot);
+  if (document.MarkModified()) uses_.list.Changed.Raise(document);
+}
+
+void Documents::EditorChanged(Slot slot) {
+  const Document document = uses_.list.At(slot);
+  document.MarkModified();
+  uses_.list.Changed.Raise(document);
 }
 
 bool Documents::ReportMissing(const std::string& path) {
-  if (FileExists(services_.files, path)) return false;
-  services_.messages.Show("File " + path + " not found.", MessageIcon::kExclamation, kProgramTitle,
-                          MessageButtons::kOk);
+  if (FileExists(uses_.files, path)) return false;
+  uses_.messages.Show("File " + path + " not found.", MessageIcon::kExclamation, kProgramTitle,
+                      MessageButtons::kOk);
   return true;
 }
 
-int Documents::PrepareSlot(const std::string& name) {
-  const int slot = GetFreeEditorIndex(controls_);
-  if (slot > controls_.tbsRtb.Count() - 1) AddDocumentTab(controls_, name);
-  return slot;
+/// The start tab may have a text although nobody has given it a name.
+Document Documents::PrepareSlot(const std::string& name) {
+  const Document document = uses_.list.At(uses_.list.GetFreeEditorIndex());
+  const bool hasTab = Index(document.Place()) < uses_.list.Count();
+  if (hasTab) {
+    uses_.list.AboutToDrop.Raise(document);
+  } else {
+    uses_.list.AddDocumentTab(name);
+  }
+  return document;
+}
+
+/// The last tab is marked, whichever the document has: the start tab may be free again while others
+/// are open.
+void Documents::ShowNewest() {
+  const Document last = uses_.list.At(Slot{uses_.list.Count() - 1});
+  uses_.list.Select(last.Place());
+  last.SetModified(false);
 }
 
 void Documents::NewFromTemplate(const std::string& code) {
   const std::string_view file = TemplateFile(code);
-  const char separator = services_.files.Separator();
-  const std::string path =
-      file.empty() ? std::string()
-                   : services_.hostDirectory +
-                         BackslashIfNeeded(services_.hostDirectory, separator) + std::string(file);
+  const char separator = uses_.files.Separator();
+  const std::string path = file.empty() ? std::string()
+                                        : uses_.hostDirectory +
+                                              BackslashIfNeeded(uses_.hostDirectory, separator) +
+                                              std::string(file);
   if (ReportMissing(path)) return;
-  std::string bytes =
-      ReadDocument(services_.files, path);  // first: a file that cannot be read opens nothing
+  // First: a file that cannot be read opens nothing.
+  std::string bytes = ReadDocument(uses_.files, path);
 
-  const int slot = PrepareSlot(kUntitled);
-  controls_.tbsRtb.SetTabCaption(slot + 1, kUntitled);
-  controls_.tbsRtb.SetTabTag(slot + 1, kUntitled);
-  RichTextBox& editor = controls_.rtbCon[slot];
-  editor.LoadFile(path, std::move(bytes));
-  editor.SetVisible(false);
-  editor.SetLeft(kParkedLeft);
-  ApplyColourMode();  // of the document that is still the current one
-  editor.SetVisible(true);
-  controls_.tbsRtb.Select(controls_.tbsRtb.Count());
-  controls_.tbsRtb.SetTabImage(controls_.tbsRtb.Count(), kBlackDot);
-  if (CategorySelected(controls_, "LEVEL")) levels_.Restart();
+  const Document document = PrepareSlot(kUntitled);
+  document.BecomeUntitled();
+  document.Editor().LoadFile(path, std::move(bytes));
+  {
+    const Parked parked(document.Editor(), Parked::Left::kParked);
+    uses_.applyColourMode();  // of the document that is still the current one
+  }
+  ShowNewest();
+  uses_.list.Loaded.Raise(document);
 }
 
 void Documents::OpenFile(const std::string& path) {
   if (path.empty()) return OpenWithDialog();
+  if (!uses_.host.BeforeOpening(path)) return;
   if (ReportMissing(path)) return;
 
-  const std::string name = NameOfPath(path, services_.files.Separator());
-  TabStrip& tabs = controls_.tbsRtb;
-  for (int tab = 1; tab <= tabs.Count(); ++tab) {
-    if (tabs.At(tab).tag == path && EqualIgnoringAsciiCase(tabs.At(tab).caption, name)) {
-      return tabs.Select(tab);
+  const std::string name = NameOfPath(path, uses_.files.Separator());
+  for (const Document& open : uses_.list.All()) {
+    if (open.HasPath(path) && EqualIgnoringAsciiCase(open.Name(), name)) {
+      return uses_.list.Select(open.Place());
     }
   }
-  std::string bytes =
-      ReadDocument(services_.files, path);  // first: a file that cannot be read opens nothing
+  // First: a file that cannot be read opens nothing.
+  std::string bytes = ReadDocument(uses_.files, path);
 
-  const int slot = PrepareSlot(name);
-  tabs.SetTabCaption(slot + 1, AsciiLower(name));
-  tabs.SetTabTag(slot + 1, path);
-  RichTextBox& editor = controls_.rtbCon[slot];
-  editor.SetVisible(false);
-  editor.SetLeft(kParkedLeft);
-  editor.LoadFile(path, std::move(bytes));
-  editor.SetTag(kPlainMode);
-  ApplyColourMode();  // of the document that is still the current one
-  AddRecentFile(controls_.tbToolBar, services_.settings, name, path);
-  editor.SetVisible(true);
-  tabs.Select(tabs.Count());
-  tabs.SetTabImage(tabs.Count(), kBlackDot);
-  levels_.Restart();
+  const Document document = PrepareSlot(name);
+  document.BelongTo(path, name);
+  {
+    const Parked parked(document.Editor(), Parked::Left::kParked);
+    document.Editor().LoadFile(path, std::move(bytes));
+    SetColourMode(document.Editor(), ColourMode::kPlain);
+    uses_.applyColourMode();  // of the document that is still the current one
+    AddRecentFile(uses_.tbToolBar, uses_.settings, name, path);
+  }
+  ShowNewest();
+  uses_.list.Loaded.Raise(document);
 }
 
 std::optional<std::vector<std::string>> Documents::ShowFileDialog(FileDialogRequest::Kind kind,
@@ -135,8 +133,8 @@ std::optional<std::vector<std::string>> Documents::ShowFileDialog(FileDialogRequ
   request.kind = kind;
   request.filter = "CON Files (*.con)|*.con";
   request.flags = flags;
-  request.initDir = conPath_;
-  return controls_.dlgCommon.Show(services_.fileDialogs, services_.files, request);
+  request.initDir = uses_.conPath;
+  return uses_.dlgCommon.Show(uses_.fileDialogs, uses_.files, request);
 }
 
 void Documents::OpenWithDialog() {
@@ -146,109 +144,124 @@ void Documents::OpenWithDialog() {
   for (const std::string& path : *chosen) OpenFile(path);
 }
 
-bool Documents::SaveWithDialog(const RichTextBox& editor, const std::string& tag) {
-  const HeldFile before = controls_.dlgCommon.Held();
+bool Documents::SaveWithDialog(const Document& document) {
+  const HeldFile before = uses_.dlgCommon.Held();
   if (!ShowFileDialog(FileDialogRequest::Kind::kSave, kOverwritePrompt | kHideReadOnly))
     return false;
-  const HeldFile& held = controls_.dlgCommon.Held();
+  const HeldFile& held = uses_.dlgCommon.Held();
   try {
-    services_.files.Write(held.fileName, editor.Bytes());
+    if (!uses_.host.BeforeSaving(document, held.fileName)) {
+      uses_.dlgCommon.SetHeld(before);
+      return false;
+    }
+    uses_.files.Write(held.fileName, document.Editor().Bytes());
   } catch (const RuntimeError&) {
-    controls_.dlgCommon.SetHeld(before);
+    uses_.dlgCommon.SetHeld(before);
     throw;
   }
-  if (tag != held.fileName) {
-    AddRecentFile(controls_.tbToolBar, services_.settings, held.fileTitle, held.fileName);
+  if (!document.HasPath(held.fileName)) {
+    AddRecentFile(uses_.tbToolBar, uses_.settings, held.fileTitle, held.fileName);
   }
+  return true;
+}
+
+bool Documents::SaveInPlace(const Document& document) {
+  const std::string path = document.Path();
+  if (!uses_.host.BeforeSaving(document, path)) return false;
+  uses_.files.SetAttributesNormal(path);
+  uses_.files.Write(path, document.Editor().Bytes());
   return true;
 }
 
 void Documents::SaveDocument(bool inPlace) {
-  const int slot = CurrentDocIndex(controls_);
-  const RichTextBox& editor = controls_.rtbCon[slot];
-  const std::string tag = controls_.tbsRtb.At(slot + 1).tag;
-  if (!inPlace || tag == kUntitled || tag.empty()) {
-    if (!SaveWithDialog(editor, tag)) return;
-  } else {
-    services_.files.SetAttributesNormal(tag);
-    services_.files.Write(tag, editor.Bytes());
-  }
+  const Document document = uses_.list.Current();
+  const bool hasFile = !document.Path().empty();
+  if (!(inPlace && hasFile ? SaveInPlace(document) : SaveWithDialog(document))) return;
   // An in-place save, too, takes over whatever the dialog last held.
-  const HeldFile& held = controls_.dlgCommon.Held();
-  controls_.tbsRtb.SetTabImage(slot + 1, kBlackDot);
-  controls_.tbsRtb.SetTabCaption(slot + 1, AsciiLower(held.fileTitle));
-  controls_.tbsRtb.SetTabTag(slot + 1, held.fileName);
+  const HeldFile& held = uses_.dlgCommon.Held();
+  document.SetModified(false);
+  document.BelongTo(held.fileName, held.fileTitle);
+  uses_.list.Saved.Raise(document);
 }
 
 void Documents::ReloadDocument() {
-  const int slot = CurrentDocIndex(controls_);
-  RichTextBox& editor = controls_.rtbCon[slot];
-  const std::string path = controls_.tbsRtb.At(slot + 1).tag;
+  const Document document = uses_.list.Current();
+  RichTextBox& editor = document.Editor();
+  const std::string path = document.Path();
+  if (path.empty()) return;
   const Position caret = editor.SelStart();
-  const bool coloured = editor.Tag() == kColourMode;
-  editor.LoadFile(path, ReadDocument(services_.files, path));
-  editor.SetTag(kPlainMode);
-  if (coloured) ColorizeDocument(editor, status_);
+  const bool coloured = document.Mode() == ColourMode::kColoured;
+  std::string bytes = ReadDocument(uses_.files, path);
+  uses_.list.AboutToDrop.Raise(document);
+  editor.LoadFile(path, std::move(bytes));
+  SetColourMode(editor, ColourMode::kPlain);
+  if (coloured) uses_.colorize(editor);
   editor.SetSelStart(caret);
-  controls_.tbsRtb.SetTabImage(slot + 1, kBlackDot);
-  levels_.Restart();
+  document.SetModified(false);
+  uses_.list.Loaded.Raise(document);
 }
 
-bool Documents::ConfirmClose(int slot) {
-  const auto modified = [&] { return controls_.tbsRtb.At(slot + 1).image == kRedDot; };
-  if (!modified()) return true;
+void Documents::ShowAsUntitled(const std::string& text) {
+  const Document start = uses_.list.At(Slot{0});
+  const bool unused = uses_.list.Count() == 1 && start.IsFree() && !start.Modified() &&
+                      start.Editor().Length() == 0;
+  const Document document = unused ? start : uses_.list.At(uses_.list.LoadNewEditor());
+  if (!unused) uses_.list.AddDocumentTab(kUntitled);
+  document.BecomeUntitled();
+  document.Editor().LoadFile(kUntitled, text);
+  SetColourMode(document.Editor(), ColourMode::kPlain);
+  uses_.list.Select(document.Place());
+  document.SetModified(true);
+  uses_.list.Loaded.Raise(document);
+}
+
+bool Documents::ConfirmClose(const Document& document) {
+  if (!document.Modified()) return true;
   const MessageAnswer answer =
-      services_.messages.Show("Save changes to " + controls_.rtbCon[slot].FileName() + "?",
-                              MessageIcon::kNone, "", MessageButtons::kYesNoCancel);
+      uses_.messages.Show("Save changes to " + document.Editor().FileName() + "?",
+                          MessageIcon::kNone, "", MessageButtons::kYesNoCancel);
   if (answer == MessageAnswer::kYes) {
     SaveDocument(false);
-    return !modified();
+    return !document.Modified();
   }
   return answer == MessageAnswer::kNo;
 }
 
-void Documents::CloseDocument(int slot) {
-  if (ConfirmClose(slot)) RemoveSlot(slot);
+void Documents::CloseDocument(Slot slot) {
+  if (ConfirmClose(uses_.list.At(slot))) RemoveSlot(slot);
 }
 
 bool Documents::CloseAll() {
-  TabStrip& tabs = controls_.tbsRtb;
-  for (int tab = 1; tab <= tabs.Count(); ++tab) {
-    if (tabs.At(tab).image != kRedDot) continue;
-    tabs.Select(tab);
-    if (!ConfirmClose(tab - 1)) return false;
+  for (const Document& document : uses_.list.All()) {
+    if (!document.Modified()) continue;
+    uses_.list.Select(document.Place());
+    if (!ConfirmClose(document)) return false;
   }
-  for (int slot = tabs.Count() - 1; slot >= 0; --slot) RemoveSlot(slot);
+  for (int slot = uses_.list.Count() - 1; slot >= 0; --slot) RemoveSlot(Slot{slot});
   return true;
 }
 
-void Documents::ClearTab(int tab) {
-  controls_.tbsRtb.SetTabCaption(tab, "");
-  controls_.tbsRtb.SetTabImage(tab, "");
-  controls_.tbsRtb.SetTabTag(tab, "");
-}
-
-void Documents::RemoveSlot(int slot) {
-  TabStrip& tabs = controls_.tbsRtb;
-  const int count = tabs.Count();
-  controls_.rtbCon[slot].SetTag("");
+void Documents::RemoveSlot(Slot slot) {
+  DocumentList& list = uses_.list;
+  const Document closed = list.At(slot);
+  list.AboutToDrop.Raise(closed);
+  SetColourMode(closed.Editor(), ColourMode::kNone);
+  const int count = list.Count();
   if (count == 1) {
-    controls_.rtbCon[slot].SetText("");
-    ClearTab(1);
+    closed.Editor().SetText("");
+    closed.BecomeFree();
     return;
   }
-  // The documents behind move up: text, caption, image and path, nothing else.
-  for (int j = slot; j < count - 1; ++j) {
-    controls_.rtbCon[j].SetText(controls_.rtbCon[j + 1].Text());
-    const Tab next = tabs.At(j + 2);
-    tabs.SetTabCaption(j + 1, next.caption);
-    tabs.SetTabImage(j + 1, next.image);
-    tabs.SetTabTag(j + 1, next.tag);
+  // The documents behind move up: text, name, marker and path, nothing else.
+  for (int j = Index(slot); j < count - 1; ++j) {
+    const Document document = list.At(Slot{j});
+    const Document next = list.At(Slot{j + 1});
+    document.Editor().SetText(next.Editor().Text());
+    document.TakeTabOf(next);
+    list.Moved.Raise(next.Place(), document.Place());
   }
-  controls_.rtbCon.UnloadLast();
-  ClearTab(count);
-  tabs.Remove(count);
-  tabs.Select(slot == count - 1 ? count - 1 : slot + 1);
+  list.RemoveLast();
+  list.Select(Index(slot) == count - 1 ? Slot{count - 2} : slot);
 }
 
 }  // namespace tessel

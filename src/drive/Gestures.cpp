@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "documents/DocumentSlots.h"
 #include "drive/Commands.h"
 #include "drive/Refusal.h"
 #include "drive/Target.h"
@@ -97,7 +96,7 @@ Json ChoosePopupItem(Stage& stage, const Fields& fields) {
   if (std::ranges::find(leaves, name, &MenuItem::name) == leaves.end()) {
     throw Refusal("unknown key");
   }
-  RichTextBox& editor = CurrentEditor(controls);
+  RichTextBox& editor = stage.Tessel().OpenDocuments().CurrentEditor();
   RefuseBehindForm(stage);
   RefuseUnusable(editor);
   OpenPopup(stage, editor, MouseButton::kRight);

@@ -1,6 +1,5 @@
 #include <utility>
 
-#include "documents/DocumentSlots.h"
 #include "drive/Commands.h"
 #include "drive/Properties.h"
 #include "drive/Target.h"
@@ -96,7 +95,7 @@ Json GetState(Stage& stage, const Fields&) {
   const ucTessel& tessel = stage.Tessel();
   const HostedControls& controls = tessel.Controls();
   const Sight& sight = stage.Person();
-  Json state{{"current", CurrentDocIndex(controls)},
+  Json state{{"current", Index(tessel.OpenDocuments().Current().Place())},
              {"selectedTab", sight.SelectedTab(controls.tbsRtb)},
              {"tabs", DocumentTabs(controls.tbsRtb, sight)},
              {"editors", Editors(controls, sight)},

@@ -30,9 +30,17 @@ void Stage::Create() {
   subscriptions_.push_back(pointer_.Changed.Connect([this](PointerShape shape) {
     log_.Add("pointer", {{"value", static_cast<int>(shape)}});
   }));
-  control_ =
-      &player_.Open({messages_, fileDialogs_, forms_, world_.clipboard, world_.settings, pointer_,
-                     world_.files, *random_, focus_, world_.loop, world_.hostDirectory});
+  control_ = &player_.Open({.messages = messages_,
+                            .fileDialogs = fileDialogs_,
+                            .forms = forms_,
+                            .clipboard = world_.clipboard,
+                            .settings = world_.settings,
+                            .pointer = pointer_,
+                            .files = world_.files,
+                            .random = *random_,
+                            .focus = focus_,
+                            .loop = world_.loop,
+                            .hostDirectory = world_.hostDirectory});
   subscriptions_.push_back(control_->SettingTextColor.Connect([this](const std::string& text) {
     log_.Add("status", {{"text", FromBytes(text)}});
   }));

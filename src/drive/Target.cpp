@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "documents/DocumentSlots.h"
 #include "drive/Refusal.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::drive {
 namespace {
@@ -46,7 +46,7 @@ Control& GestureTarget(Stage& stage, const Fields& fields) {
 
 RichTextBox& NamedEditor(Stage& stage, const Fields& fields) {
   HostedControls& controls = stage.Tessel().Controls();
-  const int index = fields.OptionalWhole("index").value_or(CurrentDocIndex(controls));
+  const int index = fields.OptionalWhole("index").value_or(Index(CurrentDocIndex(controls)));
   if (index < 0 || index >= controls.rtbCon.Count()) throw Refusal("unknown control");
   return controls.rtbCon[index];
 }

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QVBoxLayout>
 
-#include "documents/DocumentSlots.h"
 #include "embed/EmbeddedControl.h"
 #include "embed/InstalledTemplates.h"
 #include "embed/SharedSettings.h"
@@ -21,11 +20,6 @@ std::shared_ptr<tessel::SettingsStore> SettingsFor(const ucTessel::Options& opti
   if (options.forgetSettings) return std::make_shared<tessel::MemorySettingsStore>();
   return tessel::SharedSettings(options.settingsFile.isEmpty() ? tessel::DefaultSettingsPath()
                                                                : PathOf(options.settingsFile));
-}
-
-const tessel::Tab& CurrentTab(const tessel::TesselWidget& widget) {
-  const tessel::TabStrip& tabs = widget.Tessel().Controls().tbsRtb;
-  return tabs.At(tabs.Selected());
 }
 
 }  // namespace
@@ -54,26 +48,27 @@ ucTessel::~ucTessel() = default;
 tessel::TesselWidget& ucTessel::Inside() const { return control_->Widget(); }
 
 void ucTessel::OpenFile(const QString& path) {
-  if (Running()) return;
   // The control keeps the path: it has to hold when the working directory is another one.
   const QString whole = path.isEmpty() ? path : QFileInfo(path).absoluteFilePath();
   Inside().Tessel().OpenFile(PathOf(whole));
 }
 
-void ucTessel::ReloadDocument() {
-  if (!Running()) Inside().Tessel().ReloadDocument();
-}
+void ucTessel::ReloadDocument() { Inside().Tessel().ReloadDocument(); }
 
-bool ucTessel::CloseAll() { return !Running() && Inside().Tessel().CloseAll(); }
+bool ucTessel::CloseAll() { return Inside().Tessel().CloseAll(); }
 bool ucTessel::Running() const { return Inside().Tessel().Running(); }
 
 QString ucTessel::DocumentPath() const {
-  const std::string& tag = CurrentTab(Inside()).tag;
-  return tag == tessel::kUntitled ? QString() : QFile::decodeName(QByteArray::fromStdString(tag));
+  const std::string path = Inside().Tessel().OpenDocuments().Current().Path();
+  return QFile::decodeName(QByteArray::fromStdString(path));
 }
 
-QString ucTessel::DocumentName() const { return tessel::ShownName(CurrentTab(Inside()).caption); }
-bool ucTessel::DocumentModified() const { return CurrentTab(Inside()).image == tessel::kRedDot; }
+QString ucTessel::DocumentName() const {
+  return tessel::ShownName(Inside().Tessel().OpenDocuments().Current().Name());
+}
+bool ucTessel::DocumentModified() const {
+  return Inside().Tessel().OpenDocuments().Current().Modified();
+}
 
 QSize ucTessel::sizeHint() const { return Inside().sizeHint(); }
 QSize ucTessel::minimumSizeHint() const { return Inside().minimumSizeHint(); }
@@ -87,9 +82,7 @@ void ucTessel::SetTesselVersion(QString& strVersion) {
   SetTesselVersion(strVersion, none);
 }
 
-void ucTessel::Convert() {
-  if (!Running()) Inside().Tessel().Convert();
-}
+void ucTessel::Convert() { Inside().Tessel().Convert(); }
 
 // The control itself has nothing to type into.
 void ucTessel::focusInEvent(QFocusEvent*) {

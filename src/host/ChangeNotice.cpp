@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QHBoxLayout>
 
-#include "documents/DocumentSlots.h"
 #include "qt/base/QtText.h"
 #include "services/Paths.h"
 
@@ -47,17 +46,14 @@ ChangeNotice::ChangeNotice(TesselWidget& control, GuardedFiles& files, QWidget* 
 }
 
 std::string ChangeNotice::CurrentPath() const {
-  const TabStrip& tabs = control_.Tessel().Controls().tbsRtb;
-  const std::string& tag = tabs.At(tabs.Selected()).tag;
-  return tag == kUntitled ? std::string() : tag;
+  return control_.Tessel().OpenDocuments().Current().Path();
 }
 
 void ChangeNotice::WatchOpenFiles() {
-  const TabStrip& tabs = control_.Tessel().Controls().tbsRtb;
   QStringList paths;
-  for (int tab = 1; tab <= tabs.Count(); ++tab) {
-    const QString path = QFile::decodeName(tabs.At(tab).tag.c_str());
-    if (QFile::exists(path)) paths += path;
+  for (const Document& document : control_.Tessel().OpenDocuments().All()) {
+    const QString path = QFile::decodeName(document.Path().c_str());
+    if (!path.isEmpty() && QFile::exists(path)) paths += path;
   }
   const QStringList watched = watcher_.files();
   for (const QString& path : watched) {

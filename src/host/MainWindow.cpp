@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 
 #include "base/RuntimeError.h"
-#include "documents/DocumentSlots.h"
 #include "host/BackupsDialog.h"
 #include "host/ChangeNotice.h"
 #include "host/RecoveryKeeper.h"
@@ -42,7 +41,7 @@ std::vector<std::string> FilesOf(const QMimeData* data) {
 
 /// The path by which a file is open, when it is; else its own.
 std::string OpenedPathOf(TesselWidget& control, const std::string& file) {
-  for (const std::string& path : OpenDocumentsOf(control.Tessel().Controls()).paths) {
+  for (const std::string& path : OpenDocumentsOf(control.Tessel().OpenDocuments()).paths) {
     if (PathOfFile(path) == file) return path;
   }
   return file;
@@ -88,14 +87,11 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
 
 void MainWindow::BuildMenu() {
   menu_ = BuildMainMenu(*this);
-  // A walk of the randomizer lets the window paint, and take keys: no time for another command.
-  connect(menu_.open, &QAction::triggered, this, [this] {
-    if (!control_->Tessel().Running()) control_->Tessel().OpenFile({});
-  });
+  connect(menu_.open, &QAction::triggered, this, [this] { control_->Tessel().OpenFile({}); });
   connect(menu_.backups, &QAction::triggered, this, &MainWindow::ShowBackups);
   connect(menu_.reopen, &QAction::toggled, this, [this](bool wanted) {
     SetReopeningWanted(wanted);
-    RememberDocuments(OpenDocumentsOf(control_->Tessel().Controls()));
+    RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments()));
   });
   connect(menu_.quit, &QAction::triggered, this, &QWidget::close);
   connect(menu_.about, &QAction::triggered, this, [this] { ShowAbout(this); });
@@ -127,10 +123,9 @@ void MainWindow::ShowNotice(const QString& text) {
 }
 
 void MainWindow::ShowDocument() {
-  const TabStrip& tabs = control_->Tessel().Controls().tbsRtb;
-  const Tab& tab = tabs.At(tabs.Selected());
-  const bool modified = tab.image == kRedDot;
-  const QString name = ShownName(tab.caption);
+  const Document document = control_->Tessel().OpenDocuments().Current();
+  const bool modified = document.Modified();
+  const QString name = ShownName(document.Name());
   setWindowTitle(name.isEmpty() ? tr("Zanth Manager[*]") : name + tr("[*] \u2013 Zanth Manager"));
   setWindowModified(modified);
   modified_->setText(modified ? tr("Modified") : QString());
@@ -145,9 +140,8 @@ void MainWindow::ShowCaret() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  const OpenDocuments open = OpenDocumentsOf(control_->Tessel().Controls());
-  // A walk of the randomizer lets the window paint; it is no time to end.
-  if (control_->Tessel().Running() || !control_->Tessel().CloseAll()) {
+  const OpenDocuments open = OpenDocumentsOf(control_->Tessel().OpenDocuments());
+  if (!control_->Tessel().CloseAll()) {
     event->ignore();
     return;
   }
@@ -168,7 +162,7 @@ void MainWindow::OfferBackups(BackupStore& backups) {
 void MainWindow::ShowBackups() {
   if (control_->Tessel().Running()) return;
   try {
-    const std::string path = OpenDocumentsOf(control_->Tessel().Controls()).current;
+    const std::string path = OpenDocumentsOf(control_->Tessel().OpenDocuments()).current;
     auto* dialog =
         new BackupsDialog(backups_->List(), path.empty() ? path : PathOfFile(path), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -200,7 +194,7 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
     }
   };
   auto texts = std::make_unique<AbandonedTexts>(folder, onDisk);
-  keeper_ = new RecoveryKeeper(control_->Tessel(), folder, onDisk, this);
+  keeper_ = new RecoveryKeeper(control_->Tessel(), folder, this);
   connect(keeper_, &RecoveryKeeper::failed, this, &MainWindow::ShowNotice);
   if (texts->Problem()) {
     ShowNotice(tr("Text that an earlier run kept in %1 cannot be read: %2.")
@@ -228,7 +222,7 @@ void MainWindow::StartSession() {
   session_.setSingleShot(true);
   session_.setInterval(kSessionMilliseconds);
   connect(&session_, &QTimer::timeout, this,
-          [this] { RememberDocuments(OpenDocumentsOf(control_->Tessel().Controls())); });
+          [this] { RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments())); });
   connect(control_, &TesselWidget::documentChanged, &session_, qOverload<>(&QTimer::start));
 }
 

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,18 +13,17 @@
 
 namespace tessel {
 
-/// Watches the documents. A change is kept at most 2 seconds after the first one that is not kept
-/// yet, and at once before the control does anything else with an editor: it may be about to drop
-/// the text. A document whose file has its text is not kept any more; the text of one that was
-/// dropped is. Nor is the control believed that takes a document for saved whose file is another:
-/// its text outlives even a normal end.
+/// Is told what becomes of the documents. A change is kept at most 2 seconds after the first one
+/// that is not kept yet, and at once when the text is about to be dropped. The text of a document
+/// that was saved is not kept any more; that of one that was dropped is, until the program ends
+/// normally. A document that counts as unmodified without having been saved keeps its text even
+/// beyond that.
 class RecoveryKeeper : public QObject {
   Q_OBJECT
 
  public:
   /// `folder` is that of all runs.
-  RecoveryKeeper(ucTessel& tessel, std::string folder, AbandonedTexts::OnDisk onDisk,
-                 QObject* parent);
+  RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent);
 
   /// Waits until every modified text is on the disk. Returns false when one could not be kept.
   bool KeepNow();
@@ -35,45 +35,36 @@ class RecoveryKeeper : public QObject {
   void failed(const QString& sentence);
 
  private:
-  struct Fingerprint {
-    std::size_t size = 0;
-    std::size_t hash = 0;
-    friend bool operator==(const Fingerprint&, const Fingerprint&) = default;
-  };
   struct Kept {
     RecoveryStore::Id id = 0;
-    Fingerprint print;
-    bool takenForSaved = false;  // by the control, but its file has another text
+    std::uint64_t revision = 0;  // of the editor's text when it was kept
   };
-  struct Slot {
-    bool changed = false;             // since the text was kept
-    std::optional<std::string> path;  // of the document when it was changed
+  struct Unsaved {
+    bool changed = false;  // since the text was kept
     std::optional<Kept> kept;
-    std::vector<Subscription> subscriptions;
+  };
+  struct Dropped {
+    RecoveryStore::Id id = 0;
+    bool countedAsSaved = false;
   };
 
-  void Watch(RichTextBox& editor);
-  void EditorChanged(int slot);
-  void TabsChanged();
-  void KeepBeforeItIsDropped();
+  void OnChanged(const Document& document);
+  void OnAboutToDrop(const Document& document);
+  void OnMoved(Slot from, Slot to);
+  void OnLoaded(const Document& document);
+  void OnSaved(const Document& document);
   /// False when there was not enough memory.
   bool KeepChanges();
-  void KeepSlot(int slot);
+  void Keep(const Document& document);
   void KeepAllAgain();
-  void LetGo(Slot& slot);
-  void DropMovedTexts();
   void TellProblem();
-  bool Modified(int slot) const;
-  bool IsOnDisk(int slot) const;
-  std::string PathOf(int slot) const;
-  Slot& At(int slot) { return slots_.at(static_cast<std::size_t>(slot)); }
+  Unsaved& At(Slot slot);
 
-  ucTessel& tessel_;
-  AbandonedTexts::OnDisk onDisk_;
+  DocumentList& documents_;
   RecoveryStore store_;
   RecoveryStore::Id nextId_ = 1;
-  std::vector<Slot> slots_;
-  std::vector<Kept> dropped_;  // texts that no editor holds any more, or another one
+  std::vector<Unsaved> unsaved_;  // by slot
+  std::vector<Dropped> dropped_;  // texts that no document holds any more, the oldest first
   QTimer timer_;
   std::vector<Subscription> subscriptions_;
 };

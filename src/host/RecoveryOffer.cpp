@@ -8,7 +8,6 @@
 #include <span>
 #include <utility>
 
-#include "documents/DocumentSlots.h"
 #include "host/RestoredText.h"
 #include "qt/base/QtText.h"
 #include "services/Paths.h"

@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QSettings>
 
-#include "documents/DocumentSlots.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -13,18 +12,14 @@ constexpr const char* kWanted = "session/reopen";
 constexpr const char* kFiles = "session/files";
 constexpr const char* kCurrent = "session/current";
 
-std::string PathOfTab(const Tab& tab) { return tab.tag == kUntitled ? std::string() : tab.tag; }
-
 }  // namespace
 
-OpenDocuments OpenDocumentsOf(const HostedControls& controls) {
-  const TabStrip& tabs = controls.tbsRtb;
+OpenDocuments OpenDocumentsOf(const DocumentList& documents) {
   OpenDocuments open;
-  for (int tab = 1; tab <= tabs.Count(); ++tab) {
-    const std::string path = PathOfTab(tabs.At(tab));
-    if (!path.empty()) open.paths.push_back(path);
+  for (const Document& document : documents.All()) {
+    if (std::string path = document.Path(); !path.empty()) open.paths.push_back(std::move(path));
   }
-  open.current = PathOfTab(tabs.At(tabs.Selected()));
+  open.current = documents.Current().Path();
   return open;
 }
 
@@ -65,13 +60,8 @@ std::vector<std::string> ReopenDocuments(ucTessel& tessel, Files& files,
       missing.push_back(path);
     }
   }
-  TabStrip& tabs = tessel.Controls().tbsRtb;
-  for (int tab = 1; tab <= tabs.Count(); ++tab) {
-    if (!documents.current.empty() && tabs.At(tab).tag == documents.current) {
-      tabs.Select(tab);
-      break;
-    }
-  }
+  const auto current = tessel.OpenDocuments().WithPath(documents.current);
+  if (current && !documents.current.empty()) tessel.OpenDocuments().Select(current->Place());
   return missing;
 }
 

@@ -18,7 +18,7 @@ struct OpenDocuments {
   friend bool operator==(const OpenDocuments&, const OpenDocuments&) = default;
 };
 
-OpenDocuments OpenDocumentsOf(const HostedControls& controls);
+OpenDocuments OpenDocumentsOf(const DocumentList& documents);
 
 /// The user's wish; off by default.
 bool ReopeningWanted();

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "documents/DocumentSlots.h"
 #include "qt/KeyCodes.h"
 #include "qt/base/QtText.h"
 #include "qt/base/TwipScale.h"
@@ -160,7 +159,7 @@ QWidget* TesselWidget::DialogFor(const Form& form) const {
 }
 
 ScintillaView* TesselWidget::CurrentEditorView() const {
-  const int slot = CurrentDocIndex(tessel_->Controls());
+  const int slot = Index(tessel_->OpenDocuments().Current().Place());
   return slot >= 0 && slot < std::ssize(editors_) ? editors_[static_cast<std::size_t>(slot)].view
                                                   : nullptr;
 }

@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "base/RuntimeError.h"
-#include "documents/DocumentSlots.h"
 #include "text/Text.h"
 
 namespace tessel {
@@ -38,9 +37,6 @@ int TabOf(const TabStrip& tabs, std::string_view key) {
 }
 
 }  // namespace
-
-Randomizer::Randomizer(HostedControls& controls, const Services& services, SettingsPanel& settings)
-    : controls_(controls), services_(services), settings_(settings) {}
 
 void Randomizer::LoadForm(const std::string& caption) {
   form_.SetCaption(caption);
@@ -81,21 +77,20 @@ void Randomizer::RandomizeSection(const std::string& section) {
   const std::int16_t lower = BoundOf(form_.cmbChoose[0].Text(), "lower");
   const std::int16_t upper = BoundOf(form_.cmbChoose[1].Text(), "upper");
   if (lower == 0 || upper == 0) return;
-  RandomizeItems(section, upper, lower, form_.chkLvUp.Value(), form_.chkLvLw.Value());
+  RandomizeItems(section, {.lower = lower,
+                           .upper = upper,
+                           .keepBelow = form_.chkLvLw.Value(),
+                           .keepAbove = form_.chkLvUp.Value()});
 }
 
-void Randomizer::RandomizeItems(std::string_view section, std::int16_t upper, std::int16_t lower,
-                                bool keepAbove, bool keepBelow) {
+void Randomizer::RandomizeItems(std::string_view section, const Range& range) {
   if (section == "All") {
-    for (const std::string_view each : kSections) {
-      RandomizeItems(each, upper, lower, keepAbove, keepBelow);
-    }
+    for (const std::string_view each : kSections) RandomizeItems(each, range);
     return;
   }
   settings_.BringIntoSight();
   if (const int tab = TabOf(controls_.tbsCon, section)) controls_.tbsCon.Select(tab);
 
-  const Range range{upper, lower, keepAbove, keepBelow};
   auto& boxes = controls_.cmbweap;
   if (section == "Player") WalkList(controls_.lstPlayers, boxes[kPlayerPage], "", range);
   if (section == "Enemy") WalkList(controls_.lstEnemy, boxes[kEnemyPage], "", range);
@@ -127,7 +122,7 @@ void Randomizer::WalkList(ListBox& list, ComboBox& valueBox, const std::string& 
 
 bool Randomizer::ToBeDrawn(const std::string& itemName, const Range& range) const {
   if (!range.keepAbove && !range.keepBelow) return true;
-  const std::string selected = CurrentEditor(controls_).SelText();
+  const std::string selected = documents_.CurrentEditor().SelText();
   if (NumericPrefix(selected).empty()) {
     throw RuntimeError("The value \"" + selected + "\" of " + itemName + " is not a number.");
   }

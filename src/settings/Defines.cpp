@@ -1,6 +1,6 @@
 #include "settings/Defines.h"
 
-#include "services/ScopeGuard.h"
+#include "base/ScopeGuard.h"
 
 namespace tessel {
 namespace {

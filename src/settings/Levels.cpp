@@ -4,8 +4,10 @@
 #include <utility>
 #include <vector>
 
-#include "documents/DocumentSlots.h"
-#include "services/ScopeGuard.h"
+#include "base/ScopeGuard.h"
+#include "services/Hourglass.h"
+#include "surface/Parked.h"
+#include "text/Text.h"
 
 namespace tessel {
 namespace {
@@ -34,8 +36,9 @@ std::string TitleOfLevel(std::string_view mapToLineEnd) {
   return std::string(mapToLineEnd.substr(std::min(title - 1, mapToLineEnd.size())));
 }
 
-Levels::Levels(HostedControls& controls, const Services& services, const std::string& conPath)
-    : controls_(controls), services_(services), conPath_(conPath) {}
+Levels::Levels(const DocumentList& documents, const Controls& controls, const Services& services,
+               const std::string& conPath)
+    : documents_(documents), controls_(controls), services_(services), conPath_(conPath) {}
 
 void Levels::ClearBoxes() {
   controls_.txtMap.SetText("");
@@ -50,21 +53,31 @@ void Levels::Restart() {
   FillLevelList();
 }
 
+bool Levels::PageSelected() const {
+  return EqualIgnoringAsciiCase(controls_.tbsCon.At(controls_.tbsCon.Selected()).key, "LEVEL");
+}
+
+void Levels::DocumentShown() {
+  controls_.cboEpisode.Clear();
+  if (!PageSelected()) return;
+  ClearBoxes();
+  FillLevelList();
+}
+
+// A new document's levels can wait for the page; those of an opened one have always come at once.
+void Levels::DocumentLoaded(const Document& document) {
+  if (!document.IsUntitled() || PageSelected()) Restart();
+}
+
 void Levels::FillLevelList() {
   const Hourglass hourglass(services_.pointer);
-  RichTextBox& editor = CurrentEditor(controls_);
-  const ScopeGuard restore([&editor, caret = editor.SelStart(), left = editor.Left()] {
-    editor.SetSelStart(caret);
-    editor.SetVisible(true);
-    editor.SetLeft(left);
-  });
+  RichTextBox& editor = documents_.CurrentEditor();
   controls_.cboEpisode.Clear();
   if (editor.Length() == 0) return;
 
-  editor.SetVisible(false);
-  editor.SetLeft(kParkedLeft);
+  const Parked parked(editor, Parked::Left::kAsBefore);
+  const ScopeGuard putBack([&editor, caret = editor.SelStart()] { editor.SetSelStart(caret); });
   editor.SetSelStart(0);
-  editor.SetSelLength(0);
   editor.SetHideSelection(true);
   std::vector<std::string> entries;
   for (Position at = editor.Find(kLevelWord, 0); at != kNotFound;
@@ -76,7 +89,7 @@ void Levels::FillLevelList() {
 }
 
 void Levels::ShowLevel(const std::string& entry) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   if (editor.Length() == 0) return;
   editor.SetSelStart(0);
   editor.SetSelLength(0);
@@ -95,7 +108,7 @@ void Levels::cboEpisode_Click() {
 }
 
 void Levels::SelectInDocument(const TextBox& box) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   editor.SetHideSelection(false);
   editor.Find(box.Text(), 0);
 }
@@ -130,7 +143,7 @@ void Levels::cmdMap_Click() {
 }
 
 void Levels::cmdInsert_Click(int index) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   if (editor.SelLength() == 0) return;
   editor.SetSelText(index == 0 ? controls_.txtMap.Text() : controls_.txtTitle.Text());
 }

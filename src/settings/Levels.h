@@ -5,15 +5,38 @@
 #include <string>
 #include <string_view>
 
+#include "models/Buttons.h"
+#include "models/CommonDialog.h"
+#include "models/ControlArray.h"
+#include "models/Lists.h"
+#include "models/TabStrip.h"
+#include "models/TextBox.h"
 #include "services/Services.h"
-#include "surface/HostedControls.h"
+#include "surface/DocumentList.h"
 
 namespace tessel {
 
 class Levels {
  public:
-  /// `conPath` is where the map dialog starts. Everything passed outlives this.
-  Levels(HostedControls& controls, const Services& services, const std::string& conPath);
+  /// The controls that the page uses. They outlive it, as do the services.
+  struct Controls {
+    const TabStrip& tbsCon;
+    ComboBox& cboEpisode;
+    TextBox& txtMap;
+    TextBox& txtTitle;
+    ControlArray<CommandButton>& cmdInsert;
+    CommonDialog& dlgCommon;
+  };
+  struct Services {
+    ScreenPointer& pointer;
+    FileDialogs& fileDialogs;
+    Files& files;
+    Focus& focus;
+  };
+
+  /// `conPath` is where the map dialog starts.
+  Levels(const DocumentList& documents, const Controls& controls, const Services& services,
+         const std::string& conPath);
 
   /// Rebuilds cboEpisode from the current document: one entry per level line, in document order.
   void FillLevelList();
@@ -21,10 +44,10 @@ class Levels {
   /// whose line is not found leaves the boxes as they are.
   void ShowLevel(const std::string& entry);
 
-  /// Empties the boxes and disables their insert buttons.
-  void ClearBoxes();
-  /// No level chosen, boxes empty, and the list made anew.
-  void Restart();
+  /// A document came to the front: its levels are listed when the page is in sight, or later.
+  void DocumentShown();
+  /// A document was opened, or made from a template: no level is chosen any more.
+  void DocumentLoaded(const Document& document);
 
   void cboEpisode_Click();
   void cmdMap_Click();
@@ -34,10 +57,14 @@ class Levels {
   void cmdInsert_Click(int index);
 
  private:
+  void ClearBoxes();
+  void Restart();
+  bool PageSelected() const;
   void SelectInDocument(const TextBox& box);
   void OfferInsert(int index);
 
-  HostedControls& controls_;
+  const DocumentList& documents_;
+  Controls controls_;
   Services services_;
   const std::string& conPath_;
 };

@@ -2,9 +2,7 @@
 
 #include <span>
 
-#include "documents/DocumentSlots.h"
 #include "settings/Defines.h"
-#include "surface/Layout.h"
 
 namespace tessel {
 namespace {
@@ -41,7 +39,7 @@ void SettingsPanel::FillSettingsLists(std::string_view versionToken) {
   FillList(controls_.lstConMisc, MiscItemTable, newerDialect);
   AddPresets();
 
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   if (editor.Length() == 0) return;
   (ReadYesNo(editor, kCamerasDestructable) ? controls_.optCamYes : controls_.optCamNo)
       .SetValue(true);
@@ -72,7 +70,7 @@ void SettingsPanel::ShowSettingsPanel(bool show) {
       controls_.picCon[page].SetEnabled(false);
     }
   }
-  Layout(controls_);
+  layOut_();
 }
 
 void SettingsPanel::BringIntoSight() {
@@ -97,7 +95,7 @@ void SettingsPanel::EnableValue(int page) {
 }
 
 void SettingsPanel::ShowValueOf(std::string_view key, bool wholeWord, int page) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   EnableValue(page);
   editor.SetHideSelection(true);
   const Position position = FindDefine(editor, key, wholeWord);
@@ -126,7 +124,7 @@ void SettingsPanel::lstWeapInfo_Click() {
   const int category = controls_.lstWeapInfo.ListIndex();
   if (category == kNoSelection) return;
   const WeaponCategory& rules = WeaponCategoryTable[static_cast<std::size_t>(category)];
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   controls_.lstWeapon.Clear();
   EnableValue(kWeaponPage);
   controls_.cmbweap[kWeaponPage].SetText(kIgnoredText);
@@ -145,7 +143,7 @@ void SettingsPanel::lstWeapon_Click() {
 }
 
 void SettingsPanel::cmbweap_Change(int index) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   if (YesOrNoSelected(editor)) return;
   ComboBox& box = controls_.cmbweap[index];
   const std::string text = box.Text();
@@ -157,7 +155,7 @@ void SettingsPanel::cmbweap_Change(int index) {
 }
 
 void SettingsPanel::cmbweap_Click(int index) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   const ComboBox& box = controls_.cmbweap[index];
   // The first preset, "0", writes nothing.
   if (YesOrNoSelected(editor) || box.ListIndex() < 1) return;
@@ -165,7 +163,7 @@ void SettingsPanel::cmbweap_Click(int index) {
 }
 
 void SettingsPanel::WriteYesNo(std::string_view name, bool yes) {
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   EnableValue(kMiscPage);
   editor.SetHideSelection(true);
   FindDefine(editor, name, true);

@@ -1,17 +1,41 @@
 // The settings panel: its lists, value boxes, option pairs and pages.
 #pragma once
 
+#include <functional>
 #include <string_view>
+#include <utility>
 
 #include "settings/ItemTables.h"
 #include "settings/Levels.h"
-#include "surface/HostedControls.h"
+#include "surface/DocumentList.h"
 
 namespace tessel {
 
 class SettingsPanel {
  public:
-  SettingsPanel(HostedControls& controls, Levels& levels) : controls_(controls), levels_(levels) {}
+  /// The controls of the pages. They outlive it.
+  struct Controls {
+    Toolbar& tbToolBar;
+    TabStrip& tbsCon;
+    ControlArray<PictureBox>& picCon;
+    ListBox& lstPlayers;
+    ListBox& lstWeapInfo;
+    ListBox& lstWeapon;
+    ListBox& lstEnemy;
+    ListBox& lstConMisc;
+    ControlArray<ComboBox>& cmbweap;
+    ControlArray<Label>& lblValue;
+    OptionButton& optCamYes;
+    OptionButton& optCamNo;
+    OptionButton& optFreezYes;
+    OptionButton& optFreezNo;
+    const ComboBox& cboEpisode;
+  };
+
+  /// `layOut` places all parts of the surface anew.
+  SettingsPanel(const DocumentList& documents, const Controls& controls, Levels& levels,
+                std::function<void()> layOut)
+      : documents_(documents), controls_(controls), levels_(levels), layOut_(std::move(layOut)) {}
 
   /// Fills the lists and the presets; rows of the newer dialect only for kNewerDialect. Reads the
   /// YES/NO settings and the levels of the current document unless that is empty.
@@ -42,8 +66,10 @@ class SettingsPanel {
   void WriteYesNo(std::string_view name, bool yes);
   void AddPresets();
 
-  HostedControls& controls_;
+  const DocumentList& documents_;
+  Controls controls_;
   Levels& levels_;
+  std::function<void()> layOut_;
   bool bSettingValueBox_ = false;  // a value box is being set from the text: do not write it back
 };
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "documents/DocumentSlots.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel {
 

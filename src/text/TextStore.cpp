@@ -16,6 +16,7 @@ void TextStore::Assign(std::string bytes) {
   const Position before = Length();
   colours_ = std::string(bytes.size(), '\0');  // may throw: before anything has changed
   bytes_ = std::move(bytes);
+  ++revision_;
   palette_.assign(1, kBlack);
   EmptyUndoBuffer();
   if (view_ != nullptr) view_->Replaced(0, before, Length());
@@ -52,6 +53,7 @@ void TextStore::MakeRoom(Position length, std::string_view inserted) {
 void TextStore::Change(Position at, Position length, std::string_view inserted, char colourIndex) {
   MakeRoom(length, inserted);
   bytes_.replace(at, length, inserted);
+  ++revision_;
   colours_.replace(at, length, inserted.size(), colourIndex);
   if (view_ != nullptr) view_->Replaced(at, length, std::ssize(inserted));
 }
@@ -150,6 +152,7 @@ TextStore::Snapshot TextStore::TakeSnapshot() const {
 void TextStore::Restore(Snapshot snapshot) {
   const Position before = Length();
   bytes_ = std::move(snapshot.bytes);
+  ++revision_;
   colours_ = std::move(snapshot.colours);
   palette_ = std::move(snapshot.palette);
   undo_ = std::move(snapshot.undo);

@@ -1,6 +1,7 @@
 // The bytes of one document with their colours and the undo history.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +28,8 @@ class TextStore {
  public:
   std::string_view Bytes() const { return bytes_; }
   Position Length() const { return std::ssize(bytes_); }
+  /// Another number after every change of the bytes; colours do not count.
+  std::uint64_t Revision() const { return revision_; }
 
   /// Replaces everything; black; nothing to undo.
   void Assign(std::string bytes);
@@ -84,6 +87,7 @@ class TextStore {
   std::string bytes_;
   std::string colours_;  // an index into palette_ for each byte
   std::vector<Colour> palette_ = {kBlack};
+  std::uint64_t revision_ = 0;
   std::vector<Step> undo_;
   std::vector<Step> redo_;
   int openSteps_ = 0;

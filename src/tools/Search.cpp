@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "documents/DocumentSlots.h"
-
 namespace tessel {
 namespace {
 
@@ -18,9 +16,6 @@ int SearchOptions(const SearchState& search) {
                                                       : wholeWord + matchCase;
 }
 
-Search::Search(HostedControls& controls, const Services& services)
-    : controls_(controls), services_(services) {}
-
 void Search::LoadOnce() {
   if (loaded_) return;
   loaded_ = true;
@@ -31,8 +26,8 @@ void Search::LoadOnce() {
 
 void Search::Find() {
   LoadOnce();
-  form_.cboFind.SetText(CurrentEditor(controls_).SelText());
-  services_.forms.ShowModal(form_);
+  form_.cboFind.SetText(documents_.CurrentEditor().SelText());
+  forms_.ShowModal(form_);
   if (state_.FindText.empty()) return;
   SearchFrom(0);
   if (state_.FindPos == kNotFound) ReportMiss(MessageIcon::kInformation);
@@ -40,7 +35,7 @@ void Search::Find() {
 
 void Search::FindNext() {
   const Position next = state_.FindPos + 1;
-  if (state_.FindPos != kNotFound && next < CurrentEditor(controls_).Length() &&
+  if (state_.FindPos != kNotFound && next < documents_.CurrentEditor().Length() &&
       !state_.FindText.empty()) {
     SearchFrom(next);
   }
@@ -49,12 +44,11 @@ void Search::FindNext() {
 
 void Search::SearchFrom(Position start) {
   state_.FindPos =
-      CurrentEditor(controls_).Find(state_.FindText, start, std::nullopt, SearchOptions(state_));
+      documents_.CurrentEditor().Find(state_.FindText, start, std::nullopt, SearchOptions(state_));
 }
 
 void Search::ReportMiss(MessageIcon icon) {
-  services_.messages.Show(state_.FindText + " not found.", icon, kProgramTitle,
-                          MessageButtons::kOk);
+  messages_.Show(state_.FindText + " not found.", icon, kProgramTitle, MessageButtons::kOk);
 }
 
 void Search::cmdFind_Click() {

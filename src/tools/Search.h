@@ -4,7 +4,7 @@
 #include <string>
 
 #include "services/Services.h"
-#include "surface/HostedControls.h"
+#include "surface/DocumentList.h"
 #include "tools/frmFind.h"
 
 namespace tessel {
@@ -23,7 +23,8 @@ int SearchOptions(const SearchState& search);
 class Search {
  public:
   /// Everything passed outlives this.
-  Search(HostedControls& controls, const Services& services);
+  Search(const DocumentList& documents, ModalForms& forms, MessageBox& messages)
+      : documents_(documents), forms_(forms), messages_(messages) {}
 
   /// Asks for a text and searches it from the top of the current document.
   void Find();
@@ -42,8 +43,9 @@ class Search {
   void SearchFrom(Position start);
   void ReportMiss(MessageIcon icon);
 
-  HostedControls& controls_;
-  Services services_;
+  const DocumentList& documents_;
+  ModalForms& forms_;
+  MessageBox& messages_;
   frmFind form_;
   bool loaded_ = false;
   SearchState state_;

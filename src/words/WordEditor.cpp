@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "services/ScopeGuard.h"
+#include "base/ScopeGuard.h"
 #include "text/Text.h"
 #include "words/WordList.h"
 

@@ -12,6 +12,13 @@ namespace tessel {
 
 class WordEditor {
  public:
+  /// What it uses; all of it outlives it.
+  struct Services {
+    SettingsStore& settings;
+    MessageBox& messages;
+    ModalForms& forms;
+    Focus& focus;
+  };
   explicit WordEditor(const Services& services) : services_(services) {}
 
   /// Opens the dialog with a word in its field; returns when it has been closed.

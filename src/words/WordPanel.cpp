@@ -1,8 +1,7 @@
 #include "words/WordPanel.h"
 
 #include "base/RuntimeError.h"
-#include "documents/DocumentSlots.h"
-#include "services/ScopeGuard.h"
+#include "base/ScopeGuard.h"
 #include "words/WordList.h"
 
 namespace tessel {
@@ -12,8 +11,13 @@ constexpr std::string_view kWordDelimiters = "\t\r\n ";
 
 }  // namespace
 
-WordPanel::WordPanel(HostedControls& controls, const Services& services, SettingsPanel& settings)
-    : controls_(controls), services_(services), settings_(settings), editor_(services) {}
+WordPanel::WordPanel(const DocumentList& documents, const Controls& controls,
+                     const Services& services, SettingsPanel& settings)
+    : documents_(documents),
+      controls_(controls),
+      services_(services),
+      settings_(settings),
+      editor_(services) {}
 
 void WordPanel::LoadWordList() {
   controls_.lstWords.Clear();
@@ -61,7 +65,7 @@ void WordPanel::lstWords_Click() {
 void WordPanel::InsertWord() {
   const int selected = controls_.lstWords.ListIndex();
   if (selected != kNoSelection) {
-    CurrentEditor(controls_).SetSelText(controls_.lstWords.List(selected));
+    documents_.CurrentEditor().SetSelText(controls_.lstWords.List(selected));
   }
 }
 
@@ -72,7 +76,7 @@ void WordPanel::cmdAddword_Click() {
 
 void WordPanel::ParameterInfo() {
   settings_.BringIntoSight();
-  RichTextBox& editor = CurrentEditor(controls_);
+  RichTextBox& editor = documents_.CurrentEditor();
   editor.Span(kWordDelimiters, true, true);
   editor.SetSelStart(editor.SelEnd());
   editor.Span(kWordDelimiters, false, true);

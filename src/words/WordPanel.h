@@ -6,7 +6,7 @@
 
 #include "services/Services.h"
 #include "settings/SettingsPanel.h"
-#include "surface/HostedControls.h"
+#include "surface/DocumentList.h"
 #include "words/WordEditor.h"
 #include "words/WordSearch.h"
 
@@ -14,8 +14,18 @@ namespace tessel {
 
 class WordPanel {
  public:
-  /// Everything passed outlives this.
-  WordPanel(HostedControls& controls, const Services& services, SettingsPanel& settings);
+  /// The controls that the page uses. They outlive it, as do the services.
+  struct Controls {
+    TabStrip& tbsCon;
+    TextBox& txtSearch;
+    ListBox& lstWords;
+    Label& lblParams;
+    CommandButton& cmdAddword;
+  };
+  using Services = WordEditor::Services;
+
+  WordPanel(const DocumentList& documents, const Controls& controls, const Services& services,
+            SettingsPanel& settings);
 
   /// Fills lstWords from the store. A store that cannot be read leaves the list empty.
   void LoadWordList();
@@ -34,7 +44,8 @@ class WordPanel {
  private:
   void ShowParameters();
 
-  HostedControls& controls_;
+  const DocumentList& documents_;
+  Controls controls_;
   Services services_;
   SettingsPanel& settings_;
   WordEditor editor_;

@@ -81,7 +81,7 @@ TEST_F(AutomationTest, RefusesEveryCallWhileACommandIsOnItsWay) {
     convert = ErrorOf(offer.Path(), "Convert");
     version = ErrorOf(offer.Path(), "SetTesselVersion", {"1.3D"});
   };
-  control_.widget->Tessel().RunCommand(call);
+  control_.widget->Tessel().Run(call);
   EXPECT_EQ(convert, kBusy);
   EXPECT_EQ(version, kBusy);
   call();

@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "colouring/ColorWords.h"
+#include "colouring/ColourCommand.h"
 #include "colouring/Colouring.h"
-#include "documents/ColourMode.h"
-#include "documents/DocumentSlots.h"
 #include "support/FakeServices.h"
 #include "support/SelectionText.h"
+#include "surface/Document.h"
 #include "surface/HostedControls.h"
 
 namespace tessel {
@@ -311,15 +311,15 @@ TEST(ColourMode, LeavesTheModifiedMarkerAloneInBothDirections) {
   RichTextBox& editor = controls.rtbCon[0];
   editor.SetText("define // x");
   controls.tbsRtb.SetTabImage(1, kBlackDot);
-  const Subscription watch = editor.Change.Connect([&] { MarkModified(controls, 0); });
+  const Subscription watch =
+      editor.Change.Connect([&] { Document(controls, Slot{0}).MarkModified(); });
 
-  ApplyColourMode(controls, pointer, collect);
+  ApplyColourMode(true, editor, pointer, collect);
   EXPECT_EQ(ColoursOf(editor), "rrrrrr.gggg");
   EXPECT_EQ(editor.Tag(), "COLOR");
   EXPECT_EQ(controls.tbsRtb.At(1).image, "BlackDot");
 
-  controls.tbToolBar.SetPressed("Colorize", false);
-  ApplyColourMode(controls, pointer, collect);
+  ApplyColourMode(false, editor, pointer, collect);
   EXPECT_EQ(ColoursOf(editor), "...........");
   EXPECT_EQ(editor.Tag(), "BW");
   EXPECT_EQ(Marked(editor), "[]define // x");
@@ -371,9 +371,8 @@ RC_GTEST_PROP(ColouringProperties, ResettingGivesBlack, (const std::vector<unsig
   PlainScreenPointer pointer;
   const StatusText ignore = [](const std::string&) {};
   controls.rtbCon[0].SetText(ScriptLikeText(pieces));
-  ApplyColourMode(controls, pointer, ignore);
-  controls.tbToolBar.SetPressed("Colorize", false);
-  ApplyColourMode(controls, pointer, ignore);
+  ApplyColourMode(true, controls.rtbCon[0], pointer, ignore);
+  ApplyColourMode(false, controls.rtbCon[0], pointer, ignore);
   const std::string colours = ColoursOf(controls.rtbCon[0]);
   RC_ASSERT(colours == std::string(colours.size(), '.'));
 }

@@ -193,13 +193,45 @@ TEST_F(EditorPopup, OffersUndoWhenThereIsSomethingToUndo) {
 class Errors : public TesselTest {};
 
 TEST_F(Errors, OfTheOutermostCommandAreShownOnce) {
-  Control().RunCommand([&] {
-    Control().RunCommand([] { throw RuntimeError("Broken."); });
+  Control().Run([&] {
+    C().lstPlayers.SetListIndex(0);  // an event on the way, whose command passes the error on
+    throw RuntimeError("Broken.");
+  });
+  EXPECT_THAT(world_.messages.shown, ElementsAre(Exclamation("Broken.")));
+  Control().Run([] { throw RuntimeError("Again."); });
+  EXPECT_EQ(world_.messages.shown.size(), 2U);
+}
+
+TEST_F(Errors, OfANestedEventEndTheWholeCommand) {
+  Open("/a.con", "define MAXPLAYERHEALTH 1");
+  const Subscription broken = Control().OpenDocuments().Shown.Connect(
+      [](const tessel::Document&) { throw RuntimeError("Broken."); });
+  Control().Run([&] {
+    C().tbsRtb.Press(1);
     ADD_FAILURE() << "the outer command went on";
   });
   EXPECT_THAT(world_.messages.shown, ElementsAre(Exclamation("Broken.")));
-  Control().RunCommand([] { throw RuntimeError("Again."); });
-  EXPECT_EQ(world_.messages.shown.size(), 2U);
+}
+
+class HostCommands : public TesselTest {};
+
+TEST_F(HostCommands, AreRefusedWhileAnotherCommandIsOnItsWay) {
+  Open("/a.con", "A");
+  world_.files.files["/b.con"] = "B";
+  bool ran = false;
+  EXPECT_TRUE(Control().Run([&] {
+    EXPECT_FALSE(Control().OpenFile("/b.con"));
+    EXPECT_FALSE(Control().ReloadDocument());
+    EXPECT_FALSE(Control().ShowAsUntitled("text"));
+    EXPECT_FALSE(Control().Convert());
+    EXPECT_FALSE(Control().CloseAll());
+    EXPECT_FALSE(Control().Run([] { ADD_FAILURE() << "a command in a command"; }));
+    ran = true;
+  }));
+  EXPECT_TRUE(ran);
+  EXPECT_EQ(Captions(), std::vector<std::string>{"a.con"});
+  EXPECT_TRUE(world_.messages.shown.empty());
+  EXPECT_TRUE(Control().OpenFile("/b.con"));
 }
 
 TEST_F(Errors, PutEditorAndPointerBackBeforeTheMessage) {
@@ -210,7 +242,7 @@ TEST_F(Errors, PutEditorAndPointerBackBeforeTheMessage) {
     EXPECT_TRUE(Current().Visible());
     EXPECT_EQ(world_.pointer.Shape(), PointerShape::kDefault);
   };
-  Control().RunCommand([&] {
+  Control().Run([&] {
     world_.pointer.SetShape(PointerShape::kHourglass);
     Current().SetVisible(false);
     Current().SetLeft(-20000);
@@ -224,7 +256,7 @@ TEST_F(Errors, PutEditorAndPointerBackBeforeTheMessage) {
 TEST_F(Errors, InAFormsHandlerLeaveTheFormOpen) {
   bool openAfterwards = false;
   world_.forms.scripts.emplace_back([&](Form& form) {
-    Control().RunCommand([] { throw RuntimeError("Broken."); });
+    Control().Run([] { throw RuntimeError("Broken."); });
     openAfterwards = form.Visible();
   });
   C().tbToolBar.Press("Find");
@@ -233,7 +265,7 @@ TEST_F(Errors, InAFormsHandlerLeaveTheFormOpen) {
 }
 
 TEST_F(Errors, BehindAFormStillBelongToTheCommandThatOpenedIt) {
-  Control().RunCommand([&] {
+  Control().Run([&] {
     C().tbToolBar.Press("Find");
     throw RuntimeError("Broken.");
   });

@@ -261,8 +261,8 @@ TEST_F(TwoControls, AFormOfEachCanBeOpen) {
 }
 
 TEST_F(TwoControls, AnErrorOfOneIsShownByItAlone) {
-  first_->control.RunCommand([&] {
-    second_->control.RunCommand([] { throw RuntimeError("It went wrong."); });
+  first_->control.Run([&] {
+    second_->control.Run([] { throw RuntimeError("It went wrong."); });
     EXPECT_EQ(secondFakes_.messages.shown.size(), 1U);
     EXPECT_TRUE(first_->control.Running());
     EXPECT_FALSE(second_->control.Running());

@@ -10,9 +10,9 @@
 #include "base/RuntimeError.h"
 #include "converter/Converter.h"
 #include "converter/modConVersion.h"
-#include "documents/DocumentSlots.h"
 #include "support/FakeServices.h"
 #include "support/SelectionText.h"
+#include "surface/DocumentList.h"
 
 namespace tessel {
 namespace {
@@ -50,15 +50,15 @@ class Converting : public testing::Test {
  protected:
   Converting() {
     controls_.tbsRtb.SetTabImage(1, kBlackDot);
-    modified_ = Editor().Change.Connect([this] { MarkModified(controls_, 0); });
+    modified_ = Editor().Change.Connect([this] { documents_.At(Slot{0}).MarkModified(); });
   }
 
   RichTextBox& Editor() { return controls_.rtbCon[0]; }
   std::string Marker() const { return controls_.tbsRtb.At(1).image; }
 
   std::vector<StepResult> Convert() {
-    Services services = fakes_.Get();
-    return ConvertUserCon(controls_, services);
+    return ConvertUserCon(documents_.CurrentEditor(), fakes_.pointer, fakes_.messages,
+                          [this] { documents_.Current().MarkModified(); });
   }
 
   /// Puts a text in without marking the document.
@@ -89,6 +89,7 @@ class Converting : public testing::Test {
   }
 
   HostedControls controls_;
+  DocumentList documents_{controls_};
   test::FakeServices fakes_;
   Subscription modified_;
 };
@@ -112,11 +113,7 @@ TEST_F(Converting, TakesTheMarkOfAUserConForAPlainPieceOfText) {
 
 TEST_F(Converting, ShowsTheHourglassWithARefusal) {
   WatchingMessageBox messages(fakes_.pointer);
-  const Services plain = fakes_.Get();
-  Services services = {messages,       plain.fileDialogs, plain.forms, plain.clipboard,
-                       plain.settings, plain.pointer,     plain.files, plain.random,
-                       plain.focus,    plain.loop,        {}};
-  ConvertUserCon(controls_, services);
+  ConvertUserCon(Editor(), fakes_.pointer, messages, [] {});
   EXPECT_EQ(messages.shape, PointerShape::kHourglass);
   ExpectInSight();
 }
@@ -160,8 +157,8 @@ TEST_F(Converting, KeepsTheColoursOfWhatItDoesNotWrite) {
 }
 
 TEST_F(Converting, ConvertsTheCurrentDocument) {
-  LoadNewEditor(controls_);
-  AddDocumentTab(controls_, "two.con");
+  documents_.LoadNewEditor();
+  documents_.AddDocumentTab("two.con");
   controls_.tbsRtb.Select(2);
   controls_.rtbCon[0].SetLeft(kParkedLeft);
   controls_.rtbCon[1].SetLeft(0);
@@ -246,9 +243,8 @@ RC_GTEST_PROP(ConversionProperties, AFailureLeavesTheDocumentAsItWas,
   std::string text = "definelevelname ";
   for (const unsigned piece : pieces) text += kPieces[piece % kPieces.size()] + " ";
   editor.SetText(text);
-  Services services = fakes.Get();
   try {
-    ConvertUserCon(controls, services);
+    ConvertUserCon(editor, fakes.pointer, fakes.messages, [] {});
     RC_TAG("converted");
     RC_ASSERT(editor.Text().ends_with("\r\n" + std::string(NewSoundDefinitions())));
   } catch (const RuntimeError&) {

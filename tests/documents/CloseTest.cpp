@@ -54,7 +54,7 @@ TEST_F(Close, OfTheLastDocumentSelectsTheOneBefore) {
   CloseSlot(2);
   EXPECT_THAT(Captions(), ElementsAre("a.con", "b.con"));
   EXPECT_THAT(Texts(), ElementsAre("define A 1", "define B 1"));
-  EXPECT_EQ(CurrentDocIndex(C()), 1);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{1});
   EXPECT_EQ(Current().Left(), 0);
   EXPECT_EQ(Current().FileName(), "/b.con");
 }
@@ -70,7 +70,7 @@ TEST_F(Close, OfTheFirstMovesTheOthersUp) {
   EXPECT_EQ(TabOf(1).tag, "/c.con");
   EXPECT_EQ(TabOf(0).image, "BlackDot");
   EXPECT_EQ(TabOf(1).image, "RedDot");
-  EXPECT_EQ(CurrentDocIndex(C()), 0);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{0});
   EXPECT_EQ(Editor(0).Left(), 0);
   EXPECT_EQ(Editor(1).Left(), -20000);
 }
@@ -97,7 +97,7 @@ TEST_F(Close, OfTheMiddleKeepsTheFirst) {
   CloseSlot(1);
   EXPECT_THAT(Texts(), ElementsAre("define A 1", "define C 1"));
   EXPECT_EQ(Editor(0).Tag(), "COLOR");
-  EXPECT_EQ(CurrentDocIndex(C()), 1);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{1});
 }
 
 TEST_F(Close, AsksForAModifiedDocumentByTheLoadedFile) {
@@ -213,7 +213,7 @@ TEST_F(CloseAll, ClosesNothingWhenOneIsCancelled) {
   EXPECT_THAT(Captions(), ElementsAre("a.con", "b.con", "c.con"));
   EXPECT_EQ(TabOf(0).image, "RedDot");
   EXPECT_EQ(TabOf(2).image, "RedDot");
-  EXPECT_EQ(CurrentDocIndex(C()), 2);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{2});
 }
 
 TEST_F(CloseAll, ClosesNothingWhenASaveFails) {

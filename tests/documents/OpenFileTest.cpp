@@ -28,7 +28,7 @@ TEST_F(OpenFile, AddsATabAndAnEditorForTheNext) {
   Open("/a.con", "A");
   Open("/b.con", "B");
   EXPECT_THAT(Captions(), ElementsAre("a.con", "b.con"));
-  EXPECT_EQ(CurrentDocIndex(C()), 1);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{1});
   EXPECT_EQ(Editor(0).Left(), -20000);
   EXPECT_EQ(Editor(1).Left(), 0);
   EXPECT_EQ(TabOf(0).image, "BlackDot");
@@ -67,7 +67,7 @@ TEST_F(OpenFile, SelectsTheTabOfAFileThatIsOpen) {
   Open("/b.con", "B");
   Open("/a.con", "changed meanwhile");
   EXPECT_EQ(C().tbsRtb.Count(), 2);
-  EXPECT_EQ(CurrentDocIndex(C()), 0);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{0});
   EXPECT_EQ(Current().Text(), "A");
   EXPECT_EQ(Current().Left(), 0);
   EXPECT_THAT(RecentNames(), ElementsAre("b.con", "a.con"));
@@ -182,7 +182,7 @@ TEST_F(OpenDialog, OpensEveryChosenFileInTheirOrder) {
   Choose(std::vector<std::string>{"/b.con", "/a.con", "/c.con"});
   EXPECT_THAT(Captions(), ElementsAre("b.con", "a.con", "c.con"));
   EXPECT_THAT(RecentNames(), ElementsAre("c.con", "a.con", "b.con"));
-  EXPECT_EQ(CurrentDocIndex(C()), 2);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{2});
   EXPECT_EQ(C().dlgCommon.Held().fileName, "/c.con");
   EXPECT_EQ(C().dlgCommon.Held().fileTitle, "c.con");
 }

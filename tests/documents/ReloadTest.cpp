@@ -33,11 +33,11 @@ TEST_F(Reload, GivesUpWhatWasTyped) {
 
 TEST_F(Reload, ColoursADocumentThatWasColoured) {
   Open("/a.con", "A");
-  ASSERT_EQ(Current().Tag(), kColourMode);
+  ASSERT_EQ(Current().Tag(), "COLOR");
   ChangeOnDisk("/a.con", "// B");
   Control().ReloadDocument();
   EXPECT_EQ(Current().Store().ColourAt(0), 0x008000U);
-  EXPECT_EQ(Current().Tag(), kColourMode);
+  EXPECT_EQ(Current().Tag(), "COLOR");
 }
 
 TEST_F(Reload, LeavesAPlainDocumentPlain) {
@@ -46,7 +46,7 @@ TEST_F(Reload, LeavesAPlainDocumentPlain) {
   ChangeOnDisk("/a.con", "// B");
   Control().ReloadDocument();
   EXPECT_EQ(Current().Store().ColourAt(0), kBlack);
-  EXPECT_EQ(Current().Tag(), kPlainMode);
+  EXPECT_EQ(Current().Tag(), "BW");
 }
 
 TEST_F(Reload, ListsTheLevelsAnew) {

@@ -18,14 +18,14 @@ TEST_F(DocumentSlots, BeginWithOneEmptyTabAndOneEmptyEditor) {
   EXPECT_EQ(Editor(0).Text(), "");
   EXPECT_EQ(Editor(0).Left(), 0);
   EXPECT_EQ(Editor(0).Tag(), "");
-  EXPECT_EQ(CurrentDocIndex(C()), 0);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{0});
 }
 
 TEST_F(DocumentSlots, FillTheStartTabFirst) {
-  EXPECT_EQ(GetFreeEditorIndex(C()), 0);
+  EXPECT_EQ(List().GetFreeEditorIndex(), Slot{0});
   EXPECT_EQ(C().rtbCon.Count(), 1);
   C().tbsRtb.SetTabTag(1, "Untitled");
-  EXPECT_EQ(GetFreeEditorIndex(C()), 1);
+  EXPECT_EQ(List().GetFreeEditorIndex(), Slot{1});
   EXPECT_EQ(C().rtbCon.Count(), 2);
   EXPECT_EQ(C().tbsRtb.Count(), 1);
 }
@@ -33,20 +33,20 @@ TEST_F(DocumentSlots, FillTheStartTabFirst) {
 TEST_F(DocumentSlots, AreLoadedParkedWithTheTopAndWidthOfTheFirst) {
   Editor(0).SetTop(33);
   Editor(0).SetWidth(4444);
-  EXPECT_EQ(LoadNewEditor(C()), 1);
+  EXPECT_EQ(List().LoadNewEditor(), Slot{1});
   EXPECT_EQ(Editor(1).Top(), 33);
   EXPECT_EQ(Editor(1).Width(), 4444);
   EXPECT_EQ(Editor(1).Left(), -20000);
-  EXPECT_EQ(LoadNewEditor(C()), 2);
+  EXPECT_EQ(List().LoadNewEditor(), Slot{2});
 }
 
 TEST_F(DocumentSlots, GetTabsWithTheLowerCasedName) {
-  AddDocumentTab(C(), "GAME.Con");
+  List().AddDocumentTab("GAME.Con");
   EXPECT_EQ(C().tbsRtb.Count(), 2);
   EXPECT_EQ(TabOf(1).caption, "game.con");
   EXPECT_EQ(TabOf(1).image, "BlackDot");
   EXPECT_EQ(TabOf(1).tag, "");
-  EXPECT_EQ(CurrentDocIndex(C()), 0);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{0});
 }
 
 class Switching : public TesselTest {
@@ -61,7 +61,7 @@ class Switching : public TesselTest {
 TEST_F(Switching, ShowsTheChosenEditorAndParksTheRest) {
   for (int shown : {0, 2, 1, 1}) {
     C().tbsRtb.Press(shown + 1);
-    EXPECT_EQ(CurrentDocIndex(C()), shown);
+    EXPECT_EQ(CurrentDocIndex(C()), Slot{shown});
     for (int slot = 0; slot < 3; ++slot) {
       EXPECT_EQ(Editor(slot).Left(), slot == shown ? 0 : -20000);
       EXPECT_TRUE(Editor(slot).Visible());
@@ -183,8 +183,8 @@ TEST_F(ColourMode, PlainPaintsTheParkedEditorBlackInThisOrder) {
   C().tbToolBar.Press("Colorize");
   EXPECT_THAT(trace.Take(),
               ElementsAre("pointer 11", "hidden", "left -20000", "selection hidden", "select 0+0",
-                          "select 0+10", "change", "select 0+0", "selection shown", "left 0",
-                          "tag BW", "visible", "pointer 0"));
+                          "select 0+10", "change", "select 0+0", "tag BW", "selection shown",
+                          "left 0", "visible", "pointer 0"));
   EXPECT_FALSE(C().tbToolBar.Pressed("Colorize"));
   EXPECT_EQ(Current().Store().UniformColour(0, 10), kBlack);
   EXPECT_EQ(TabOf(0).image, "BlackDot");

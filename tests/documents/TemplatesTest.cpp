@@ -36,9 +36,9 @@ TEST_F(NewFromTemplate, LoadsTheFileOfEachCode) {
     New(code);
     EXPECT_EQ(Current().Text(), "define " + code + " 1\r\n");
     EXPECT_EQ(Current().FileName(), "/host/" + file);
-    EXPECT_EQ(TabOf(CurrentDocIndex(C())).caption, "Untitled");
-    EXPECT_EQ(TabOf(CurrentDocIndex(C())).tag, "Untitled");
-    EXPECT_EQ(TabOf(CurrentDocIndex(C())).image, "BlackDot");
+    EXPECT_EQ(TabOf(Index(CurrentDocIndex(C()))).caption, "Untitled");
+    EXPECT_EQ(TabOf(Index(CurrentDocIndex(C()))).tag, "Untitled");
+    EXPECT_EQ(TabOf(Index(CurrentDocIndex(C()))).image, "BlackDot");
   }
   EXPECT_EQ(C().tbsRtb.Count(), 6);
   EXPECT_EQ(C().rtbCon.Count(), 6);
@@ -112,7 +112,7 @@ TEST_F(NewFromTemplate, ColoursTheDocumentThatWasCurrentAndSetsNoColourMode) {
 TEST_F(NewFromTemplate, ShowsTheNewDocumentAndParksTheOther) {
   Open("/a.con", "A");
   New("13DU");
-  EXPECT_EQ(CurrentDocIndex(C()), 1);
+  EXPECT_EQ(CurrentDocIndex(C()), Slot{1});
   EXPECT_EQ(Editor(0).Left(), -20000);
   EXPECT_EQ(Editor(1).Left(), 0);
   EXPECT_TRUE(Editor(1).Visible());

@@ -3,10 +3,10 @@
 
 #include <string>
 
-#include "documents/ColourMode.h"
-#include "documents/DocumentSlots.h"
+#include "colouring/ColourCommand.h"
 #include "fuzz/Fuzzing.h"
 #include "services/HeadlessServices.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::fuzz {
 namespace {
@@ -34,8 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   editor.SetText(text);
   editor.SetTag("");
 
-  controls.tbToolBar.SetPressed("Colorize", true);
-  ApplyColourMode(controls, pointer, [](const std::string&) {});
+  ApplyColourMode(true, editor, pointer, [](const std::string&) {});
   Require(editor.Bytes() == text, "colouring changes no text");
   Require(!editor.CanUndo(), "colouring is no edit");
   Require(editor.SelStart() == 0 && editor.SelLength() == 0, "the caret is at the start");
@@ -46,8 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(editor.Bytes() == text, "colouring a word changes no text");
   RequireCoveringRuns(editor);
 
-  controls.tbToolBar.SetPressed("Colorize", false);
-  ApplyColourMode(controls, pointer, [](const std::string&) {});
+  ApplyColourMode(false, editor, pointer, [](const std::string&) {});
   Require(editor.Bytes() == text, "plain mode changes no text");
   for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
     Require(run.colour == kBlack, "plain mode is black");

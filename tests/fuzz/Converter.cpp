@@ -6,9 +6,9 @@
 #include <string>
 
 #include "base/RuntimeError.h"
-#include "documents/DocumentSlots.h"
 #include "fuzz/Fuzzing.h"
 #include "support/FakeServices.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::fuzz {
 namespace {
@@ -18,7 +18,8 @@ enum class Result { kConverted, kRefused, kFailed };
 Result Convert(HostedControls& controls, test::FakeServices& services) {
   services.messages.shown.clear();
   try {
-    ConvertUserCon(controls, services.Get());
+    ConvertUserCon(CurrentEditor(controls), services.pointer, services.messages,
+                   [&] { Document(controls, Slot{0}).MarkModified(); });
   } catch (const RuntimeError&) {
     return Result::kFailed;
   }

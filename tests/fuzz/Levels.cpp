@@ -4,9 +4,10 @@
 
 #include <string>
 
-#include "documents/DocumentSlots.h"
+#include "control/Wiring.h"
 #include "fuzz/Fuzzing.h"
 #include "support/FakeServices.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::fuzz {
 namespace {
@@ -31,7 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static HostedControls controls;
   static test::FakeServices services;
   static const std::string conPath = "/games";
-  Levels levels(controls, services.Get(), conPath);
+  static DocumentList documents(controls);
+  Levels levels(documents, LevelsControls(controls), LevelsServices(services.Get()), conPath);
   Input input(data, size);
   const std::string title = input.Line();
   const std::string text = input.Rest();
@@ -46,7 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::size_t shown = 0;
   for (const std::string& entry : entries) {
     if (++shown > 20) break;
-    levels.ClearBoxes();
+    controls.txtMap.SetText("");
+    controls.txtTitle.SetText("");
     levels.ShowLevel(entry);
     Require(editor.Bytes() == text, "showing a level changes no text");
     Require(editor.Bytes().find(controls.txtMap.Text()) != std::string_view::npos,

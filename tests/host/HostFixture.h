@@ -26,9 +26,17 @@ struct HostRun {
   explicit HostRun(const std::string& state)
       : backups(state + "/backups"), keptFiles(plainFiles, backups), files(keptFiles) {
     const Services s = fakes.Get();
-    const Services services{s.messages, s.fileDialogs, s.forms,        s.clipboard,
-                            s.settings, s.pointer,     files,          s.random,
-                            s.focus,    s.loop,        s.hostDirectory};
+    const Services services{.messages = s.messages,
+                            .fileDialogs = s.fileDialogs,
+                            .forms = s.forms,
+                            .clipboard = s.clipboard,
+                            .settings = s.settings,
+                            .pointer = s.pointer,
+                            .files = files,
+                            .random = s.random,
+                            .focus = s.focus,
+                            .loop = s.loop,
+                            .hostDirectory = s.hostDirectory};
     window = std::make_unique<MainWindow>(services, widgets, files);
     keptFiles.TellProblems([this](const std::string& problem) { problems.push_back(problem); });
     window->OfferBackups(backups);

@@ -6,11 +6,11 @@
 #include <QTreeWidget>
 
 #include "HostFixture.h"
-#include "documents/DocumentSlots.h"
 #include "host/BackupsDialog.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
 #include "host/Session.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::test {
 namespace {

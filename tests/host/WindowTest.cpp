@@ -8,11 +8,11 @@
 #include <set>
 
 #include "HostFixture.h"
-#include "documents/DocumentSlots.h"
 #include "host/BackupsDialog.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
 #include "qt/editor/ScintillaView.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::test {
 namespace {

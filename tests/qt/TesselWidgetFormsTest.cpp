@@ -56,9 +56,17 @@ TEST_F(TesselWidgetFormsTest, TheWordListEditorOpensWithTheCaretInTheParameters)
   const Services s = services_.Get();
   WidgetMap widgets;
   QtFocus mover(widgets);
-  const Services services{s.messages, s.fileDialogs, s.forms,        s.clipboard,
-                          s.settings, s.pointer,     s.files,        s.random,
-                          mover,      s.loop,        s.hostDirectory};
+  const Services services{.messages = s.messages,
+                          .fileDialogs = s.fileDialogs,
+                          .forms = s.forms,
+                          .clipboard = s.clipboard,
+                          .settings = s.settings,
+                          .pointer = s.pointer,
+                          .files = s.files,
+                          .random = s.random,
+                          .focus = mover,
+                          .loop = s.loop,
+                          .hostDirectory = s.hostDirectory};
   TesselWidget widget(services, widgets);
   widget.show();
   HostedControls& controls = widget.Tessel().Controls();

@@ -1,4 +1,5 @@
 // Filling the panel, its pages, and hiding and showing it.
+#include "control/Wiring.h"
 #include "settings/SettingsPanel.h"
 #include "support/TesselTest.h"
 
@@ -12,8 +13,9 @@ class FillSettingsLists : public TesselTest {
   /// A panel of its own on the control's hosted controls.
   SettingsPanel& Panel() {
     if (!panel_) {
-      levels_ = std::make_unique<Levels>(C(), world_.Get(), conPath_);
-      panel_ = std::make_unique<SettingsPanel>(C(), *levels_);
+      levels_ = std::make_unique<Levels>(List(), LevelsControls(C()), LevelsServices(world_.Get()),
+                                         conPath_);
+      panel_ = std::make_unique<SettingsPanel>(List(), SettingsControls(C()), *levels_, [] {});
     }
     return *panel_;
   }

@@ -1,4 +1,5 @@
 // The levels page: the list of levels, and the map and title of one.
+#include "control/Wiring.h"
 #include "settings/Levels.h"
 #include "support/EditorTrace.h"
 #include "support/TesselTest.h"
@@ -54,7 +55,8 @@ class LevelList : public TesselTest {
   }
 
   std::string conPath_ = "/maps";
-  Levels levels_{C(), world_.Get(), conPath_};
+  DocumentList documents_{C()};
+  Levels levels_{documents_, LevelsControls(C()), LevelsServices(world_.Get()), conPath_};
 };
 
 TEST_F(LevelList, HoldsOneEntryPerLineInTheirOrder) {
@@ -94,7 +96,7 @@ TEST_F(LevelList, IsMadeOutOfSight) {
   EXPECT_THAT(std::vector(steps.begin(), steps.begin() + 5),
               ElementsAre("pointer 11", "hidden", "left -20000", "select 0+0", "selection hidden"));
   EXPECT_THAT(std::vector(steps.end() - 4, steps.end()),
-              ElementsAre("select 8+0", "visible", "left 0", "pointer 0"));
+              ElementsAre("select 8+0", "left 0", "visible", "pointer 0"));
   EXPECT_EQ(Document(), "define A[] 1\r\ndefinelevelname 0 1 A");
   EXPECT_TRUE(Current().HideSelection());
   EXPECT_EQ(TabOf(0).image, kBlackDot);
@@ -139,7 +141,8 @@ TEST_F(Level, LeavesNothingOnThePageWhenTheListStartsAnew) {
   for (const auto focus : {&Levels::txtMap_GotFocus, &Levels::txtTitle_GotFocus}) {
     Choose(0);
     (levels_.*focus)();
-    levels_.Restart();
+    C().tbsRtb.SetTabTag(1, "/a.con");
+    levels_.DocumentLoaded(documents_.Current());
     EXPECT_EQ(C().cboEpisode.ListIndex(), kNoSelection);
     EXPECT_EQ(C().txtMap.Text(), "");
     EXPECT_EQ(C().txtTitle.Text(), "");

@@ -7,9 +7,9 @@
 #include <string_view>
 
 #include "control/ucTessel.h"
-#include "documents/DocumentSlots.h"
 #include "support/FakeServices.h"
 #include "support/SelectionText.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::test {
 

@@ -152,8 +152,17 @@ struct FakeServices {
   FakeServices& operator=(const FakeServices&) = delete;
 
   Services Get() {
-    return {messages, fileDialogs, forms, clipboard, settings,     pointer,
-            files,    random,      focus, loop,      hostDirectory};
+    return {.messages = messages,
+            .fileDialogs = fileDialogs,
+            .forms = forms,
+            .clipboard = clipboard,
+            .settings = settings,
+            .pointer = pointer,
+            .files = files,
+            .random = random,
+            .focus = focus,
+            .loop = loop,
+            .hostDirectory = hostDirectory};
   }
 };
 

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "control/ucTessel.h"
-#include "documents/DocumentSlots.h"
 #include "randomizer/frmRand.h"
 #include "support/ControlState.h"
 #include "support/FakeServices.h"
+#include "surface/CurrentEditor.h"
 #include "tools/frmFind.h"
 
 namespace tessel::test {

@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "control/ucTessel.h"
-#include "documents/DocumentSlots.h"
 #include "posix/FallbackSettingsStore.h"
 #include "posix/PosixFiles.h"
 #include "support/FakeServices.h"
 #include "support/TempDirectory.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::test {
 

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "control/ucTessel.h"
-#include "documents/DocumentSlots.h"
 #include "support/FakeServices.h"
 #include "support/SelectionText.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::test {
 
@@ -60,15 +60,23 @@ class TesselTest : public testing::Test {
  protected:
   ucTessel& Control() {
     if (!control_) {
-      control_ = std::make_unique<ucTessel>(
-          Services{world_.messages, world_.fileDialogs, world_.forms, world_.clipboard, store_,
-                   world_.pointer, world_.files, world_.random, world_.focus, world_.loop,
-                   world_.hostDirectory});
+      control_ = std::make_unique<ucTessel>(Services{.messages = world_.messages,
+                                                     .fileDialogs = world_.fileDialogs,
+                                                     .forms = world_.forms,
+                                                     .clipboard = world_.clipboard,
+                                                     .settings = store_,
+                                                     .pointer = world_.pointer,
+                                                     .files = world_.files,
+                                                     .random = world_.random,
+                                                     .focus = world_.focus,
+                                                     .loop = world_.loop,
+                                                     .hostDirectory = world_.hostDirectory});
       control_->Initialize();
     }
     return *control_;
   }
   HostedControls& C() { return Control().Controls(); }
+  DocumentList& List() { return Control().OpenDocuments(); }
   RichTextBox& Editor(int slot) { return C().rtbCon[slot]; }
   RichTextBox& Current() { return CurrentEditor(C()); }
   const Tab& TabOf(int slot) { return C().tbsRtb.At(slot + 1); }

@@ -37,8 +37,17 @@ struct QtDesktop {
   /// The same with message boxes and files of the host's own.
   Services With(SettingsStore& settings, const std::string& hostDirectory, MessageBox& hostMessages,
                 Files& hostFiles) {
-    return {hostMessages, fileDialogs, forms, clipboard, settings,     pointer,
-            hostFiles,    random,      focus, loop,      hostDirectory};
+    return {.messages = hostMessages,
+            .fileDialogs = fileDialogs,
+            .forms = forms,
+            .clipboard = clipboard,
+            .settings = settings,
+            .pointer = pointer,
+            .files = hostFiles,
+            .random = random,
+            .focus = focus,
+            .loop = loop,
+            .hostDirectory = hostDirectory};
   }
 };
 

@@ -4,10 +4,10 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "base/ScopeGuard.h"
 #include "qt/base/ControlView.h"
 #include "qt/base/QtText.h"
 #include "qt/views/ByteValidator.h"
-#include "services/ScopeGuard.h"
 
 namespace tessel {
 

@@ -3,8 +3,6 @@
 
 #include <utility>
 
-#include "services/Services.h"
-
 namespace tessel {
 
 /// Runs a function when the scope ends, however it ends.
@@ -18,20 +16,6 @@ class ScopeGuard {
 
  private:
   Function function_;
-};
-
-/// The hourglass while this lives, the default pointer afterwards.
-class Hourglass {
- public:
-  explicit Hourglass(ScreenPointer& pointer) : pointer_(pointer) {
-    pointer_.SetShape(PointerShape::kHourglass);
-  }
-  ~Hourglass() { pointer_.SetShape(PointerShape::kDefault); }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-
- private:
-  ScreenPointer& pointer_;
 };
 
 /// A flag that is set while this lives.

@@ -4,15 +4,16 @@
 #include <functional>
 #include <string>
 
+#include "models/RichTextBox.h"
 #include "services/Services.h"
-#include "surface/HostedControls.h"
 
 namespace tessel {
 
 /// Where status texts for the host go.
 using StatusText = std::function<void(const std::string&)>;
 
-/// Applies the state of the "Colorize" button to the current document.
-void ApplyColourMode(HostedControls& controls, ScreenPointer& pointer, const StatusText& status);
+/// Colours a document, or shows it in plain black, as the "Colorize" button says.
+void ApplyColourMode(bool colorize, RichTextBox& editor, ScreenPointer& pointer,
+                     const StatusText& status);
 
 }  // namespace tessel
