@@ -16,8 +16,8 @@ for target in "${targets[@]}"; do
   [ -d "tests/fuzz/corpus/$target" ] || { echo "scripts/fuzz.sh: no target $target; there are ${all[*]}" >&2; exit 2; }
 done
 
-install_missing "${build_packages[@]}" "${test_packages[@]}" "${fuzz_packages[@]}"
-cmake --preset asan-ubsan >/dev/null
+install_missing "${build_packages[@]}" "${test_packages[@]}" "${all_packages[@]}"
+cmake --preset asan-ubsan -DTESSEL_TESTS=ON >/dev/null
 cmake --build --preset fuzz -j "${FUZZ_JOBS:-$(nproc)}" | tail -n 1
 
 # In memory, where there is such a place: two targets make files for every input.

@@ -32,7 +32,7 @@ using testing::StartsWith;
 /// TESSEL_KILL_ROUNDS, for a longer run.
 int Rounds() {
   const char* wanted = std::getenv("TESSEL_KILL_ROUNDS");
-  return wanted == nullptr ? 100 : std::atoi(wanted);
+  return wanted == nullptr ? 20 : std::atoi(wanted);
 }
 
 /// Starts a program that gets ready with `prepare`, goes on with `work` for ever, and is killed at
