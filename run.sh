@@ -16,12 +16,17 @@ done
 
 install_missing "${build_packages[@]}"
 
-echo "==> Building (build/release)"
-(cd "$here" && cmake --preset release -DTESSEL_TESTS=OFF >/dev/null && cmake --build --preset release --target zanth-manager tessel-drive tessel) |
-  tail -n 1
+# build TARGET...: what these take, and nothing else.
+build() {
+  local quiet=(); [ -t 1 ] || quiet=(-- --quiet)
+  echo "==> Building (build/release)"
+  (cd "$here" && cmake --preset release -DTESSEL_TESTS=OFF >/dev/null && cmake --build --preset release --target "$@" "${quiet[@]}")
+}
 
 if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
+  build zanth-manager
   exec "$here/build/release/src/host/zanth-manager" "$@"
 fi
+build zanth-manager tessel-drive
 echo "==> There is no display: performing a typical session without one"
 exec "$here/scripts/typical-session.sh" "$here/build/release" "$@"

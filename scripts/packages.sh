@@ -1,19 +1,24 @@
 # Installs the Debian packages that are missing. Source it, then call: install_missing PACKAGE...
 
+# What the programs are built with.
 build_packages=(
   g++ cmake ninja-build pkg-config
   qt6-base-dev qt6-svg-dev libqt6svg6 qt6-tools-dev libqscintilla2-qt6-dev libgl-dev
   libsqlite3-dev libcli11-dev nlohmann-json3-dev
   fonts-dejavu-core
 )
+# What "./test.sh" takes besides.
 test_packages=(
   libgtest-dev libgmock-dev librapidcheck-dev libqt6opengl6-dev
-  desktop-file-utils appstream libxml2-utils shared-mime-info groff-base dpkg-dev file
-  clang clang-format clang-tidy util-linux git
-  xvfb xdotool xauth
+  groff-base util-linux
   dbus-bin dbus-daemon libglib2.0-bin
 )
-fuzz_packages=(clang libclang-rt-14-dev)
+# What "./test.sh --all" takes besides: sanitizers, fuzzing, format, lint, packages, and a display.
+all_packages=(
+  clang libclang-rt-14-dev clang-format clang-tidy git
+  desktop-file-utils appstream libxml2-utils shared-mime-info dpkg-dev file
+  xvfb xdotool xauth
+)
 
 install_missing() {
   local missing=() package
