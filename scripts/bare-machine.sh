@@ -186,7 +186,7 @@ if [ -n "$configure_only" ]; then
   lists='. scripts/packages.sh; install_missing "${build_packages[@]}"'
   perform 'packages of ./run.sh, configure' "set -e; $lists
     cmake --preset release -DTESSEL_TESTS=OFF >/dev/null"
-  lists+=' "${test_packages[@]}" "${fuzz_packages[@]}"'
+  lists+=' "${test_packages[@]}" "${all_packages[@]}"'
   perform 'packages of ./test.sh, configure' "set -e; $lists
     cmake --preset release -DTESSEL_TESTS=ON >/dev/null
     cmake --preset asan-ubsan -DTESSEL_TESTS=ON >/dev/null"
