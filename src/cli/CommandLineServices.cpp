@@ -2,14 +2,12 @@
 
 #include <iostream>
 
-#include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "models/Form.h"
 
 namespace tessel::cli {
 
 void Complain(const std::string& text) {
-  HideProgress();
   std::cerr << "tessel: " << ForTerminal(text) << '\n';
 }
 

@@ -3,7 +3,6 @@
 
 #include "cli/CommonOptions.h"
 #include "cli/DocumentSession.h"
-#include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "converter/Converter.h"
@@ -23,7 +22,6 @@ const char* Describe(const StepResult& result) {
 }
 
 void Report(const std::string& file, const std::vector<StepResult>& results) {
-  HideProgress();
   std::cerr << ForTerminal(file) << ":\n";
   for (const StepResult& result : results) {
     std::cerr << "  step " << result.step << "  " << Describe(result) << "  \""

@@ -8,7 +8,6 @@
 #include <new>
 
 #include "cli/CommandLineServices.h"
-#include "cli/Progress.h"
 #include "cli/Subcommands.h"
 #include "cli/Usage.h"
 
@@ -32,7 +31,6 @@ void AddSubcommands(CLI::App& program, int& status) {
 
 int Run(CLI::App& program, int argc, char** argv, const int& status) {
   try {
-    const Progress progress;
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return program.exit(error) == 0 ? kDone : kUsage;

@@ -6,7 +6,6 @@
 #include "cli/CommonOptions.h"
 #include "cli/DocumentSession.h"
 #include "cli/PanelItems.h"
-#include "cli/Progress.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "randomizer/frmRand.h"
@@ -59,7 +58,6 @@ void Report(const std::string& section, const std::string& before, const std::st
   std::erase_if(items, [&](const PanelItem& item) {
     return item.entry < 0 || (section != "All" && item.section != section);
   });
-  HideProgress();
   const Values old = ReadValues(before, items);
   const Values now = ReadValues(after, items);
   for (std::size_t i = 0; i < items.size(); ++i) {

@@ -160,12 +160,5 @@ TEST_F(CommandLineBadInput, LeavesNoTraceInTheSettingsOfTheUser) {
   EXPECT_FALSE(std::filesystem::exists(store_));
 }
 
-TEST_F(CommandLineBadInput, WritesNoProgressWhereThereIsNoTerminal) {
-  Put("big.con", kText + std::string(60'000'000, '\n'));
-  const Outcome outcome = Tessel({"colour", "big.con"});
-  EXPECT_EQ(outcome.status, 0);
-  EXPECT_EQ(outcome.err, "");
-}
-
 }  // namespace
 }  // namespace tessel::test
