@@ -74,5 +74,22 @@ TEST_F(HostProgram, RefusesADirectoryAsAFile) {
   EXPECT_TRUE(Said("is a directory")) << BytesOf(errors);
 }
 
+TEST_F(HostProgram, RefusesOptionsThatExcludeEachOther) {
+  const std::vector<std::vector<std::string>> pairs = {{"--dark", "--light"},
+                                                       {"--automation", "--screenshot=" + picture},
+                                                       {"--automation", "--no-automation"}};
+  for (const auto& pair : pairs) {
+    EXPECT_EQ(Start(pair), 2) << pair[1];
+    EXPECT_TRUE(Said("exclude each other")) << BytesOf(errors);
+  }
+}
+
+TEST_F(HostProgram, SaysWhereToReadOnWhenItDoesNotKnowAnOption) {
+  for (const std::string option : {"--no-such", "-x", "--store", "--host-dir=/no/such"}) {
+    EXPECT_EQ(Start({option}), 2) << option;
+    EXPECT_TRUE(Said("\"zanth-manager --help\" tells more.")) << BytesOf(errors);
+  }
+}
+
 }  // namespace
 }  // namespace tessel::test
