@@ -2,20 +2,14 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <nlohmann/json.hpp>
 
-#include "cli/CommonOptions.h"
 #include "cli/DocumentSession.h"
+#include "cli/Json.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 
 namespace tessel::cli {
 namespace {
-
-struct Options {
-  std::string file;
-  std::string format;
-};
 
 struct Rgb {
   unsigned red, green, blue;
@@ -54,11 +48,11 @@ void PrintHtml(const RichTextBox& editor) {
 }
 
 void PrintJson(const RichTextBox& editor) {
-  nlohmann::ordered_json runs = nlohmann::ordered_json::array();
+  std::vector<std::array<std::int64_t, 3>> runs;
   for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
     if (run.colour != kBlack) runs.push_back({run.start, run.length, run.colour});
   }
-  std::cout << runs.dump() << '\n';
+  std::cout << JsonText(runs) << '\n';
 }
 
 // Colours go to a terminal unless NO_COLOR is set; elsewhere only when asked for.
@@ -67,34 +61,23 @@ bool TerminalWantsColour() {
   return isatty(STDOUT_FILENO) != 0 && (noColour == nullptr || *noColour == '\0');
 }
 
-bool Run(const Options& options) {
+}  // namespace
+
+bool PrintInColours(const ColourArguments& arguments) {
   DocumentSession session;
-  if (!session.Open(options.file)) return false;
+  if (!session.Open(arguments.file)) return false;
   if (!session.Run([&] { session.Controls().tbToolBar.Press("Colorize"); })) return false;
   const RichTextBox& editor = session.Editor();
-  if (options.format == "json") {
+  if (arguments.format == "json") {
     PrintJson(editor);
-  } else if (options.format == "html") {
+  } else if (arguments.format == "html") {
     PrintHtml(editor);
-  } else if (options.format == "ansi" || TerminalWantsColour()) {
+  } else if (arguments.format == "ansi" || TerminalWantsColour()) {
     PrintAnsi(editor);
   } else {
     PrintPlain(editor);
   }
   return true;
-}
-
-}  // namespace
-
-void AddColour(CLI::App& program, int& status) {
-  auto options = std::make_shared<Options>();
-  CLI::App* command = program.add_subcommand("colour", "Print a file in colours");
-  AddFile(*command, options->file);
-  command->add_option("--format", options->format, "ansi, html or json (the coloured runs)")
-      ->check(CLI::IsMember(std::vector<std::string>{"ansi", "html", "json"}));
-  command->callback([options, &status] {
-    if (!Run(*options)) status = kFailed;
-  });
 }
 
 }  // namespace tessel::cli

@@ -7,9 +7,7 @@
 
 namespace tessel::cli {
 
-void Complain(const std::string& text) {
-  std::cerr << "tessel: " << ForTerminal(text) << '\n';
-}
+void Complain(const std::string& text) { std::cerr << "tessel: " << ForTerminal(text) << '\n'; }
 
 MessageAnswer StderrMessages::Show(const std::string& text, MessageIcon, const std::string&,
                                    MessageButtons buttons) {

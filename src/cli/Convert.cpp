@@ -1,7 +1,6 @@
 #include <iostream>
 #include <vector>
 
-#include "cli/CommonOptions.h"
 #include "cli/DocumentSession.h"
 #include "cli/SafeText.h"
 #include "cli/Subcommands.h"
@@ -9,12 +8,6 @@
 
 namespace tessel::cli {
 namespace {
-
-struct Options {
-  std::vector<std::string> files;
-  Destination destination;
-  bool report = false;
-};
 
 const char* Describe(const StepResult& result) {
   if (result.changed) return "changed";
@@ -29,7 +22,7 @@ void Report(const std::string& file, const std::vector<StepResult>& results) {
   }
 }
 
-bool ConvertFile(const std::string& file, const Options& options) {
+bool ConvertFile(const std::string& file, const ConvertArguments& arguments) {
   DocumentSession session;
   if (!session.Open(file)) return false;
   session.Messages().prefix = file + ": ";
@@ -41,26 +34,18 @@ bool ConvertFile(const std::string& file, const Options& options) {
     });
   });
   if (!converted) return false;
-  if (options.report) Report(file, results);
-  return WriteResult(session.Editor().Bytes(), options.destination, file);
+  if (arguments.report) Report(file, results);
+  return WriteResult(session.Editor().Bytes(), arguments.destination, file);
 }
 
 }  // namespace
 
-void AddConvert(CLI::App& program, int& status) {
-  auto options = std::make_shared<Options>();
-  CLI::App* command = program.add_subcommand("convert", "Convert 1.3D user files to 1.4/1.5");
-  command->add_option("FILE", options->files, "the user files")->required();
-  AddDestination(*command, options->destination);
-  command->add_flag("--report", options->report, "list on standard error what each step did");
-  command->callback([options, &status] {
-    if (options->files.size() > 1 && !options->destination.inPlace) {
-      throw CLI::ValidationError("convert", "several files need --in-place");
-    }
-    for (const std::string& file : options->files) {
-      if (!ConvertFile(file, *options)) status = kFailed;
-    }
-  });
+bool Convert(const ConvertArguments& arguments) {
+  bool good = true;
+  for (const std::string& file : arguments.files) {
+    if (!ConvertFile(file, arguments)) good = false;
+  }
+  return good;
 }
 
 }  // namespace tessel::cli

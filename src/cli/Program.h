@@ -3,7 +3,7 @@
 
 namespace tessel::cli {
 
-/// Does what the arguments ask for; returns the exit status (see Subcommands.h). Results go to
+/// Does what the arguments ask for; returns the exit status (see Options.h). Results go to
 /// std::cout, what there is to say to std::cerr.
 int RunProgram(int argc, char** argv);
 

@@ -1,16 +1,20 @@
-// What the command line says about its own use.
+// What the command line says about its own misuse.
 #pragma once
 
-#include <CLI/App.hpp>
 #include <string>
 
 namespace tessel::cli {
 
-/// Gives the program and each of its subcommands "--version", and subcommands of subcommands the
-/// options of their parents.
-void AddVersion(CLI::App& app, const std::string& version);
+/// Arguments that cannot be used.
+struct Misuse {
+  std::string command;        ///< as far as it was understood: "tessel words set"
+  std::string reason;         ///< a sentence of the parser's own
+  std::string unexpected;     ///< the first word that has no place; empty: none
+  bool miscounted = false;    ///< a word is missing or there is one too many
+  bool wantsCommand = false;  ///< a subcommand is what can follow
+};
 
-/// The sentence for arguments that cannot be used.
-std::string UsageMessage(const CLI::App& program, const CLI::Error& error);
+/// The sentence for it, and where to read on.
+std::string UsageMessage(const Misuse& misuse);
 
 }  // namespace tessel::cli
