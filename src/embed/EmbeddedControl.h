@@ -14,10 +14,10 @@ namespace tessel {
 class EmbeddedControl {
  public:
   EmbeddedControl(std::shared_ptr<SettingsStore> settings, const std::string& templateDirectory,
-                  QWidget* parent)
+                  const ucTessel::Options& options, QWidget* parent)
       : settings_(std::move(settings)),
         widget_(std::make_unique<TesselWidget>(desktop_.With(*settings_, templateDirectory),
-                                               desktop_.widgets, parent)) {}
+                                               desktop_.widgets, parent, options)) {}
 
   TesselWidget& Widget() const { return *widget_; }
 

@@ -28,11 +28,11 @@ ucTessel::ucTessel(QWidget* parent) : ucTessel(Options(), parent) {}
 
 ucTessel::ucTessel(const Options& options, QWidget* parent)
     : QWidget(parent),
-      control_(std::make_unique<tessel::EmbeddedControl>(SettingsFor(options),
-                                                         options.templateDirectory.isEmpty()
-                                                             ? tessel::InstalledTemplates()
-                                                             : PathOf(options.templateDirectory),
-                                                         this)) {
+      control_(std::make_unique<tessel::EmbeddedControl>(
+          SettingsFor(options),
+          options.templateDirectory.isEmpty() ? tessel::InstalledTemplates()
+                                              : PathOf(options.templateDirectory),
+          tessel::ucTessel::Options{.dialogHoldsDocument = options.dialogHoldsDocument}, this)) {
   using tessel::TesselWidget;
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);

@@ -185,6 +185,23 @@ TEST_F(EmbeddedControlTest, TakesAFileAgainThatOthersChanged) {
   EXPECT_EQ(TextInSight(control), "from elsewhere");
 }
 
+TEST_F(EmbeddedControlTest, AnInPlaceSaveFollowsTheLastDialogUnlessItIsAskedNotTo) {
+  const QString path = QString::fromStdString(folder_.Put("User.con", "text"));
+  for (const bool keepsName : {false, true}) {
+    ucTessel::Options options;
+    options.forgetSettings = true;
+    options.dialogHoldsDocument = keepsName;
+    ucTessel control(options);
+    control.OpenFile(path);
+    TypeIntoEditor(control, "x");
+    QAction* save = MenuItem(control, "&Save");
+    ASSERT_NE(save, nullptr);
+    save->trigger();
+    // No dialog was shown yet: nothing is what it holds.
+    EXPECT_EQ(control.DocumentPath(), keepsName ? path : QString());
+  }
+}
+
 TEST_F(EmbeddedControlTest, TellsWhatAFileCannotHold) {
   ucTessel control;
   const QSignalSpy refused(&control, &ucTessel::TextRefused);

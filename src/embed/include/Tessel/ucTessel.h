@@ -32,6 +32,9 @@ class TESSEL_EXPORT ucTessel : public QWidget {
     bool forgetSettings = false;
     /// Directory of the six template files. Empty: the one that was installed with this library.
     QString templateDirectory;
+    /// True: an in-place save leaves a document its name and file. False: the document takes those
+    /// of the file chosen last in an open or save dialog, as the control always has.
+    bool dialogHoldsDocument = false;
   };
 
   explicit ucTessel(QWidget* parent = nullptr);
