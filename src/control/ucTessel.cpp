@@ -185,7 +185,6 @@ bool ucTessel::Run(const std::function<void()>& command) {
 void ucTessel::RunCommand(const std::function<void()>& command) {
   if (commandDepth_ > 0) return command();  // the outermost command reports errors
   HoldDocument();
-  const ScopeGuard holdAgain([this] { HoldDocument(); });
   try {
     const ScopeGuard leave([this] { --commandDepth_; });
     ++commandDepth_;
@@ -195,6 +194,8 @@ void ucTessel::RunCommand(const std::function<void()>& command) {
   } catch (const std::bad_alloc&) {  // the other documents are still there to be saved
     ShowError("There is not enough memory for this.");
   }
+  HoldDocument();
+  CommandEnded.Raise();
 }
 
 void ucTessel::HoldDocument() {

@@ -71,6 +71,8 @@ class ucTessel {
   /// The first directory of the file dialogs.
   const std::string& CONPath() const { return conPath_; }
   const SearchState& LastSearch() const;
+  /// A command has ended, with whatever it had to show; another one may begin in a handler.
+  Event<> CommandEnded;
   /// True while a command is on its way (not while a modal form waits). A walk of the randomizer
   /// lets timers run in between: that is no time for another command, nor to end the control.
   bool Running() const { return commandDepth_ > 0; }

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QHBoxLayout>
+#include <utility>
 
 #include "qt/base/QtText.h"
 #include "services/Paths.h"
@@ -14,12 +15,15 @@ constexpr int kSettleMilliseconds = 200;
 
 }  // namespace
 
-ChangeNotice::ChangeNotice(TesselWidget& control, GuardedFiles& files, QWidget* parent)
+ChangeNotice::ChangeNotice(TesselWidget& control, GuardedFiles& files, MessageBox& messages,
+                           KeepText keepText, QWidget* parent)
     : QFrame(parent),
       control_(control),
       files_(files),
+      messages_(messages),
+      keepText_(std::move(keepText)),
       text_(new QLabel(this)),
-      reload_(new QPushButton(tr("&Reload"), this)),
+      reload_(new QPushButton(tr("Rel&oad"), this)),
       keep_(new QPushButton(tr("&Keep Mine"), this)) {
   setFrameShape(QFrame::StyledPanel);
   setAccessibleName(tr("File changed"));
@@ -78,7 +82,18 @@ void ChangeNotice::Check() {
   setVisible(changed);
 }
 
+bool ChangeNotice::MayDropChanges() {
+  const Document document = control_.Tessel().OpenDocuments().Current();
+  if (!document.Modified()) return true;
+  const MessageAnswer answer = messages_.Show(
+      "Reload " + NameOfPath(document.Path(), files_.Separator()) +
+          " and drop your changes?\nYour text is kept among the backups (File > Backups).",
+      MessageIcon::kQuestion, kProgramTitle, MessageButtons::kYesNo);
+  return answer == MessageAnswer::kYes && keepText_(document.Path(), document.Editor().Bytes());
+}
+
 void ChangeNotice::Reload() {
+  if (control_.Tessel().Running() || !MayDropChanges()) return;
   control_.Tessel().ReloadDocument();
   Check();
 }

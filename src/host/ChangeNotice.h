@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "qt/TesselWidget.h"
 #include "safekeeping/DiskState.h"
@@ -14,13 +16,18 @@
 namespace tessel {
 
 /// A bar above the control. It watches the files of all open documents and shows itself while the
-/// current one's has been changed by others: Reload takes the file's text, Keep Mine leaves the
-/// document as it is and lets it be saved over the file.
+/// current one's has been changed by others: Reload takes the file's text (it asks before it
+/// replaces changes of the user's own, and keeps them as a backup), Keep Mine leaves the document
+/// as it is and lets it be saved over the file.
 class ChangeNotice : public QFrame {
   Q_OBJECT
 
  public:
-  ChangeNotice(TesselWidget& control, GuardedFiles& files, QWidget* parent);
+  /// Keeps a text as a backup of the file at the path; false, with the reason told, when it cannot.
+  using KeepText = std::function<bool(const std::string& path, std::string_view text)>;
+
+  ChangeNotice(TesselWidget& control, GuardedFiles& files, MessageBox& messages, KeepText keepText,
+               QWidget* parent);
 
   /// Looks at the current document's file now.
   void Check();
@@ -29,10 +36,13 @@ class ChangeNotice : public QFrame {
   void WatchOpenFiles();
   std::string CurrentPath() const;
   void Reload();
+  bool MayDropChanges();
   void KeepMine();
 
   TesselWidget& control_;
   GuardedFiles& files_;
+  MessageBox& messages_;
+  KeepText keepText_;
   QFileSystemWatcher watcher_;
   QTimer settle_;
   QLabel* text_;

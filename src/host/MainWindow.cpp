@@ -71,7 +71,10 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  column->addWidget(new ChangeNotice(*control_, files, centre));
+  const auto keepText = [this](const std::string& path, std::string_view text) {
+    return KeepAsBackup(path, text);
+  };
+  column->addWidget(new ChangeNotice(*control_, files, messages_, keepText, centre));
   column->addWidget(control_, 1);
   setCentralWidget(centre);
   setAcceptDrops(true);
@@ -159,6 +162,19 @@ void MainWindow::OfferBackups(BackupStore& backups) {
   menu_.backups->setEnabled(true);
 }
 
+bool MainWindow::KeepAsBackup(const std::string& path, std::string_view text) {
+  try {
+    if (backups_ == nullptr) throw posix::FileProblem("there is no folder for backups");
+    backups_->Keep(PathOfFile(path), text);
+    return true;
+  } catch (const posix::FileProblem& problem) {
+    messages_.Show(
+        std::string("Your text cannot be kept: ") + problem.what() + ". The file is not reloaded.",
+        MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
+    return false;
+  }
+}
+
 void MainWindow::ShowBackups() {
   if (control_->Tessel().Running()) return;
   try {
@@ -205,6 +221,11 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
       control_->Tessel(), files_, messages_, std::move(texts),
       [this] { return keeper_->KeepNow(); }, centralWidget());
   static_cast<QVBoxLayout*>(centralWidget()->layout())->insertWidget(0, offer);
+}
+
+void MainWindow::KeepEverything() {
+  if (keeper_ != nullptr) keeper_->KeepNow();
+  RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments()));
 }
 
 void MainWindow::StartSession() {

@@ -5,9 +5,11 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/MainMenu.h"
+#include "host/OrphanedText.h"
 #include "qt/TesselWidget.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/DiskState.h"
@@ -37,6 +39,8 @@ class MainWindow : public QMainWindow {
   /// Keeps unsaved text in that folder until the window is closed, and offers what is there of runs
   /// that ended otherwise.
   void KeepUnsavedText(const std::string& folder);
+  /// The program is about to end without asking: keeps every unsaved text and what is open.
+  void KeepEverything();
   /// Opens the documents of the last run, if the user wants that, and remembers those of this run.
   void StartSession();
 
@@ -50,12 +54,14 @@ class MainWindow : public QMainWindow {
   void BuildMenu();
   void BuildStatusBar();
   void ShowBackups();
+  bool KeepAsBackup(const std::string& path, std::string_view text);
   void RestoreBackup(const Backup& backup);
   void ShowDocument();
   void ShowCaret();
   void SaveLook();
 
   TesselWidget* control_;
+  OrphanedText orphans_{control_->Tessel()};
   GuardedFiles& files_;
   MessageBox& messages_;
   MainMenu menu_{};

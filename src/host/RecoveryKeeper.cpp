@@ -1,7 +1,10 @@
 #include "host/RecoveryKeeper.h"
 
+#include <algorithm>
+#include <functional>
 #include <new>
 #include <set>
+#include <string_view>
 #include <utility>
 
 #include "qt/base/QtText.h"
@@ -48,7 +51,7 @@ void RecoveryKeeper::OnAboutToDrop(const Document& document) {
   KeepChanges();
   const Unsaved dropped = std::exchange(At(document.Place()), {});
   if (!dropped.kept) return;
-  dropped_.push_back({dropped.kept->id, !document.Modified()});
+  dropped_.push_back({dropped.kept->id, dropped.kept->hash, !document.Modified()});
   if (dropped_.size() <= kMostDropped) return;
   store_.Drop(dropped_.front().id);
   dropped_.erase(dropped_.begin());
@@ -90,9 +93,20 @@ void RecoveryKeeper::Keep(const Document& document) {
   Unsaved& unsaved = At(document.Place());
   const std::uint64_t revision = document.Editor().Store().Revision();
   if (unsaved.kept && unsaved.kept->revision == revision) return;  // only colours
-  if (!unsaved.kept) unsaved.kept = Kept{nextId_++, 0};
+  const bool first = !unsaved.kept;
+  if (first) unsaved.kept = Kept{nextId_++};
   store_.Keep(unsaved.kept->id, document.Path(), document.Editor().Text());
   unsaved.kept->revision = revision;
+  unsaved.kept->hash = std::hash<std::string_view>{}(document.Editor().Bytes());
+  if (first) DropTextThatCameBack(*unsaved.kept);
+}
+
+// A text that another one was loaded over comes back as a document of its own.
+void RecoveryKeeper::DropTextThatCameBack(const Kept& kept) {
+  const auto same = std::ranges::find(dropped_, kept.hash, &Dropped::hash);
+  if (same == dropped_.end()) return;
+  store_.DropReplaced(same->id, kept.id);
+  dropped_.erase(same);
 }
 
 void RecoveryKeeper::KeepAllAgain() {

@@ -38,6 +38,7 @@ class RecoveryKeeper : public QObject {
   struct Kept {
     RecoveryStore::Id id = 0;
     std::uint64_t revision = 0;  // of the editor's text when it was kept
+    std::size_t hash = 0;        // of the text
   };
   struct Unsaved {
     bool changed = false;  // since the text was kept
@@ -45,6 +46,7 @@ class RecoveryKeeper : public QObject {
   };
   struct Dropped {
     RecoveryStore::Id id = 0;
+    std::size_t hash = 0;
     bool countedAsSaved = false;
   };
 
@@ -56,6 +58,7 @@ class RecoveryKeeper : public QObject {
   /// False when there was not enough memory.
   bool KeepChanges();
   void Keep(const Document& document);
+  void DropTextThatCameBack(const Kept& kept);
   void KeepAllAgain();
   void TellProblem();
   Unsaved& At(Slot slot);

@@ -4,10 +4,12 @@
 #include <iostream>
 #include <optional>
 
+#include "host/AbruptEnd.h"
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
 #include "posix/FallbackSettingsStore.h"
+#include "posix/Signals.h"
 #include "qt/base/QtText.h"
 #include "qt/services/QtDesktop.h"
 #include "qt/services/QtMessageBox.h"
@@ -79,9 +81,11 @@ int Run(const Options& options) {
     automation.emplace(window.Control(), options.automation == AutomationWish::kWanted,
                        TellOnStandardError);
   }
+  std::optional<AbruptEnd> abruptEnd;
   if (!picture) {
     window.StartSession();
     window.KeepUnsavedText(state + "/recovery");
+    abruptEnd.emplace([&window] { window.KeepEverything(); });
   }
   window.OpenFiles(options.files);
   if (picture) return TakePicture(window, options.screenshot) && !written.Any() ? 0 : 1;
@@ -92,6 +96,7 @@ int Run(const Options& options) {
 }  // namespace tessel
 
 int main(int argc, char** argv) {
+  tessel::posix::TakeSizeLimitsAsErrors();
   int exitStatus = 0;
   const auto options = tessel::ParseOptions(argc, argv, exitStatus);
   if (!options) return exitStatus;

@@ -11,6 +11,7 @@ trap cleanup EXIT
 # The server takes a number that is free, and writes it down once it can be used. It does not start anew
 # when the last program leaves: the next one might come too early.
 Xvfb -displayfd 1 -noreset -screen 0 1100x820x24 -nolisten tcp >"$work/display" 2>"$work/display-errors" &
+server=$!
 for _ in $(seq 600); do [ -s "$work/display" ] && break; sleep 0.05; done
 [ -s "$work/display" ] || { echo "there is no display: $(cat "$work/display-errors")" >&2; exit 1; }
 display=:$(cat "$work/display")

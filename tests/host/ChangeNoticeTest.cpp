@@ -19,6 +19,7 @@ constexpr int kPatience = 30'000;  // milliseconds
 class ChangedOutside : public testing::Test {
  protected:
   ChangedOutside() {
+    window_.OfferBackups(backups_);
     WriteOutside("define A 1\r\n");
     window_.show();
     window_.OpenFiles({path_});
@@ -32,8 +33,17 @@ class ChangedOutside : public testing::Test {
   }
   static Services With(FakeServices& fakes, Files& files) {
     const Services s = fakes.Get();
-    return {s.messages, s.fileDialogs, s.forms, s.clipboard, s.settings,     s.pointer,
-            files,      s.random,      s.focus, s.loop,      s.hostDirectory};
+    return {.messages = s.messages,
+            .fileDialogs = s.fileDialogs,
+            .forms = s.forms,
+            .clipboard = s.clipboard,
+            .settings = s.settings,
+            .pointer = s.pointer,
+            .files = files,
+            .random = s.random,
+            .focus = s.focus,
+            .loop = s.loop,
+            .hostDirectory = s.hostDirectory};
   }
 
   ChangeNotice& Notice() { return *window_.findChild<ChangeNotice*>(); }
@@ -45,16 +55,14 @@ class ChangedOutside : public testing::Test {
   }
   HostedControls& Controls() { return window_.Control().Tessel().Controls(); }
   RichTextBox& Editor() { return Controls().rtbCon[0]; }
-  void SaveInPlace() {
-    Controls().dlgCommon.SetHeld({path_, "user.con"});
-    Controls().mnuRtbPopup.Choose("mnuRtbPopupFileSave");
-  }
+  void SaveInPlace() { Controls().mnuRtbPopup.Choose("mnuRtbPopupFileSave"); }
 
   TempDirectory directory_;
   std::string path_ = directory_ / "user.con";
   FakeServices fakes_;
   PosixFiles plainFiles_;
   GuardedFiles files_{plainFiles_};
+  BackupStore backups_{directory_ / "backups"};
   WidgetMap widgets_;
   MainWindow window_{With(fakes_, files_), widgets_, files_};
 };
@@ -70,10 +78,44 @@ TEST_F(ChangedOutside, TheWindowSaysSo) {
 TEST_F(ChangedOutside, ReloadTakesTheirText) {
   WriteOutside("define A 2 // theirs\r\n");
   ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
-  Press("&Reload");
+  Press("Rel&oad");
   EXPECT_EQ(Editor().Text(), "define A 2 // theirs\r\n");
   EXPECT_EQ(Controls().tbsRtb.At(1).image, kBlackDot);
   EXPECT_FALSE(Notice().isVisible());
+}
+
+TEST_F(ChangedOutside, ReloadAsksBeforeItDropsOwnChanges) {
+  Editor().Type("// mine\r\n");
+  WriteOutside("define A 2 // theirs\r\n");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  fakes_.messages.answers = {MessageAnswer::kNo};
+  Press("Rel&oad");
+  ASSERT_EQ(fakes_.messages.shown.size(), 1U);
+  EXPECT_EQ(Editor().Text(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_TRUE(Notice().isVisible());
+  EXPECT_TRUE(backups_.List().empty());
+}
+
+TEST_F(ChangedOutside, ReloadKeepsOwnChangesAsABackup) {
+  Editor().Type("// mine\r\n");
+  WriteOutside("define A 2 // theirs\r\n");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  fakes_.messages.answers = {MessageAnswer::kYes};
+  Press("Rel&oad");
+  EXPECT_EQ(Editor().Text(), "define A 2 // theirs\r\n");
+  ASSERT_EQ(backups_.List().size(), 1U);
+  EXPECT_EQ(backups_.Read(backups_.List()[0]).bytes, "// mine\r\ndefine A 1\r\n");
+}
+
+TEST_F(ChangedOutside, ReloadLeavesATextThatCannotBeKept) {
+  directory_.Put("backups", "no folder");
+  Editor().Type("// mine\r\n");
+  WriteOutside("define A 2 // theirs\r\n");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  fakes_.messages.answers = {MessageAnswer::kYes};
+  Press("Rel&oad");
+  EXPECT_EQ(Editor().Text(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_EQ(fakes_.messages.shown.size(), 2U);
 }
 
 TEST_F(ChangedOutside, TheirTextIsNotWrittenOver) {

@@ -248,6 +248,26 @@ TEST_F(Safekeeping, ATextThatWasSavedAfterAllIsNotOffered) {
   EXPECT_TRUE(KeptTexts().empty());
 }
 
+TEST_F(Safekeeping, ATextThatIsLoadedOverComesBackBehindTheOpenedDocument) {
+  Run().Editor(0).Type("my notes");
+  Run().window->OpenFiles({user_});
+  ASSERT_EQ(Run().Tabs().Count(), 2);
+  EXPECT_EQ(Run().Tabs().Selected(), 1);
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
+  EXPECT_EQ(Run().Tabs().At(2).tag, kUntitled);
+  EXPECT_EQ(Run().Tabs().At(2).image, kRedDot);
+  EXPECT_EQ(Run().Editor(1).Text(), "my notes");
+}
+
+TEST_F(Safekeeping, ATextThatWasClosedWithNoDoesNotComeBack) {
+  Run().Editor(0).Type("my notes");
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  Run().Controls().tbToolBar.Press("FileClose");
+  Run().window->OpenFiles({user_});
+  EXPECT_EQ(Run().Tabs().Count(), 1);
+}
+
 TEST_F(Safekeeping, RecoveringTouchesNoDocumentWithChangesOfItsOwn) {
   Run().window->OpenFiles({user_});
   Run().Editor(0).Type("old ");

@@ -3,14 +3,15 @@
 
 #include <sys/resource.h>
 
-#include <csignal>
 #include <stdexcept>
+
+#include "posix/Signals.h"
 
 namespace tessel::test {
 
-/// A writing beyond the limit fails as on a full disk.
+/// A writing beyond the limit fails as on a full disk, in the programs and in what tests them.
 inline void LimitFileSize(rlim_t bytes) {
-  ::signal(SIGXFSZ, SIG_IGN);
+  posix::TakeSizeLimitsAsErrors();
   const rlimit limit{bytes, bytes};
   if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("no limit");
 }

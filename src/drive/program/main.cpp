@@ -8,6 +8,7 @@
 #include "posix/FallbackSettingsStore.h"
 #include "posix/HostDirectory.h"
 #include "posix/PosixFiles.h"
+#include "posix/Signals.h"
 #include "services/HeadlessServices.h"
 #include "services/LinearCongruentialRandom.h"
 #include "services/MemorySettingsStore.h"
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
   int status = 0;
   if (!ParseOptions(argc, argv, options, status)) return status;
 
+  posix::TakeSizeLimitsAsErrors();
   std::ios::sync_with_stdio(false);
   const auto store = OpenStore(options.store);
   PosixFiles files;

@@ -1,0 +1,23 @@
+// What is done when the program is told to end, or loses its display.
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+namespace tessel {
+
+/// While one lives, SIGTERM, SIGHUP, SIGINT and a display that goes away run `keep` before the
+/// program ends as it would have. Only one can live at a time. A second signal of the same kind
+/// ends the program at once, also when it is busy.
+class AbruptEnd : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit AbruptEnd(std::function<void()> keep);
+  ~AbruptEnd() override;
+
+ private:
+  void TakeSignal();
+};
+
+}  // namespace tessel
