@@ -158,7 +158,7 @@ void ScintillaView::TakeOverEdits() {
     return;
   }
   if (!gesture_) gesture_.emplace(model_, typing_);
-  for (const ScintillaViewEdit& edit : *edits) {
+  for (const ScintillaEdit& edit : *edits) {
     handedOver_ = edit;
     try {
       model_.EditByHand(edit.at, edit.removed, edit.inserted);

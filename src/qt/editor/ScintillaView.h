@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "models/RichTextBox.h"
+#include "qt/editor/ScintillaEdits.h"
+#include "qt/editor/ScintillaText.h"
 #include "qt/editor/ScintillaViewAccessibility.h"
-#include "qt/editor/ScintillaViewDocument.h"
-#include "qt/editor/ScintillaViewEdits.h"
 #include "services/Services.h"
 
 class QLabel;
@@ -134,14 +134,14 @@ class ScintillaView : public QsciScintillaBase, private TextStoreView {
   RichTextBox& model_;
   Clipboard& clipboard_;
   ScintillaViewAccessibility accessibility_;
-  ScintillaViewDocument document_;
-  ScintillaViewEdits edits_;
+  ScintillaText document_;
+  ScintillaEdits edits_;
   std::vector<Subscription> subscriptions_;
 
   bool textStale_ = true;
-  std::optional<Position> recolourFrom_;         // colours changed, from there at the earliest
-  bool applying_ = false;                        // the widget is being changed by code
-  std::optional<ScintillaViewEdit> handedOver_;  // the edit that the model is being told of
+  std::optional<Position> recolourFrom_;     // colours changed, from there at the earliest
+  bool applying_ = false;                    // the widget is being changed by code
+  std::optional<ScintillaEdit> handedOver_;  // the edit that the model is being told of
   bool takingOver_ = false;
   int hands_ = 0;
   bool typing_ = false;

@@ -4,7 +4,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "qt/base/Windows1252Qt.h"
-#include "qt/editor/ScintillaViewIndex.h"
+#include "qt/editor/ScintillaIndex.h"
 
 namespace tessel {
 namespace {
@@ -12,7 +12,7 @@ namespace {
 struct IndexedText {
   std::string bytes;
   std::string utf8;
-  ScintillaViewIndex index{[this](SciPosition at, SciPosition length) {
+  ScintillaIndex index{[this](SciPosition at, SciPosition length) {
     return std::string_view(utf8).substr(static_cast<std::size_t>(at),
                                          static_cast<std::size_t>(length));
   }};
@@ -29,7 +29,7 @@ struct IndexedText {
   }
 };
 
-RC_GTEST_PROP(ScintillaViewIndexTest, FindsEveryCharacterAfterAnyReplacements, ()) {
+RC_GTEST_PROP(ScintillaIndexTest, FindsEveryCharacterAfterAnyReplacements, ()) {
   IndexedText text;
   const int count = *rc::gen::inRange(1, 12);
   for (int i = 0; i < count; ++i) {

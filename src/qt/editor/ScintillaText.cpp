@@ -1,4 +1,4 @@
-#include "qt/editor/ScintillaViewDocument.h"
+#include "qt/editor/ScintillaText.h"
 
 #include <Qsci/qsciscintillabase.h>
 
@@ -30,7 +30,7 @@ std::string OnePerByte(std::string_view perCharacter, std::string_view utf8) {
 
 }  // namespace
 
-ScintillaViewDocument::ScintillaViewDocument(QsciScintillaBase& widget)
+ScintillaText::ScintillaText(QsciScintillaBase& widget)
     : widget_(widget),
       index_([this](SciPosition at, SciPosition length) { return Utf8(at, length); }),
       colours_(widget) {
@@ -38,37 +38,34 @@ ScintillaViewDocument::ScintillaViewDocument(QsciScintillaBase& widget)
   widget_.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 0UL);
 }
 
-SciPosition ScintillaViewDocument::Size() const {
-  return widget_.SendScintilla(Sci::SCI_GETLENGTH);
-}
+SciPosition ScintillaText::Size() const { return widget_.SendScintilla(Sci::SCI_GETLENGTH); }
 
-SciPosition ScintillaViewDocument::ColouredEnd() const {
+SciPosition ScintillaText::ColouredEnd() const {
   return widget_.SendScintilla(Sci::SCI_GETENDSTYLED);
 }
 
-std::string_view ScintillaViewDocument::Utf8(SciPosition at, SciPosition length) const {
+std::string_view ScintillaText::Utf8(SciPosition at, SciPosition length) const {
   if (length == 0) return {};
   const auto address =
       widget_.SendScintilla(Sci::SCI_GETRANGEPOINTER, Unsigned(at), static_cast<long>(length));
   return {reinterpret_cast<const char*>(address), static_cast<std::size_t>(length)};
 }
 
-void ScintillaViewDocument::NoteDeletion(SciPosition at, SciPosition length) {
+void ScintillaText::NoteDeletion(SciPosition at, SciPosition length) {
   index_.Replace(OffsetOf(at), {CharactersOfUtf8(Utf8(at, length)), length}, {});
 }
 
-void ScintillaViewDocument::NoteInsertion(SciPosition at, SciPosition length) {
+void ScintillaText::NoteInsertion(SciPosition at, SciPosition length) {
   index_.Replace(OffsetOf(at), {}, {CharactersOfUtf8(Utf8(at, length)), length});
 }
 
-void ScintillaViewDocument::ReplaceUtf8(SciPosition at, SciPosition removed,
-                                        std::string_view inserted) {
+void ScintillaText::ReplaceUtf8(SciPosition at, SciPosition removed, std::string_view inserted) {
   widget_.SendScintilla(Sci::SCI_SETTARGETRANGE, Unsigned(at), at + removed);
   widget_.SendScintilla(Sci::SCI_REPLACETARGET, static_cast<uintptr_t>(inserted.size()),
                         inserted.data() == nullptr ? "" : inserted.data());
 }
 
-void ScintillaViewDocument::Replace(Position at, Position removed, std::string_view inserted) {
+void ScintillaText::Replace(Position at, Position removed, std::string_view inserted) {
   const SciPosition start = PositionOf(at);
   const SciPosition length = PositionOf(at + removed) - start;
   const std::string utf8 = Utf8OfBytes(inserted);
@@ -76,7 +73,7 @@ void ScintillaViewDocument::Replace(Position at, Position removed, std::string_v
   index_.Replace(at, {removed, length}, {std::ssize(inserted), std::ssize(utf8)});
 }
 
-void ScintillaViewDocument::BecomeEqualTo(std::string_view bytes) {
+void ScintillaText::BecomeEqualTo(std::string_view bytes) {
   const std::string wanted = Utf8OfBytes(bytes);
   index_.Assign({std::ssize(bytes), std::ssize(wanted)});
   const std::string_view shown = Utf8(0, Size());
@@ -97,14 +94,14 @@ void ScintillaViewDocument::BecomeEqualTo(std::string_view bytes) {
                                       wanted.size() - static_cast<std::size_t>(head + tail)));
 }
 
-void ScintillaViewDocument::ForgetColours(Position from) {
+void ScintillaText::ForgetColours(Position from) {
   const SciPosition start = PositionOf(from);
   if (start >= ColouredEnd()) return;
   widget_.SendScintilla(Sci::SCI_STARTSTYLING, Unsigned(start), 0L);
   widget_.viewport()->update();
 }
 
-void ScintillaViewDocument::ColourUpTo(SciPosition end, const TextStore& store) {
+void ScintillaText::ColourUpTo(SciPosition end, const TextStore& store) {
   const SciPosition start = ColouredEnd();
   if (start >= end) return;
   std::array<char, 256> styleOfIndex{};
@@ -123,15 +120,15 @@ void ScintillaViewDocument::ColourUpTo(SciPosition end, const TextStore& store) 
                         styles.c_str());
 }
 
-void ScintillaViewDocument::AskForAllColours() {
+void ScintillaText::AskForAllColours() {
   widget_.SendScintilla(Sci::SCI_COLOURISE, Unsigned(ColouredEnd()), -1L);
 }
 
-std::string ScintillaViewDocument::Bytes() const {
+std::string ScintillaText::Bytes() const {
   return BytesOfUtf8(Utf8(0, Size())).value_or(std::string());
 }
 
-std::vector<ColourRun> ScintillaViewDocument::Runs() const {
+std::vector<ColourRun> ScintillaText::Runs() const {
   const auto size = static_cast<std::size_t>(Size());
   std::string cells(2 * size + 2, '\0');  // a character and its style, by turns
   widget_.SendScintilla(Sci::SCI_GETSTYLEDTEXT, 0L, Size(), cells.data());

@@ -1,4 +1,4 @@
-#include "qt/editor/ScintillaViewEdits.h"
+#include "qt/editor/ScintillaEdits.h"
 
 #include <utility>
 
@@ -6,7 +6,7 @@
 
 namespace tessel {
 
-void ScintillaViewEdits::ReadInsertion() {
+void ScintillaEdits::ReadInsertion() {
   if (!unread_) return;
   const auto bytes = BytesOfUtf8(document_.Utf8(unread_->at, unread_->length));
   document_.NoteInsertion(unread_->at, unread_->length);
@@ -18,7 +18,7 @@ void ScintillaViewEdits::ReadInsertion() {
   }
 }
 
-void ScintillaViewEdits::BeforeInsertion(SciPosition at, SciPosition length) {
+void ScintillaEdits::BeforeInsertion(SciPosition at, SciPosition length) {
   ReadInsertion();
   const Position offset = document_.OffsetOf(at);
   const bool goesOn =
@@ -27,20 +27,20 @@ void ScintillaViewEdits::BeforeInsertion(SciPosition at, SciPosition length) {
   unread_ = Insertion{at, length};
 }
 
-void ScintillaViewEdits::BeforeDeletion(SciPosition at, SciPosition length) {
+void ScintillaEdits::BeforeDeletion(SciPosition at, SciPosition length) {
   ReadInsertion();
   edits_.push_back({document_.OffsetOf(at), CharactersOfUtf8(document_.Utf8(at, length)), {}});
   document_.NoteDeletion(at, length);
 }
 
-std::optional<std::vector<ScintillaViewEdit>> ScintillaViewEdits::Take() {
+std::optional<std::vector<ScintillaEdit>> ScintillaEdits::Take() {
   ReadInsertion();
   auto edits = std::exchange(edits_, {});
   if (std::exchange(refused_, false)) return std::nullopt;
   return edits;
 }
 
-void ScintillaViewEdits::Forget() {
+void ScintillaEdits::Forget() {
   edits_.clear();
   unread_.reset();
   refused_ = false;

@@ -1,4 +1,4 @@
-#include "qt/editor/ScintillaViewColours.h"
+#include "qt/editor/ScintillaStyles.h"
 
 #include <Qsci/qsciscintillabase.h>
 
@@ -16,7 +16,7 @@ int StyleAfter(int style) {
 
 }  // namespace
 
-int ScintillaViewColours::StyleOf(Colour colour) {
+int ScintillaStyles::StyleOf(Colour colour) {
   const auto has = [&](int style) { return ColourOf(style) == colour; };
   if (const auto it = std::ranges::find_if(styles_, has); it != styles_.end()) return *it;
   const int next = StyleAfter(styles_.back());
@@ -27,12 +27,12 @@ int ScintillaViewColours::StyleOf(Colour colour) {
   return next;
 }
 
-void ScintillaViewColours::SetTheme(const EditorTheme& theme) {
+void ScintillaStyles::SetTheme(const EditorTheme& theme) {
   theme_ = theme;
   for (const int style : styles_) Paint(style);
 }
 
-void ScintillaViewColours::Paint(int style) const {
+void ScintillaStyles::Paint(int style) const {
   widget_.SendScintilla(Sci::SCI_STYLESETFORE, static_cast<unsigned long>(style),
                         theme_.PaintOf(ColourOf(style)));
 }

@@ -1,4 +1,4 @@
-#include "qt/editor/ScintillaViewIndex.h"
+#include "qt/editor/ScintillaIndex.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,18 +13,17 @@ constexpr SciPosition kBlockSize = 4096;
 
 bool StartsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
 
-ScintillaViewExtent operator+(ScintillaViewExtent a, ScintillaViewExtent b) {
+ScintillaExtent operator+(ScintillaExtent a, ScintillaExtent b) {
   return {a.characters + b.characters, a.bytes + b.bytes};
 }
 
-ScintillaViewExtent operator-(ScintillaViewExtent a, ScintillaViewExtent b) {
+ScintillaExtent operator-(ScintillaExtent a, ScintillaExtent b) {
   return {a.characters - b.characters, a.bytes - b.bytes};
 }
 
 }  // namespace
 
-void ScintillaViewIndex::Replace(Position at, ScintillaViewExtent removed,
-                                 ScintillaViewExtent inserted) {
+void ScintillaIndex::Replace(Position at, ScintillaExtent removed, ScintillaExtent inserted) {
   auto first = blocks_.begin();
   Position start = 0;
   while (std::next(first) != blocks_.end() && start + first->characters < at) {
@@ -32,7 +31,7 @@ void ScintillaViewIndex::Replace(Position at, ScintillaViewExtent removed,
     ++first;
   }
   auto last = first;
-  ScintillaViewExtent joined = *first;
+  ScintillaExtent joined = *first;
   while (start + joined.characters < at + removed.characters) joined = joined + *++last;
   *first = joined - removed + inserted;
   blocks_.erase(std::next(first), std::next(last));
@@ -40,12 +39,11 @@ void ScintillaViewIndex::Replace(Position at, ScintillaViewExtent removed,
 
 /// Where the block begins up to whose end `inside` holds, and the block.
 template <class Inside>
-std::pair<ScintillaViewExtent, ScintillaViewExtent> ScintillaViewIndex::Locate(
-    const Inside& inside) const {
-  ScintillaViewExtent start;
+std::pair<ScintillaExtent, ScintillaExtent> ScintillaIndex::Locate(const Inside& inside) const {
+  ScintillaExtent start;
   std::size_t block = 0;
   while (true) {
-    const ScintillaViewExtent end = start + blocks_[block];
+    const ScintillaExtent end = start + blocks_[block];
     if (inside(end) || block + 1 == blocks_.size()) {
       if (blocks_[block].IsAscii() || blocks_[block].bytes <= kLongestCounted) break;
       Split(block, start.bytes);
@@ -57,7 +55,7 @@ std::pair<ScintillaViewExtent, ScintillaViewExtent> ScintillaViewIndex::Locate(
   return {start, blocks_[block]};
 }
 
-void ScintillaViewIndex::Split(std::size_t block, SciPosition start) const {
+void ScintillaIndex::Split(std::size_t block, SciPosition start) const {
   const std::string_view text = read_(start, blocks_[block].bytes);
   Blocks parts;
   for (SciPosition at = 0; at < std::ssize(text);) {
@@ -71,15 +69,14 @@ void ScintillaViewIndex::Split(std::size_t block, SciPosition start) const {
   blocks_.insert(place, parts.begin(), parts.end());
 }
 
-Position ScintillaViewIndex::Length() const {
+Position ScintillaIndex::Length() const {
   Position length = 0;
-  for (const ScintillaViewExtent& block : blocks_) length += block.characters;
+  for (const ScintillaExtent& block : blocks_) length += block.characters;
   return length;
 }
 
-SciPosition ScintillaViewIndex::PositionOf(Position offset) const {
-  const auto [start, block] =
-      Locate([&](ScintillaViewExtent end) { return offset <= end.characters; });
+SciPosition ScintillaIndex::PositionOf(Position offset) const {
+  const auto [start, block] = Locate([&](ScintillaExtent end) { return offset <= end.characters; });
   Position characters = offset - start.characters;
   if (block.IsAscii()) return start.bytes + characters;
   const std::string_view text = read_(start.bytes, block.bytes);
@@ -90,9 +87,8 @@ SciPosition ScintillaViewIndex::PositionOf(Position offset) const {
   return start.bytes + static_cast<SciPosition>(at);
 }
 
-Position ScintillaViewIndex::OffsetOf(SciPosition position) const {
-  const auto [start, block] =
-      Locate([&](ScintillaViewExtent end) { return position <= end.bytes; });
+Position ScintillaIndex::OffsetOf(SciPosition position) const {
+  const auto [start, block] = Locate([&](ScintillaExtent end) { return position <= end.bytes; });
   const SciPosition inside = position - start.bytes;
   if (block.IsAscii()) return start.characters + inside;
   return start.characters + CharactersOfUtf8(read_(start.bytes, inside));

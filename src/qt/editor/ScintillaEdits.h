@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "qt/editor/ScintillaViewDocument.h"
+#include "qt/editor/ScintillaText.h"
 #include "text/TextTypes.h"
 
 namespace tessel {
 
 /// One replacement, in the model's offsets.
-struct ScintillaViewEdit {
+struct ScintillaEdit {
   Position at = 0;
   Position removed = 0;
   std::string inserted;
@@ -21,9 +21,9 @@ struct ScintillaViewEdit {
 /// change: those after it make QScintilla count the characters from the start of the text for
 /// accessibility, at a cost that grows with the position. The inserted text is therefore read a
 /// little later, before the next change or when the edits are taken.
-class ScintillaViewEdits {
+class ScintillaEdits {
  public:
-  explicit ScintillaViewEdits(ScintillaViewDocument& document) : document_(document) {}
+  explicit ScintillaEdits(ScintillaText& document) : document_(document) {}
 
   void BeforeInsertion(SciPosition at, SciPosition length);
   void BeforeDeletion(SciPosition at, SciPosition length);
@@ -31,7 +31,7 @@ class ScintillaViewEdits {
 
   /// The edits in their order, joined where one goes on where the one before ended; nothing when
   /// some inserted character has no byte. Forgets them.
-  std::optional<std::vector<ScintillaViewEdit>> Take();
+  std::optional<std::vector<ScintillaEdit>> Take();
   void Forget();
 
  private:
@@ -41,8 +41,8 @@ class ScintillaViewEdits {
   };
   void ReadInsertion();
 
-  ScintillaViewDocument& document_;
-  std::vector<ScintillaViewEdit> edits_;
+  ScintillaText& document_;
+  std::vector<ScintillaEdit> edits_;
   std::optional<Insertion> unread_;  // belongs to the last edit
   bool refused_ = false;
 };

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "qt/editor/ScintillaViewColours.h"
-#include "qt/editor/ScintillaViewIndex.h"
+#include "qt/editor/ScintillaIndex.h"
+#include "qt/editor/ScintillaStyles.h"
 #include "text/TextStore.h"
 
 class QsciScintillaBase;
@@ -15,9 +15,9 @@ namespace tessel {
 
 /// Bytes and colours of a model, mirrored in a widget's document as UTF-8, one character for each
 /// byte. Offsets are the model's (bytes, 0-based); SciPositions are the document's.
-class ScintillaViewDocument {
+class ScintillaText {
  public:
-  explicit ScintillaViewDocument(QsciScintillaBase& widget);
+  explicit ScintillaText(QsciScintillaBase& widget);
 
   SciPosition PositionOf(Position offset) const { return index_.PositionOf(offset); }
   Position OffsetOf(SciPosition position) const { return index_.OffsetOf(position); }
@@ -45,7 +45,7 @@ class ScintillaViewDocument {
   /// A piece of the document itself; valid until the document changes.
   std::string_view Utf8(SciPosition at, SciPosition length) const;
 
-  ScintillaViewColours& Colours() { return colours_; }
+  ScintillaStyles& Colours() { return colours_; }
 
  private:
   SciPosition Size() const;
@@ -54,8 +54,8 @@ class ScintillaViewDocument {
   void ReplaceUtf8(SciPosition at, SciPosition removed, std::string_view inserted);
 
   QsciScintillaBase& widget_;
-  ScintillaViewIndex index_;
-  ScintillaViewColours colours_;
+  ScintillaIndex index_;
+  ScintillaStyles colours_;
 };
 
 }  // namespace tessel

@@ -13,7 +13,7 @@ namespace tessel {
 using SciPosition = long;
 
 /// A stretch of text, measured both ways.
-struct ScintillaViewExtent {
+struct ScintillaExtent {
   Position characters = 0;
   SciPosition bytes = 0;
 
@@ -24,26 +24,26 @@ struct ScintillaViewExtent {
 /// of consecutive blocks: a block of ASCII needs no more, whatever its size; another one is split
 /// until it is short enough to be counted. (Scintilla's own index of characters by lines goes wrong
 /// where an edit joins or parts a CR and an LF.)
-class ScintillaViewIndex {
+class ScintillaIndex {
  public:
   using Reader = std::function<std::string_view(SciPosition at, SciPosition length)>;
 
   /// `read` gives a piece of the text as it stands.
-  explicit ScintillaViewIndex(Reader read) : read_(std::move(read)) {}
+  explicit ScintillaIndex(Reader read) : read_(std::move(read)) {}
 
-  void Assign(ScintillaViewExtent whole) { blocks_.assign(1, whole); }
+  void Assign(ScintillaExtent whole) { blocks_.assign(1, whole); }
   /// The text changed, or is about to: behind `at` characters `removed` give way to `inserted`.
-  void Replace(Position at, ScintillaViewExtent removed, ScintillaViewExtent inserted);
+  void Replace(Position at, ScintillaExtent removed, ScintillaExtent inserted);
 
   Position Length() const;
   SciPosition PositionOf(Position offset) const;
   Position OffsetOf(SciPosition position) const;
 
  private:
-  using Blocks = std::vector<ScintillaViewExtent>;
+  using Blocks = std::vector<ScintillaExtent>;
 
   template <class Inside>
-  std::pair<ScintillaViewExtent, ScintillaViewExtent> Locate(const Inside& inside) const;
+  std::pair<ScintillaExtent, ScintillaExtent> Locate(const Inside& inside) const;
   void Split(std::size_t block, SciPosition start) const;
 
   Reader read_;

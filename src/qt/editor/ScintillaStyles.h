@@ -15,9 +15,9 @@ namespace tessel {
 /// colour and the paint are two things: the theme may paint a colour lighter or darker.
 ///
 /// Scintilla leaves 248 styles; should a text have more colours, the rest share the last style.
-class ScintillaViewColours {
+class ScintillaStyles {
  public:
-  explicit ScintillaViewColours(QsciScintillaBase& widget) : widget_(widget) {}
+  explicit ScintillaStyles(QsciScintillaBase& widget) : widget_(widget) {}
 
   /// The style for a colour; makes one when it is new.
   int StyleOf(Colour colour);
