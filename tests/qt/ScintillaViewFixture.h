@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "drive/qt/EditorScreen.h"
 #include "models/ControlSet.h"
 #include "models/RichTextBox.h"
 #include "qt/editor/ScintillaView.h"
@@ -21,6 +22,7 @@ struct ScintillaViewFixture : testing::Test {
   RichTextBox model{controls, "rtbCon"};
   MemoryClipboard clipboard;
   ScintillaView view{model, clipboard};
+  drive::EditorScreen screen{view};
   QStringList refusals;
 
   ScintillaViewFixture() {
@@ -40,7 +42,7 @@ struct ScintillaViewFixture : testing::Test {
     }
   }
 
-  std::string Displayed() { return view.displayedBytes().toStdString(); }
+  std::string Displayed() { return screen.Text(); }
   std::pair<Position, Position> Selected() const { return {model.SelStart(), model.SelLength()}; }
 
   void Select(Position start, Position length) {

@@ -68,7 +68,7 @@ TEST_F(ScintillaViewMouse, AltMakesNoRectangle) {
   Drag(PointOf(4), PointOf(11), Qt::AltModifier);
   EXPECT_EQ(view.SendScintilla(Sci::SCI_SELECTIONISRECTANGLE), 0);
   EXPECT_EQ(view.SendScintilla(Sci::SCI_GETSELECTIONS), 1);
-  EXPECT_EQ(view.displayedSelection(), Selected());
+  EXPECT_EQ(screen.Selection(), Selected());
 }
 
 TEST_F(ScintillaViewMouse, ARightClickInsideTheSelectionKeepsIt) {
@@ -84,7 +84,7 @@ TEST_F(ScintillaViewMouse, ARightClickOutsideTheSelectionMovesTheCaret) {
   Select(4, 3);
   Click(PointOf(9), Qt::RightButton);
   EXPECT_EQ(Selected(), (std::pair<Position, Position>(9, 0)));
-  EXPECT_EQ(view.displayedSelection(), Selected());
+  EXPECT_EQ(screen.Selection(), Selected());
   EXPECT_EQ(view.popupPosition(), view.viewport()->mapToGlobal(PointOf(9)));
 }
 
@@ -187,11 +187,11 @@ TEST_F(ScintillaViewScreenReader, GetsTheTextOnceItIsActive) {
   auto* text = QAccessible::queryAccessibleInterface(&view)->textInterface();
   ASSERT_NE(text, nullptr);
   EXPECT_EQ(text->text(0, 5), QStringLiteral("one \u20AC"));
-  view.typeText("x");
+  screen.Type("x");
   EXPECT_EQ(model.Text(), "xone \x80");
   EXPECT_EQ(Displayed(), model.Text());
   QAccessible::setActive(false);
-  view.typeText("y");
+  screen.Type("y");
   EXPECT_EQ(Displayed(), "xyone \x80");
 }
 

@@ -14,8 +14,8 @@ struct Agreement : ScintillaViewFixture {
 
   void Check() {
     RC_ASSERT(Displayed() == model.Text());
-    RC_ASSERT(view.displayedSelection() == Selected());
-    RC_ASSERT(view.displayedColours() == model.Store().Runs(0, model.Length()));
+    RC_ASSERT(screen.Selection() == Selected());
+    RC_ASSERT(screen.Colours() == model.Store().Runs(0, model.Length()));
   }
 };
 
@@ -107,7 +107,7 @@ void Play(Agreement& editor, const Step& step) {
       model.Span("ab \t", step.at % 2 == 0, step.length % 2 == 0);
       break;
     case 10:
-      editor.view.typeText(Typeable(step.text));
+      editor.screen.Type(Typeable(step.text));
       break;
     case 11:
       QApplication::processEvents();

@@ -51,14 +51,14 @@ TEST_F(ScintillaViewShows, TheSelectionAmongHighBytes) {
   model.SetText("\x80\x80 \xE4\xF6\xFC\r\n\x93quoted\x94\r\nplain");
   for (Position start = 0; start <= model.Length(); ++start) {
     Select(start, 3);
-    EXPECT_EQ(view.displayedSelection(), Selected()) << start;
+    EXPECT_EQ(screen.Selection(), Selected()) << start;
   }
 }
 
 TEST_F(ScintillaViewShows, ASelectionThatEndsInsideABreak) {
   model.SetText("ab\r\ncd");
   Select(1, 2);
-  EXPECT_EQ(view.displayedSelection(), (std::pair<Position, Position>(1, 2)));
+  EXPECT_EQ(screen.Selection(), (std::pair<Position, Position>(1, 2)));
 }
 
 TEST_F(ScintillaViewShows, ColoursOfEveryCharacter) {
@@ -67,8 +67,8 @@ TEST_F(ScintillaViewShows, ColoursOfEveryCharacter) {
   model.SetSelColor(kRed);
   Select(8, 4);
   model.SetSelColor(kGreen);
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
-  EXPECT_EQ(view.displayedColours().size(), 5U);
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Colours().size(), 5U);
 }
 
 TEST_F(ScintillaViewShows, MoreColoursThanScintillaHasStylesWithoutHarm) {
@@ -77,7 +77,7 @@ TEST_F(ScintillaViewShows, MoreColoursThanScintillaHasStylesWithoutHarm) {
     Select(i, 1);
     model.SetSelColor(static_cast<Colour>(i + 1));
   }
-  const auto runs = view.displayedColours();
+  const auto runs = screen.Colours();
   EXPECT_EQ(Displayed(), model.Text());
   EXPECT_EQ(runs[0].colour, 1U);
   EXPECT_EQ(runs[200].colour, 201U);
@@ -86,11 +86,11 @@ TEST_F(ScintillaViewShows, MoreColoursThanScintillaHasStylesWithoutHarm) {
 TEST_F(ScintillaViewShows, NoSelectionWithoutFocusWhenItIsHidden) {
   model.SetText("abc");
   model.SetHideSelection(true);
-  EXPECT_TRUE(view.selectionShown());
+  EXPECT_TRUE(screen.SelectionShown());
   view.clearFocus();
-  EXPECT_FALSE(view.selectionShown());
+  EXPECT_FALSE(screen.SelectionShown());
   model.SetHideSelection(false);
-  EXPECT_TRUE(view.selectionShown());
+  EXPECT_TRUE(screen.SelectionShown());
 }
 
 TEST_F(ScintillaViewShows, ChangesMadeWhileParkedOnceItIsBack) {
@@ -104,8 +104,8 @@ TEST_F(ScintillaViewShows, ChangesMadeWhileParkedOnceItIsBack) {
   Unpark();
   EXPECT_EQ(view.SendScintilla(QsciScintillaBase::SCI_GETLENGTH), 15);
   EXPECT_EQ(Displayed(), "one \x80!! three");
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
-  EXPECT_EQ(view.displayedSelection(), Selected());
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Selection(), Selected());
 }
 
 TEST_F(ScintillaViewShows, ColoursGivenWhileInvisible) {
@@ -114,7 +114,7 @@ TEST_F(ScintillaViewShows, ColoursGivenWhileInvisible) {
   Select(2, 3);
   model.SetSelColor(kGreen);
   model.SetVisible(true);
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
 }
 
 TEST_F(ScintillaViewShows, ColoursWhereItDrawsAndTheRestWhenThatIsDrawn) {
@@ -136,7 +136,7 @@ TEST_F(ScintillaViewShows, ColoursWhereItDrawsAndTheRestWhenThatIsDrawn) {
   model.SetSelStart(model.Length());
   view.viewport()->repaint();
   EXPECT_EQ(styleAt(size - 1), styleAt(0));
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
 }
 
 TEST_F(ScintillaViewShows, ColoursThatAHandlerGivesWhileAPersonTypes) {
@@ -150,11 +150,11 @@ TEST_F(ScintillaViewShows, ColoursThatAHandlerGivesWhileAPersonTypes) {
     model.Change.Raise();
   });
   model.SetSelStart(7);
-  view.typeText("x");
+  screen.Type("x");
   view.viewport()->repaint();
   EXPECT_NE(view.SendScintilla(QsciScintillaBase::SCI_GETSTYLEAT, 0L), 0);
   EXPECT_EQ(Displayed(), "one twox");
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
 }
 
 TEST_F(ScintillaViewShows, ASnapshotThatIsRestored) {
@@ -168,7 +168,7 @@ TEST_F(ScintillaViewShows, ASnapshotThatIsRestored) {
 using ScintillaViewTyping = ScintillaViewFixture;
 
 TEST_F(ScintillaViewTyping, EuroSignAndCurlyQuotesArriveAsTheirBytes) {
-  view.typeText(QStringLiteral("a\u20AC\u201Cb\u201D\u0178"));
+  screen.Type(QStringLiteral("a\u20AC\u201Cb\u201D\u0178"));
   EXPECT_EQ(model.Text(),
             "a\x80\x93"
             "b\x94\x9F");
@@ -183,7 +183,7 @@ TEST_F(ScintillaViewTyping, AKeyWithAltGrArrives) {
 
 TEST_F(ScintillaViewTyping, ACharacterWithoutAByteIsRefusedAloud) {
   model.SetText("ab");
-  view.typeText(QStringLiteral("x\u0416y"));
+  screen.Type(QStringLiteral("x\u0416y"));
   EXPECT_EQ(model.Text(), "xyab");
   ASSERT_EQ(refusals.size(), 1);
   EXPECT_TRUE(refusals[0].contains("0416")) << refusals[0].toStdString();
@@ -221,11 +221,11 @@ TEST_F(ScintillaViewTyping, OverASelectionTakesTheColourOfItsFirstCharacter) {
   model.SetText("black red");
   Select(6, 3);
   model.SetSelColor(kRed);
-  view.typeText("xy");
+  screen.Type("xy");
   EXPECT_EQ(model.Text(), "black xy");
   EXPECT_EQ(model.Store().ColourAt(6), kRed);
   EXPECT_EQ(model.Store().ColourAt(7), kRed);
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
 }
 
 TEST_F(ScintillaViewTyping, ARunIsOneUndoStep) {
@@ -248,7 +248,7 @@ TEST_F(ScintillaViewTyping, ARunIsOneUndoStep) {
 
 TEST_F(ScintillaViewTyping, TextOfADriverIsOneUndoStep) {
   model.SetText("old");
-  view.typeText(QStringLiteral("a\r\nb\u0001c"));
+  screen.Type(QStringLiteral("a\r\nb\u0001c"));
   EXPECT_EQ(model.Text(), std::string("a\r\nb\x01"
                                       "cold"));
   model.Undo();
@@ -258,7 +258,7 @@ TEST_F(ScintillaViewTyping, TextOfADriverIsOneUndoStep) {
 TEST_F(ScintillaViewTyping, TextOfADriverArrivesAsItIs) {
   for (const char* before : {"", "x\r\n", "x\n", "x\r"}) {
     model.SetText(before);
-    view.typeText(QStringLiteral("a\nb\rc\r\nd\te"));
+    screen.Type(QStringLiteral("a\nb\rc\r\nd\te"));
     EXPECT_EQ(model.Text(), "a\nb\rc\r\nd\te" + std::string(before));
     EXPECT_EQ(Displayed(), model.Text());
   }
@@ -322,7 +322,7 @@ TEST_F(ScintillaViewTyping, AltAndShiftSelectNoRectangle) {
   Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
   Press(Qt::Key_Right, Qt::AltModifier | Qt::ShiftModifier);
   EXPECT_EQ(view.SendScintilla(QsciScintillaBase::SCI_SELECTIONISRECTANGLE), 0);
-  view.typeText("x");
+  screen.Type("x");
   EXPECT_EQ(Displayed(), model.Text());
 }
 
@@ -333,10 +333,10 @@ TEST_F(ScintillaViewTyping, ChangeIsRaisedAndAHandlerMayEdit) {
     model.SetSelStart(0);
     model.SetSelText("<\x80>");
   });
-  view.typeText("a");
+  screen.Type("a");
   EXPECT_EQ(model.Text(), "<\x80>a");
   EXPECT_EQ(Displayed(), model.Text());
-  EXPECT_EQ(view.displayedSelection(), Selected());
+  EXPECT_EQ(screen.Selection(), Selected());
 }
 
 using ScintillaViewClipboard = ScintillaViewFixture;

@@ -84,7 +84,7 @@ TEST_F(ScintillaViewPaints, ADarkPaletteAtOnceAndLeavesTheTextsColours) {
   model.SetSelStart(2);
   model.SetSelLength(8);
   EXPECT_EQ(model.SelColor(), 0x0000C8U);
-  EXPECT_EQ(view.displayedColours(), model.Store().Runs(0, model.Length()));
+  EXPECT_EQ(screen.Colours(), model.Store().Runs(0, model.Length()));
 }
 
 TEST_F(ScintillaViewPaints, TheSelectionUnlessItIsHidden) {

@@ -11,6 +11,7 @@
 #include <numeric>
 #include <random>
 
+#include "drive/qt/EditorScreen.h"
 #include "qt/TesselWidget.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
@@ -59,7 +60,7 @@ std::vector<std::string> ShownBy(Side& side) {
   std::vector<std::string> shown;
   const auto add = [&shown](const QString& text) { shown.push_back(text.toStdString()); };
   ScintillaView& view = side.View();
-  shown.push_back("text " + view.displayedBytes().toStdString());
+  shown.push_back("text " + drive::EditorScreen(view).Text());
   add(QString("selection %1 to %2")
           .arg(view.SendScintilla(QsciScintillaBase::SCI_GETSELECTIONSTART))
           .arg(view.SendScintilla(QsciScintillaBase::SCI_GETSELECTIONEND)));
@@ -176,7 +177,7 @@ TEST_F(TwoWidgets, TypingAndUndoGoToTheOneWithTheFocus) {
   QTest::keyClick(&first_->View(), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(first_->Editor().Text(), "old");
   EXPECT_EQ(second_->Editor().Text(), "two old");
-  EXPECT_EQ(second_->View().displayedBytes(), "two old");
+  EXPECT_EQ(drive::EditorScreen(second_->View()).Text(), "two old");
   EXPECT_TRUE(second_->Editor().CanUndo());
 }
 

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 
+#include "drive/qt/EditorScreen.h"
 #include "drive/qt/Input.h"
 #include "drive/qt/WidgetPlayer.h"
 #include "qt/base/QtText.h"
@@ -163,7 +164,7 @@ void WidgetPlayer::Type(RichTextBox& editor, const std::string& text) {
   if (text.empty()) {
     SendKey(view, Qt::Key_Delete);
   } else if (text.find_first_of("\r\n") == std::string::npos) {
-    view.typeText(ShownText(text));
+    EditorScreen(view).Type(ShownText(text));
   } else {  // the Return key makes the break that the document has; these are to come as they are
     const std::string held = clipboard_.GetText();
     clipboard_.SetText(text);

@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QTabBar>
 
+#include "drive/qt/EditorScreen.h"
 #include "drive/qt/WidgetPlayer.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
@@ -128,16 +129,16 @@ std::vector<MenuItem> WidgetPlayer::Items(const PopupMenu& menu) const {
 }
 
 std::string WidgetPlayer::Text(const RichTextBox& editor) const {
-  return As<ScintillaView>(editor).displayedBytes().toStdString();
+  return EditorScreen(As<ScintillaView>(editor)).Text();
 }
 
 SelectedRange WidgetPlayer::Selection(const RichTextBox& editor) const {
-  const auto [start, length] = As<ScintillaView>(editor).displayedSelection();
+  const auto [start, length] = EditorScreen(As<ScintillaView>(editor)).Selection();
   return {start, length};
 }
 
 std::vector<ColourRun> WidgetPlayer::Colours(const RichTextBox& editor) const {
-  return As<ScintillaView>(editor).displayedColours();
+  return EditorScreen(As<ScintillaView>(editor)).Colours();
 }
 
 }  // namespace tessel::drive

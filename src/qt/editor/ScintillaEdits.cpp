@@ -8,8 +8,8 @@ namespace tessel {
 
 void ScintillaEdits::ReadInsertion() {
   if (!unread_) return;
-  const auto bytes = BytesOfUtf8(document_.Utf8(unread_->at, unread_->length));
-  document_.NoteInsertion(unread_->at, unread_->length);
+  const auto bytes = BytesOfUtf8(text_.Utf8(unread_->at, unread_->length));
+  text_.NoteInsertion(unread_->at, unread_->length);
   unread_.reset();
   if (bytes) {
     edits_.back().inserted += *bytes;
@@ -20,7 +20,7 @@ void ScintillaEdits::ReadInsertion() {
 
 void ScintillaEdits::BeforeInsertion(SciPosition at, SciPosition length) {
   ReadInsertion();
-  const Position offset = document_.OffsetOf(at);
+  const Position offset = text_.OffsetOf(at);
   const bool goesOn =
       !edits_.empty() && edits_.back().at + std::ssize(edits_.back().inserted) == offset;
   if (!goesOn) edits_.push_back({offset, 0, {}});
@@ -29,8 +29,8 @@ void ScintillaEdits::BeforeInsertion(SciPosition at, SciPosition length) {
 
 void ScintillaEdits::BeforeDeletion(SciPosition at, SciPosition length) {
   ReadInsertion();
-  edits_.push_back({document_.OffsetOf(at), CharactersOfUtf8(document_.Utf8(at, length)), {}});
-  document_.NoteDeletion(at, length);
+  edits_.push_back({text_.OffsetOf(at), CharactersOfUtf8(text_.Utf8(at, length)), {}});
+  text_.NoteDeletion(at, length);
 }
 
 std::optional<std::vector<ScintillaEdit>> ScintillaEdits::Take() {

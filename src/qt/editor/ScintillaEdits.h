@@ -23,7 +23,7 @@ struct ScintillaEdit {
 /// little later, before the next change or when the edits are taken.
 class ScintillaEdits {
  public:
-  explicit ScintillaEdits(ScintillaText& document) : document_(document) {}
+  explicit ScintillaEdits(ScintillaText& text) : text_(text) {}
 
   void BeforeInsertion(SciPosition at, SciPosition length);
   void BeforeDeletion(SciPosition at, SciPosition length);
@@ -41,7 +41,7 @@ class ScintillaEdits {
   };
   void ReadInsertion();
 
-  ScintillaText& document_;
+  ScintillaText& text_;
   std::vector<ScintillaEdit> edits_;
   std::optional<Insertion> unread_;  // belongs to the last edit
   bool refused_ = false;

@@ -33,8 +33,7 @@ void ScintillaStyles::SetTheme(const EditorTheme& theme) {
 }
 
 void ScintillaStyles::Paint(int style) const {
-  widget_.SendScintilla(Sci::SCI_STYLESETFORE, static_cast<unsigned long>(style),
-                        theme_.PaintOf(ColourOf(style)));
+  document_.PaintStyle(style, theme_.PaintOf(ColourOf(style)));
 }
 
 }  // namespace tessel

@@ -5,9 +5,8 @@
 #include <vector>
 
 #include "qt/editor/EditorTheme.h"
+#include "qt/editor/ScintillaDocument.h"
 #include "text/TextTypes.h"
-
-class QsciScintillaBase;
 
 namespace tessel {
 
@@ -17,7 +16,7 @@ namespace tessel {
 /// Scintilla leaves 248 styles; should a text have more colours, the rest share the last style.
 class ScintillaStyles {
  public:
-  explicit ScintillaStyles(QsciScintillaBase& widget) : widget_(widget) {}
+  explicit ScintillaStyles(ScintillaDocument& document) : document_(document) {}
 
   /// The style for a colour; makes one when it is new.
   int StyleOf(Colour colour);
@@ -27,7 +26,7 @@ class ScintillaStyles {
  private:
   void Paint(int style) const;
 
-  QsciScintillaBase& widget_;
+  ScintillaDocument& document_;
   EditorTheme theme_;
   std::vector<int> styles_ = {0};  // in use, in the order of their making; style 0 is black
   std::array<Colour, 256> colourOfStyle_ = {};

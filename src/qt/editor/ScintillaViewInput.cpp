@@ -12,6 +12,7 @@
 
 #include "base/RuntimeError.h"
 #include "qt/base/Windows1252Qt.h"
+#include "qt/editor/EditorKeys.h"
 #include "qt/editor/ScintillaView.h"
 
 namespace tessel {
@@ -104,27 +105,20 @@ void ScintillaView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) UseLineEndOfText();
-  ByHand([&] { QsciScintillaBase::keyPressEvent(event); }, types);
-}
-
-std::string_view ScintillaView::LineEndOfText() const {
-  const std::string_view text = model_.Bytes();
-  const auto at = text.find_first_of("\r\n");
-  if (at == text.npos || text.substr(at, 2) == "\r\n") return "\r\n";
-  return text.substr(at, 1);
+  mirror_.ByHand([&] { QsciScintillaBase::keyPressEvent(event); }, types);
 }
 
 void ScintillaView::UseLineEndOfText() {
-  const std::string_view lineEnd = LineEndOfText();
+  const std::string_view lineEnd = LineEndOfReturn(model_.Bytes());
   const int mode = lineEnd == "\n" ? SC_EOL_LF : lineEnd == "\r" ? SC_EOL_CR : SC_EOL_CRLF;
   SendScintilla(SCI_SETEOLMODE, mode);
 }
 
 void ScintillaView::Insert(const std::string& bytes, bool typing) {
-  ByHand(
+  mirror_.ByHand(
       [&] {
-        TakeOver();
-        if (!gesture_) gesture_.emplace(model_, typing);
+        mirror_.TakeOver();
+        mirror_.OpenUndoStep(typing);
         model_.EditByHand(model_.SelStart(), model_.SelLength(), bytes);
       },
       typing);
@@ -141,8 +135,8 @@ void ScintillaView::inputMethodEvent(QInputMethodEvent* event) {
     Refuse(RefusalOf(event->commitString()));
     return;
   }
-  ByHand([&] {
-    TakeOver();
+  mirror_.ByHand([&] {
+    mirror_.TakeOver();
     if (event->replacementLength() > 0) {
       model_.SelectByHand(model_.SelStart() + event->replacementStart(),
                           event->replacementLength());
@@ -171,17 +165,17 @@ void ScintillaView::ShowPreedit(const QString& text) {
 // --- Commands
 
 void ScintillaView::Undo() {
-  ByHand([this] {
-    TakeOver();
-    gesture_.reset();
+  mirror_.ByHand([this] {
+    mirror_.TakeOver();
+    mirror_.CloseUndoStep();
     model_.Undo();
   });
 }
 
 void ScintillaView::Redo() {
-  ByHand([this] {
-    TakeOver();
-    gesture_.reset();
+  mirror_.ByHand([this] {
+    mirror_.TakeOver();
+    mirror_.CloseUndoStep();
     model_.Redo();
   });
 }
@@ -227,7 +221,7 @@ QPoint ScintillaView::CaretPoint() const {
 std::optional<Position> ScintillaView::OffsetAt(QPoint point) const {
   const long left = SendScintilla(SCI_GETMARGINWIDTHN, 0UL);
   if (point.x() < left) return std::nullopt;
-  return document_.OffsetOf(SendScintilla(
+  return mirror_.OffsetOf(SendScintilla(
       SCI_POSITIONFROMPOINT, static_cast<unsigned long>(point.x()), static_cast<long>(point.y())));
 }
 
@@ -255,27 +249,28 @@ void ScintillaView::PasteFromMouse(QPoint at) {
 
 void ScintillaView::mousePressEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton) {
-    ByHand([&] { MoveCaretForMenu(event->position().toPoint()); });
+    mirror_.ByHand([&] { MoveCaretForMenu(event->position().toPoint()); });
     return;
   }
   if (event->button() != Qt::LeftButton) return;
-  ByHand([&] { QsciScintillaBase::mousePressEvent(event); });
+  mirror_.ByHand([&] { QsciScintillaBase::mousePressEvent(event); });
 }
 
 void ScintillaView::mouseMoveEvent(QMouseEvent* event) {
-  ByHand([&] { QsciScintillaBase::mouseMoveEvent(event); });
+  mirror_.ByHand([&] { QsciScintillaBase::mouseMoveEvent(event); });
 }
 
 void ScintillaView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  ByHand([&] { QsciScintillaBase::mouseDoubleClickEvent(event); });
+  mirror_.ByHand([&] { QsciScintillaBase::mouseDoubleClickEvent(event); });
 }
 
 void ScintillaView::mouseReleaseEvent(QMouseEvent* event) {
   const auto button = event->button();
   const QPoint at = event->position().toPoint();
   popupPosition_ = event->globalPosition().toPoint();
-  if (button == Qt::LeftButton) ByHand([&] { QsciScintillaBase::mouseReleaseEvent(event); });
+  if (button == Qt::LeftButton)
+    mirror_.ByHand([&] { QsciScintillaBase::mouseReleaseEvent(event); });
   if (button == Qt::MiddleButton) PasteFromMouse(at);
   if (IsKnown(button)) model_.ReleaseMouse(ModelButton(button));
 }
@@ -327,10 +322,10 @@ void ScintillaView::Drop(Position at, const std::string& bytes, bool moving) {
   const Position start = model_.SelStart();
   const Position length = model_.SelLength();
   if (moving && at >= start && at <= start + length) return;
-  ByHand([&] {
-    TakeOver();
-    gesture_.reset();
-    gesture_.emplace(model_, false);
+  mirror_.ByHand([&] {
+    mirror_.TakeOver();
+    mirror_.CloseUndoStep();
+    mirror_.OpenUndoStep(false);
     if (moving) model_.EditByHand(start, length, {});
     const Position target = moving && at > start ? at - length : at;
     model_.EditByHand(target, 0, bytes);

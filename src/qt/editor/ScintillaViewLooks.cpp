@@ -121,7 +121,7 @@ void ScintillaView::ApplyTheme() {
   SendScintilla(SCI_STYLESETBACK, static_cast<unsigned long>(STYLE_DEFAULT), theme.background);
   SendScintilla(SCI_STYLESETFORE, static_cast<unsigned long>(STYLE_DEFAULT), theme.text);
   SendScintilla(SCI_STYLECLEARALL);
-  document_.Colours().SetTheme(theme);
+  mirror_.SetTheme(theme);
   SendScintilla(SCI_STYLESETBACK, static_cast<unsigned long>(STYLE_LINENUMBER),
                 theme.marginBackground);
   SendScintilla(SCI_STYLESETFORE, static_cast<unsigned long>(STYLE_LINENUMBER), theme.marginText);
@@ -162,13 +162,13 @@ void ScintillaView::changeEvent(QEvent* event) {
 void ScintillaView::focusInEvent(QFocusEvent* event) {
   QsciScintillaBase::focusInEvent(event);
   ApplyTheme();
-  ShowOrHideSelection();
+  mirror_.FocusChanged();
 }
 
 void ScintillaView::focusOutEvent(QFocusEvent* event) {
   QsciScintillaBase::focusOutEvent(event);
   ApplyTheme();
-  ShowOrHideSelection();
+  mirror_.FocusChanged();
 }
 
 }  // namespace tessel
