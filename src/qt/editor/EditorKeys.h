@@ -1,11 +1,42 @@
 // What the editor's keys mean.
 #pragma once
 
+#include <QKeyCombination>
+#include <QString>
+#include <optional>
 #include <string_view>
+
+class QKeyEvent;
+class QsciScintillaBase;
 
 namespace tessel {
 
+/// What the editor does itself at a key. All other keys are Scintilla's.
+enum class EditorCommand {
+  kUndo,
+  kRedo,
+  kCut,
+  kCopy,
+  kPaste,
+  kLeaveForwards,
+  kLeaveBackwards,
+  kShowMenu,
+};
+
+std::optional<EditorCommand> CommandOf(QKeyCombination keys);
+
+/// Takes the keys from Scintilla that would bypass the model's undo and clipboard, make a
+/// rectangular selection, or change case by Unicode's rules (which can lead out of Windows-1252).
+void UnbindKeys(QsciScintillaBase& widget);
+
+/// True when the text is one that a key types, and no control character.
+bool IsPrintable(const QString& text);
+/// True when a key types its text.
+bool IsTyping(const QKeyEvent& event);
+
 /// The break that the Return key inserts into a text: the text's first one, else CR LF.
 std::string_view LineEndOfReturn(std::string_view text);
+/// Makes Scintilla's Return key insert that one.
+void UseLineEndOf(std::string_view text, QsciScintillaBase& widget);
 
 }  // namespace tessel

@@ -5,18 +5,20 @@
 
 #include <QPoint>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "models/RichTextBox.h"
+#include "qt/editor/EditorCommands.h"
+#include "qt/editor/EditorKeys.h"
+#include "qt/editor/LineNumberMargin.h"
 #include "qt/editor/ScintillaMirror.h"
 #include "qt/editor/ScintillaViewAccessibility.h"
 #include "qt/editor/WidgetDocument.h"
 #include "services/Services.h"
 
-class QLabel;
-
 namespace tessel {
+
+class PreeditLabel;
 
 /// Shows a RichTextBox and lets a person edit it. The text, its colours, the selection and undo
 /// live in the model; Scintilla draws them and is edited by keys and mouse, and a mirror tells each
@@ -64,48 +66,25 @@ class ScintillaView : public QsciScintillaBase {
   QMimeData* toMimeData(const QByteArray& text, bool rectangular) const override;
 
  private:
-  struct KeyCommand;
-  static const std::vector<KeyCommand>& KeyCommands();
-
   void ListenToScintilla();
-  void Refuse(const QString& explanation) { emit textRefused(explanation); }
-
-  // --- Commands
-  void Insert(const std::string& bytes, bool typing);
-  void Undo();
-  void Redo();
-  void Cut();
-  void Copy();
-  void Paste();
-  void LeaveForwards();
-  void LeaveBackwards();
-  void ShowMenuAtCaret();
-  void UseLineEndOfText();
-  void MoveCaretForMenu(QPoint at);
-  void PasteFromMouse(QPoint at);
-  void Drop(Position at, const std::string& bytes, bool moving);
-  void ShowPreedit(const QString& text);
-  std::optional<Position> OffsetAt(QPoint point) const;
-  QPoint CaretPoint() const;
-
-  // --- Looks
-  void SetUp();
-  void UnbindKeys();
-  void SetUpFont();
+  void ListenToParts();
   void ApplyTheme();
-  void ShowLineNumbers();
-  void FitLineNumbers();
+  void Run(EditorCommand command);
+  void ShowMenuAtCaret();
+  void PasteFromMouse(QPoint at);
+  QPoint CaretPoint() const;
+  /// Nothing in the margin.
+  std::optional<Position> OffsetAt(QPoint point) const;
 
   RichTextBox& model_;
-  Clipboard& clipboard_;
   ScintillaViewAccessibility accessibility_;
   WidgetDocument document_;
   ScintillaMirror mirror_;
+  EditorCommands commands_;
+  LineNumberMargin lineNumbers_;
   std::vector<Subscription> subscriptions_;
-
   QPoint popupPosition_;
-  qsizetype digits_ = 0;  // of the line numbers
-  QLabel* preedit_ = nullptr;
+  PreeditLabel* preedit_ = nullptr;  // made for the first input method
 };
 
 }  // namespace tessel
