@@ -1,6 +1,7 @@
 #include "cli/PanelItems.h"
 
 #include <algorithm>
+#include <span>
 
 #include "settings/Defines.h"
 #include "settings/ItemTables.h"
@@ -21,18 +22,17 @@ void AddWeapons(std::vector<PanelItem>& items) {
   for (int category = 0; category < std::ssize(WeaponCategoryTable); ++category) {
     const WeaponCategory& rules = WeaponCategoryTable[static_cast<std::size_t>(category)];
     for (int i = 0; i < std::ssize(rules.weapons); ++i) {
-      const std::string weapon(rules.weapons[static_cast<std::size_t>(i)]);
-      items.push_back({"Weapon", std::string(rules.displayName) + "/" + weapon,
+      const std::string weapon(rules.weapons[static_cast<std::size_t>(i)].name);
+      items.push_back({"Weapon", std::string(rules.name) + "/" + weapon,
                        DefineName(WeaponKey(category, weapon, i)), category, i});
     }
   }
 }
 
-template <class Items, class Key>
-void AddItems(std::vector<PanelItem>& items, const char* section, const Items& table, Key key) {
+void AddItems(std::vector<PanelItem>& items, const char* section, std::span<const Item> table) {
   for (int i = 0; i < std::ssize(table); ++i) {
     const Item& row = table[static_cast<std::size_t>(i)];
-    items.push_back({section, std::string(row.displayName), key(row), -1, i});
+    items.push_back({section, std::string(row.name), std::string(row.key), -1, i});
   }
 }
 
@@ -53,12 +53,11 @@ bool IsYesNo(const PanelItem& item) { return item.entry < 0; }
 }  // namespace
 
 std::vector<PanelItem> PanelItems() {
-  const auto fixedKey = [](const Item& item) { return std::string(item.key); };
   std::vector<PanelItem> items;
-  AddItems(items, "Player", PlayerItemTable, PlayerKey);
+  AddItems(items, "Player", PlayerItemTable);
   AddWeapons(items);
-  AddItems(items, "Enemy", EnemyItemTable, fixedKey);
-  AddItems(items, "Misc", MiscItemTable, fixedKey);
+  AddItems(items, "Enemy", EnemyItemTable);
+  AddItems(items, "Misc", MiscItemTable);
   items.push_back({"Misc", "Cameras Destructable", std::string(kCamerasDestructable), -1, -1});
   items.push_back({"Misc", "Freeze Hurt Owner", std::string(kFreezerHurtOwner), -1, -1});
   return items;

@@ -5,19 +5,30 @@
 #include "text/Text.h"
 
 namespace tessel {
+namespace {
 
-std::string PlayerKey(const Item& item) {
-  return item.key.empty() ? ToUpperText(item.displayName) + "_AMOUNT" : std::string(item.key);
+const Weapon* RowAt(const WeaponCategory& category, int position) {
+  const bool listed = position >= 0 && position < std::ssize(category.weapons);
+  return listed ? &category.weapons[static_cast<std::size_t>(position)] : nullptr;
 }
+
+/// The row's key with another name in the place of the row's own.
+std::string KeyFor(const Weapon& row, std::string_view weapon) {
+  std::string key(row.key);
+  const std::string own = ToUpperText(row.name);
+  const std::size_t at = row.keyOfPlace ? std::string::npos : key.find(own);
+  return at == std::string::npos ? key : key.replace(at, own.size(), ToUpperText(weapon));
+}
+
+}  // namespace
 
 std::string WeaponKey(int category, std::string_view weapon, int position) {
   if (category < 0 || category >= std::ssize(WeaponCategoryTable)) return {};
   const WeaponCategory& rules = WeaponCategoryTable[static_cast<std::size_t>(category)];
-  const auto fixed = std::ranges::find(rules.fixedKeys, position, &FixedKey::position);
-  const bool isFixed = fixed != rules.fixedKeys.end();
-  if (isFixed && fixed->wholeKey) return std::string(fixed->before);
-  return std::string(isFixed ? fixed->before : rules.before) + ToUpperText(weapon) +
-         std::string(isFixed ? fixed->behind : rules.behind);
+  if (const Weapon* row = RowAt(rules, position)) return KeyFor(*row, weapon);
+  const auto unlisted = std::ranges::find(rules.unlisted, position, &UnlistedKey::position);
+  if (unlisted != rules.unlisted.end()) return std::string(unlisted->key);
+  return std::string(rules.before) + ToUpperText(weapon) + std::string(rules.behind);
 }
 
 std::vector<std::string> PresetValues() {

@@ -12,7 +12,7 @@ constexpr const char* kIgnoredText = "  ";  // a value box's text that is never 
 void FillList(ListBox& list, std::span<const Item> items, bool newerDialect) {
   list.Clear();
   for (const Item& item : items) {
-    if (newerDialect || !item.newerDialectOnly) list.AddItem(std::string(item.displayName));
+    if (newerDialect || !item.newerDialectOnly) list.AddItem(std::string(item.name));
   }
 }
 
@@ -32,7 +32,7 @@ void SettingsPanel::FillSettingsLists(std::string_view versionToken) {
   FillList(controls_.lstPlayers, PlayerItemTable, newerDialect);
   controls_.lstWeapInfo.Clear();
   for (const WeaponCategory& category : WeaponCategoryTable) {
-    controls_.lstWeapInfo.AddItem(std::string(category.displayName));
+    controls_.lstWeapInfo.AddItem(std::string(category.name));
   }
   controls_.lstWeapon.Clear();
   FillList(controls_.lstEnemy, EnemyItemTable, newerDialect);
@@ -104,7 +104,7 @@ void SettingsPanel::ShowValueOf(std::string_view key, bool wholeWord, int page) 
 
 void SettingsPanel::lstPlayers_Click() {
   if (const Item* item = SelectedItem(controls_.lstPlayers, PlayerItemTable)) {
-    ShowValueOf(PlayerKey(*item), true, kPlayerPage);
+    ShowValueOf(item->key, true, kPlayerPage);
   }
 }
 
@@ -129,8 +129,7 @@ void SettingsPanel::lstWeapInfo_Click() {
   EnableValue(kWeaponPage);
   controls_.cmbweap[kWeaponPage].SetText(kIgnoredText);
   editor.SetHideSelection(true);
-  for (const std::string_view weapon : rules.weapons)
-    controls_.lstWeapon.AddItem(std::string(weapon));
+  for (const Weapon& weapon : rules.weapons) controls_.lstWeapon.AddItem(std::string(weapon.name));
   FindDefine(editor, rules.sectionMarker, false);
 }
 

@@ -1,6 +1,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/CommandLineTest.h"
+#include "settings/ItemTables.h"
 
 namespace tessel::test {
 namespace {
@@ -13,6 +14,14 @@ const std::string kText =
     "define CAMERASDESTRUCTABLE NO // cameras\r\n"
     "define PISTOL_WEAPON_STRENGTH 6\r\n"
     "\xE9\0 define QSIZE 64"s;
+
+/// The rows of all tables, and the two YES/NO settings.
+const std::ptrdiff_t kSettings = [] {
+  std::ptrdiff_t count =
+      2 + std::ssize(PlayerItemTable) + std::ssize(EnemyItemTable) + std::ssize(MiscItemTable);
+  for (const WeaponCategory& category : WeaponCategoryTable) count += std::ssize(category.weapons);
+  return count;
+}();
 
 class CommandLineValues : public CommandLineTest {
  protected:
@@ -94,18 +103,18 @@ TEST_F(CommandLineValues, ListsEverySettingAndADashForWhatIsMissing) {
   EXPECT_THAT(list, testing::HasSubstr("Weapon  Weapon Strength/Pistol            6\n"));
   EXPECT_THAT(list, testing::HasSubstr("Enemy   Trooper                           -\n"));
   EXPECT_THAT(list, testing::HasSubstr("Misc    Cameras Destructable              NO\n"));
-  EXPECT_EQ(std::ranges::count(list, '\n'), 10 + 38 + 20 + 13 + 2);
+  EXPECT_EQ(std::ranges::count(list, '\n'), kSettings);
 }
 
 TEST_F(CommandLineValues, ListsOneSection) {
   const std::string list = OutputOf({"settings", "User.con", "--section", "player"});
-  EXPECT_EQ(std::ranges::count(list, '\n'), 10);
+  EXPECT_EQ(std::ranges::count(list, '\n'), std::ssize(PlayerItemTable));
   EXPECT_TRUE(list.starts_with("Player  Max Regular Health                100\n")) << list;
 }
 
 TEST_F(CommandLineValues, ListsAsJson) {
   const json list = json::parse(OutputOf({"settings", "User.con", "--json"}));
-  ASSERT_EQ(list.size(), 83U);
+  ASSERT_EQ(std::ssize(list), kSettings);
   EXPECT_EQ(list[0], (json{{"section", "Player"},
                            {"item", "Max Regular Health"},
                            {"define", "MAXPLAYERHEALTH"},

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "settings/ItemTables.h"
 #include "support/TesselTest.h"
 
 namespace tessel::test {
@@ -35,7 +36,7 @@ TEST_F(StartUp, GoesOnWithoutAnythingFromAStoreThatCannotBeRead) {
   EXPECT_EQ(Control().CONPath(), "/host");
   EXPECT_THAT(RecentNames(), IsEmpty());
   EXPECT_THAT(world_.messages.shown, IsEmpty());
-  EXPECT_EQ(C().lstEnemy.ListCount(), 20);
+  EXPECT_EQ(C().lstEnemy.ListCount(), std::ssize(EnemyItemTable));
   EXPECT_EQ(C().tbsCon.Width(), 12000 - 20);
   store_.failsReading = false;
   Open("/b.con", "B");
@@ -174,7 +175,7 @@ TEST_F(Automation, SetTesselVersionChangesNothing) {
   Control().SetTesselVersion(version, fallback);
   EXPECT_EQ(version, "Zanth13");
   EXPECT_EQ(fallback, "Zanth15");
-  EXPECT_EQ(C().lstEnemy.ListCount(), 20);
+  EXPECT_EQ(C().lstEnemy.ListCount(), std::ssize(EnemyItemTable));
 }
 
 TEST_F(Automation, ConvertDoesWhatTheButtonDoes) {

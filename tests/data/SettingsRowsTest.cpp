@@ -1,10 +1,10 @@
-// Every row of the settings panel finds its define in the user templates. The rows are written out
-// here once more, so that a slip in the panel's own tables shows.
+// Every row of the settings panel finds its define in the user templates.
 #include <gtest/gtest.h>
 
 #include "data/DataFiles.h"
 #include "models/ControlSet.h"
 #include "models/RichTextBox.h"
+#include "settings/ItemTables.h"
 
 namespace tessel::test {
 namespace {
@@ -12,63 +12,31 @@ namespace {
 enum class Since { kOlder, kNewer };
 
 struct Row {
-  const char* key;
+  std::string_view key;
   int options;
   Since since = Since::kOlder;
 };
 
-// clang-format off
-constexpr Row kRows[] = {
-    // Player items
-    {"MAXPLAYERHEALTH", kFindWholeWord}, {"MAXPLAYERATOMICHEALTH", kFindWholeWord},
-    {"STARTARMORHEALTH", kFindWholeWord}, {"STEROID_AMOUNT", kFindWholeWord},
-    {"SHIELD_AMOUNT", kFindWholeWord}, {"SCUBA_AMOUNT", kFindWholeWord},
-    {"HOLOZANTH_AMOUNT", kFindWholeWord}, {"JETPACK_AMOUNT", kFindWholeWord},
-    {"FIRSTAID_AMOUNT", kFindWholeWord}, {"BOOT_AMOUNT", kFindWholeWord},
-    // Weapons: the most ammunition
-    {"define MAXPISTOLAMMO", 0}, {"define MAXSHOTGUNAMMO", 0}, {"define MAXCHAINGUNAMMO", 0},
-    {"define MAXRPGAMMO", 0}, {"define MAXHANDBOMBAMMO", 0}, {"define MAXSHRINKERAMMO", 0},
-    {"define MAXDEVISTATORAMMO", 0}, {"define MAXTRIPBOMBAMMO", 0}, {"define MAXFREEZEAMMO", 0},
-    // Weapons: ammunition in a box
-    {"define PISTOLAMMO", 0}, {"define SHOTGUNAMMO", 0}, {"define CHAINGUNAMMO", 0},
-    {"define RPGAMMO", 0}, {"define HANDBOMBBOX", 0}, {"define SHRINKERAMMO", 0},
-    {"define DEVISTATORAMMO", 0}, {"define FREEZEAMMO", 0},
-    {"GROWCRYSTALAMMOAMOUNT", 0, Since::kNewer},
-    // Weapons: strength
-    {"KNEE_WEAPON_STRENGTH", 0}, {"PISTOL_WEAPON_STRENGTH", 0}, {"SHOTGUN_WEAPON_STRENGTH", 0},
-    {"CHAINGUN_WEAPON_STRENGTH", 0}, {"RPG_WEAPON_STRENGTH", 0}, {"HANDBOMB_WEAPON_STRENGTH", 0},
-    {"TRIPBOMB_STRENGTH", 0}, {"FREEZETHROWER_WEAPON_STRENGTH", 0},
-    {"SHRINKER_WEAPON_STRENGTH", 0}, {"MORTER_WEAPON_STRENGTH", 0},
-    {"FIRELASER_WEAPON_STRENGTH", 0}, {"BOUNCEMINE_WEAPON_STRENGTH", 0},
-    {"SPIT_WEAPON_STRENGTH", 0}, {"BULLET_WEAPON_STRENGTH", 0},
-    {"TRIPBOMBLASERMODE", 0, Since::kNewer}, {"MAXXSTRETCH", 0, Since::kNewer},
-    {"MAXYSTRETCH", 0, Since::kNewer}, {"MINXSTRETCH", 0, Since::kNewer},
-    {"MINYSTRETCH", 0, Since::kNewer},
-    // Weapons: blast radius
-    {"RPGBLASTRADIUS", 0}, {"PIPEBOMBRADIUS", 0}, {"SHRINKERBLASTRADIUS", 0},
-    {"TRIPBOMBBLASTRADIUS", 0}, {"MORTERBLASTRADIUS", 0}, {"BOUNCEMINEBLASTRADIUS", 0},
-    {"SEENINEBLASTRADIUS", 0},
-    // Enemies
-    {"TROOPSTRENGTH", kFindWholeWord}, {"PIGCOPSTRENGTH", kFindWholeWord},
-    {"PIG_SHIELD_AMOUNT1", kFindWholeWord}, {"PIG_SHIELD_AMOUNT2", kFindWholeWord},
-    {"LIZSTRENGTH", kFindWholeWord}, {"OCTASTRENGTH", kFindWholeWord},
-    {"RECONSTRENGTH", kFindWholeWord}, {"TURRETSTRENGTH", kFindWholeWord},
-    {"ROTTURRETSTRENGTH", kFindWholeWord}, {"DRONESTRENGTH", kFindWholeWord},
-    {"COMMANDERSTRENGTH", kFindWholeWord}, {"SHARKSTRENGTH", kFindWholeWord},
-    {"BOSS1STRENGTH", kFindWholeWord}, {"BOSS1PALSTRENGTH", kFindWholeWord},
-    {"BOSS2STRENGTH", kFindWholeWord}, {"BOSS3STRENGTH", kFindWholeWord},
-    {"BOSS4STRENGTH", kFindWholeWord, Since::kNewer},
-    {"NEWBEASTSTRENGTH", kFindWholeWord, Since::kNewer},
-    {"NEWBEASTSCRATCHAMOUNT", kFindWholeWord, Since::kNewer},
-    {"DOLPHINSTRENGTH", kFindWholeWord, Since::kNewer},
-    // Misc
-    {"MAXWATERFOUNTAINHEALTH", 0}, {"RETRIEVEDISTANCE", 0}, {"SQUISHABLEDISTANCE", 0},
-    {"DEFAULTVISIBILITY", 0}, {"FROZENQUICKKICKDIST", 0}, {"GENERICIMPACTDAMAGE", 0},
-    {"SWEARFREQUENCY", 0}, {"RESPAWNACTORTIME", 0}, {"RESPAWNITEMTIME", 0},
-    {"NUMFREEZEBOUNCES", 0}, {"FROZENDRIPTIME", 0}, {"THAWTIME", 0},
-    {"QSIZE", 0, Since::kNewer},
-};
-// clang-format on
+void AddItems(std::vector<Row>& rows, std::span<const Item> items, int options) {
+  for (const Item& item : items) {
+    rows.push_back({item.key, options, item.newerDialectOnly ? Since::kNewer : Since::kOlder});
+  }
+}
+
+/// Every key that the panel's rules name, with how it is searched.
+std::vector<Row> Rows() {
+  std::vector<Row> rows;
+  AddItems(rows, PlayerItemTable, kFindWholeWord);
+  for (const WeaponCategory& category : WeaponCategoryTable) {
+    for (const Weapon& weapon : category.weapons) rows.push_back({weapon.key, kFindDefault});
+    for (const UnlistedKey& unlisted : category.unlisted) {
+      rows.push_back({unlisted.key, kFindDefault, Since::kNewer});
+    }
+  }
+  AddItems(rows, EnemyItemTable, kFindWholeWord);
+  AddItems(rows, MiscItemTable, kFindDefault);
+  return rows;
+}
 
 struct Editor {
   explicit Editor(const std::string& text) { box.SetText(text); }
@@ -85,7 +53,7 @@ struct Editor {
     box.Span(" ", false, true);
   }
 
-  std::string ValueOf(const char* key, int options) {
+  std::string ValueOf(std::string_view key, int options) {
     if (box.Find(key, 0, std::nullopt, options) == kNotFound) return "(not found)";
     SelectValue();
     return box.SelText();
@@ -109,7 +77,7 @@ bool IsNumber(const std::string& value) {
 
 void ExpectRows(const char* file, Since newest) {
   Editor editor(ReadDataFile(file));
-  for (const auto& row : kRows) {
+  for (const Row& row : Rows()) {
     if (row.since > newest) continue;
     EXPECT_TRUE(IsNumber(editor.ValueOf(row.key, row.options)))
         << file << ": " << row.key << " = " << editor.box.SelText();
@@ -127,7 +95,7 @@ TEST(SettingsRows, FindTheirDefineInTheNewerUserTemplate) {
 
 TEST(SettingsRows, OfTheNewerDialectAreNotInTheOlderUserTemplate) {
   Editor editor(ReadDataFile("zmuser.dat"));
-  for (const auto& row : kRows) {
+  for (const Row& row : Rows()) {
     if (row.since == Since::kNewer) {
       EXPECT_EQ(editor.ValueOf(row.key, row.options), "(not found)") << row.key;
     }
@@ -140,7 +108,7 @@ class UserTemplate : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(UserTemplate, HoldsYesOrNoInTheDefinesOfTheOptionPairs) {
-  for (const char* key : {"CAMERASDESTRUCTABLE", "FREEZERHURTOWNER"}) {
+  for (const std::string_view key : {kCamerasDestructable, kFreezerHurtOwner}) {
     const auto value = editor_.ValueOf(key, kFindWholeWord);
     EXPECT_TRUE(value == "YES" || value == "NO") << key << " = " << value;
     EXPECT_TRUE(editor_.LineUpToValue().starts_with("define ")) << key;
@@ -148,9 +116,8 @@ TEST_P(UserTemplate, HoldsYesOrNoInTheDefinesOfTheOptionPairs) {
 }
 
 TEST_P(UserTemplate, HoldsTheFirstLineOfEveryWeaponSection) {
-  for (const char* marker : {"define MAXPISTOLAMMO", "define PISTOLAMMOAMOUNT",
-                             "// Weapon Strengths", "// Various blast radius distances"}) {
-    EXPECT_NE(editor_.box.Find(marker, 0), kNotFound) << marker;
+  for (const WeaponCategory& category : WeaponCategoryTable) {
+    EXPECT_NE(editor_.box.Find(category.sectionMarker, 0), kNotFound) << category.sectionMarker;
   }
   EXPECT_LT(editor_.box.Find("// Weapon Strengths", 0),
             editor_.box.Find("KNEE_WEAPON_STRENGTH", 0));

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -38,18 +39,20 @@ class RandomizerWalk : public test::ControlFixture {
   static std::string PlayerFile(const std::vector<std::string>& values) {
     std::string text = "// a user file\r\n";
     for (std::size_t i = 0; i < PlayerItemTable.size(); ++i) {
-      text += "define  " + PlayerKey(PlayerItemTable[i]) + "   " + values[i];
+      text += "define  " + std::string(PlayerItemTable[i].key) + "   " + values[i];
       text += i % 2 == 0 ? "   // note 1/2\r\n" : "\r\n";
     }
     return text + "state 7 8\r\n";
   }
-  static std::vector<std::string> Ten(const std::string& value) {
-    return std::vector<std::string>(10, value);
+  static std::vector<std::string> Each(const std::string& value) {
+    return std::vector<std::string>(PlayerItemTable.size(), value);
   }
 };
 
+constexpr int kPlayerItems = static_cast<int>(PlayerItemTable.size());
+
 TEST_F(RandomizerWalk, WritesTheSequenceOfTheUnseededGenerator) {
-  Editor().SetText(PlayerFile(Ten("55")));
+  Editor().SetText(PlayerFile(Each("55")));
   Randomize("Player", {"1", "100"});
   const std::string text = Editor().Text();
   // 0.7055475, 0.5334240, 0.5795186, 0.2895625, 0.3019480
@@ -58,21 +61,21 @@ TEST_F(RandomizerWalk, WritesTheSequenceOfTheUnseededGenerator) {
   EXPECT_NE(text.find("STARTARMORHEALTH   58   // note"), std::string::npos);
   EXPECT_NE(text.find("STEROID_AMOUNT   29\r\n"), std::string::npos);
   EXPECT_NE(text.find("SHIELD_AMOUNT   31   // note"), std::string::npos);
-  EXPECT_EQ(services_.random.drawn, 10);
+  EXPECT_EQ(services_.random.drawn, kPlayerItems);
   EXPECT_EQ(ImageOfTab(1), "RedDot");
 }
 
 TEST_F(RandomizerWalk, KeepsEverythingButTheValues) {
-  Editor().SetText(PlayerFile(Ten("55")));
+  Editor().SetText(PlayerFile(Each("55")));
   Randomize("Player", {"7", "7"});
-  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("7")));
+  EXPECT_EQ(Editor().Text(), PlayerFile(Each("7")));
 }
 
 // 5.9 becomes 6 and 5.1 becomes 5: the larger one is the limit.
 TEST_F(RandomizerWalk, WritesTheLargerOfTwoBoundsThatCrossWhenTheyAreRounded) {
-  Editor().SetText(PlayerFile(Ten("55")));
+  Editor().SetText(PlayerFile(Each("55")));
   Randomize("Player", {"5.9", "5.1"});
-  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("6")));
+  EXPECT_EQ(Editor().Text(), PlayerFile(Each("6")));
 }
 
 struct KeepRow {
@@ -90,32 +93,39 @@ constexpr KeepRow kKeep[] = {
     {true, true, "5", "12", "12", "12", "25"},
 };
 
+/// The values for the player items, from the first again when they end.
+std::vector<std::string> InTurn(const std::vector<std::string>& values) {
+  std::vector<std::string> all;
+  for (std::size_t i = 0; i < PlayerItemTable.size(); ++i) all.push_back(values[i % values.size()]);
+  return all;
+}
+
 TEST_F(RandomizerWalk, LeavesValuesBeyondABoundThatIsToBeKept) {
   for (const KeepRow& row : kKeep) {
-    services_.random.numbers.assign(10, 0.25F);  // int(11 * 0.25 + 10) = 12
+    services_.random.numbers.assign(kPlayerItems, 0.25F);  // int(11 * 0.25 + 10) = 12
     services_.random.drawn = 0;
-    Editor().SetText(PlayerFile({"5", "10", "15", "20", "25", "5", "10", "15", "20", "25"}));
+    Editor().SetText(PlayerFile(InTurn({"5", "10", "15", "20", "25"})));
     Randomize("Player", {"10", "20", row.below, row.above});
-    EXPECT_EQ(Editor().Text(), PlayerFile({row.of5, row.of10, row.of15, row.of20, row.of25, row.of5,
-                                           row.of10, row.of15, row.of20, row.of25}));
-    EXPECT_EQ(services_.random.drawn, 10 - 2 * row.below - 2 * row.above);
+    const auto after = InTurn({row.of5, row.of10, row.of15, row.of20, row.of25});
+    EXPECT_EQ(Editor().Text(), PlayerFile(after));
+    EXPECT_EQ(services_.random.drawn, std::ranges::count(after, "12"));
     services_.random.numbers.clear();
   }
 }
 
 TEST_F(RandomizerWalk, ComparesTheIntegerPartOfAValue) {
-  auto values = Ten("15");
+  auto values = Each("15");
   values[0] = "20.9";   // 20
   values[1] = "9.9";    // 9
   values[2] = "15xyz";  // 15
   Editor().SetText(PlayerFile(values));
   Randomize("Player", {"10", "20", true, true});
-  EXPECT_EQ(services_.random.drawn, 9);
+  EXPECT_EQ(services_.random.drawn, kPlayerItems - 1);
   EXPECT_NE(Editor().Text().find("ATOMICHEALTH   9.9\r\n"), std::string::npos);
 }
 
 TEST_F(RandomizerWalk, StopsAtAValueThatIsNotANumberAndNamesIt) {
-  auto values = Ten("55");
+  auto values = Each("55");
   values[2] = "LOTS";
   Editor().SetText(PlayerFile(values));
   Randomize("Player", {"7", "7", false, true});
@@ -130,7 +140,7 @@ TEST_F(RandomizerWalk, StopsAtAValueThatIsNotANumberAndNamesIt) {
 }
 
 TEST_F(RandomizerWalk, KeepsWhatWasWrittenBeforeItStopped) {
-  auto values = Ten("55");
+  auto values = Each("55");
   values[2] = "LOTS";
   Editor().SetText(PlayerFile(values));
   Randomize("Player", {"60", "60", false, true});
@@ -139,28 +149,36 @@ TEST_F(RandomizerWalk, KeepsWhatWasWrittenBeforeItStopped) {
 }
 
 TEST_F(RandomizerWalk, ReadsNoValueWhenNoneIsToBeKept) {
-  auto values = Ten("55");
+  auto values = Each("55");
   values[2] = "LOTS";
   Editor().SetText(PlayerFile(values));
   Randomize("Player", {"7", "7"});
-  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("7")));
+  EXPECT_EQ(Editor().Text(), PlayerFile(Each("7")));
   EXPECT_TRUE(services_.messages.shown.empty());
 }
 
 TEST_F(RandomizerWalk, DrawsForAMissingDefineAndWritesIntoTheSelectionThatStands) {
-  Editor().SetText("define MAXPLAYERHEALTH 1 // x\r\ndefine BOOT_AMOUNT 2\r\n");
-  services_.random.numbers = {0.0F, 0.1F, 0.2F, 0.3F, 0.4F, 0.5F, 0.6F, 0.7F, 0.8F, 0.9F};
-  Randomize("Player", {"10", "19"});
-  // The eight items between the two have no define: each writes over the first value.
-  EXPECT_EQ(Editor().Text(), "define MAXPLAYERHEALTH 18 // x\r\ndefine BOOT_AMOUNT 19\r\n");
-  EXPECT_EQ(services_.random.drawn, 10);
+  const auto fileOf = [](int ofFirst, int ofLast) {
+    return "define " + std::string(PlayerItemTable.front().key) + " " + std::to_string(ofFirst) +
+           " // x\r\ndefine " + std::string(PlayerItemTable.back().key) + " " +
+           std::to_string(ofLast) + "\r\n";
+  };
+  Editor().SetText(fileOf(1, 2));
+  for (int i = 0; i < kPlayerItems; ++i) {  // draws 10, 11, 12 ...
+    services_.random.numbers.push_back((static_cast<float>(i) + 0.5F) / kPlayerItems);
+  }
+  const int last = 10 + kPlayerItems - 1;
+  Randomize("Player", {"10", std::to_string(last)});
+  // The items between the two have no define: each writes over the first value.
+  EXPECT_EQ(Editor().Text(), fileOf(last - 1, last));
+  EXPECT_EQ(services_.random.drawn, kPlayerItems);
 }
 
 TEST_F(RandomizerWalk, DrawsAndWritesNothingWhereNothingIsSelected) {
   Editor().SetText("nothing to find\r\n");
   Randomize("Player", {"10", "19"});
   EXPECT_EQ(Editor().Text(), "nothing to find\r\n");
-  EXPECT_EQ(services_.random.drawn, 10);
+  EXPECT_EQ(services_.random.drawn, kPlayerItems);
 }
 
 TEST_F(RandomizerWalk, TakesTheSectionsInTheirOrder) {
@@ -178,19 +196,18 @@ TEST_F(RandomizerWalk, TakesTheSectionsInTheirOrder) {
   Randomize("All", {"1", "9"});
 
   std::vector<std::string> expected;
-  const auto walk = [&](const std::string& list, int count) {
-    for (int i = 0; i < count; ++i) expected.push_back(list + " " + std::to_string(i));
+  const auto walk = [&](const std::string& list, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) expected.push_back(list + " " + std::to_string(i));
   };
-  walk("lstPlayers", 10);
-  const int weapons[] = {9, 8, 14, 7};
-  for (int category = 0; category < 4; ++category) {
+  walk("lstPlayers", PlayerItemTable.size());
+  for (std::size_t category = 0; category < WeaponCategoryTable.size(); ++category) {
     expected.push_back("lstWeapInfo " + std::to_string(category));
-    walk("lstWeapon", weapons[category]);
+    walk("lstWeapon", WeaponCategoryTable[category].weapons.size());
   }
-  walk("lstEnemy", 20);
-  walk("lstConMisc", 13);
+  walk("lstEnemy", EnemyItemTable.size());
+  walk("lstConMisc", MiscItemTable.size());
   EXPECT_EQ(order, expected);
-  EXPECT_EQ(services_.random.drawn, 10 + 38 + 20 + 13);
+  EXPECT_EQ(services_.random.drawn, std::ssize(expected) - std::ssize(WeaponCategoryTable));
   EXPECT_EQ(services_.loop.calls, services_.random.drawn);  // the window stays painted
   EXPECT_EQ(services_.forms.shown.size(), 1U);
   EXPECT_EQ(c.tbsCon.Selected(), 4);
@@ -215,7 +232,7 @@ TEST_F(RandomizerWalk, BringsAHiddenPanelBack) {
   EXPECT_EQ(Controls().tbsCon.Left(), 0);
   EXPECT_EQ(Controls().tbsCon.Height(), 2055);
   EXPECT_EQ(Controls().tbsCon.Selected(), 3);
-  EXPECT_EQ(services_.random.drawn, 20);
+  EXPECT_EQ(services_.random.drawn, std::ssize(EnemyItemTable));
 }
 
 TEST_F(RandomizerWalk, LeavesAHiddenPanelHiddenForABoundOfZero) {
@@ -233,28 +250,29 @@ TEST_F(RandomizerWalk, WritesNothingForAnEmptyList) {
 }
 
 TEST_F(RandomizerWalk, ReachesBothEndsOfTheRange) {
-  auto values = Ten("1");
+  auto values = Each("1");
   Editor().SetText(PlayerFile(values));
-  services_.random.numbers.assign(10, 0.0F);
+  services_.random.numbers.assign(kPlayerItems, 0.0F);
   services_.random.numbers[1] = 16777215.0F / 16777216.0F;
   Randomize("Player", {"-32768", "32767"});
-  values = Ten("-32768");
+  values = Each("-32768");
   values[1] = "32767";
   EXPECT_EQ(Editor().Text(), PlayerFile(values));
 }
 
 TEST_F(RandomizerWalk, ComputesInSinglePrecision) {
-  Editor().SetText(PlayerFile(Ten("1")));
-  services_.random.numbers.assign(10, 16520549.0F / 16777216.0F);
+  Editor().SetText(PlayerFile(Each("1")));
+  services_.random.numbers.assign(kPlayerItems, 16520549.0F / 16777216.0F);
   Randomize("Player", {"10000", "20000"});
-  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("19848")));  // double precision: 19847
+  EXPECT_EQ(Editor().Text(), PlayerFile(Each("19848")));  // double precision: 19847
 }
 
 TEST_F(RandomizerWalk, NeverLeavesTheRangeByRounding) {
-  Editor().SetText(PlayerFile(Ten("1")));
-  services_.random.numbers.assign(10, 16767394.0F / 16777216.0F);  // 20000.999 becomes 20001
+  Editor().SetText(PlayerFile(Each("1")));
+  services_.random.numbers.assign(kPlayerItems,
+                                  16767394.0F / 16777216.0F);  // 20000.999 becomes 20001
   Randomize("Player", {"20000", "20000"});
-  EXPECT_EQ(Editor().Text(), PlayerFile(Ten("20000")));
+  EXPECT_EQ(Editor().Text(), PlayerFile(Each("20000")));
 }
 
 RC_GTEST_FIXTURE_PROP(RandomizerWalk, LeavesEveryByteOutsideTheValues, ()) {
@@ -267,7 +285,7 @@ RC_GTEST_FIXTURE_PROP(RandomizerWalk, LeavesEveryByteOutsideTheValues, ()) {
   std::string before, after;
   for (const Item& item : PlayerItemTable) {
     const std::string head = *rc::gen::element<std::string>("", "// 1 2 3\r\n", "state x 12\n") +
-                             "define" + blanks() + PlayerKey(item) + blanks();
+                             "define" + blanks() + std::string(item.key) + blanks();
     const std::string tail = *rc::gen::element<std::string>(
         "\r\n", "\n", "  \r\n", " \n", "  // 9 / 8\r\n", "// x 5\r\n", "/* 4 */ 3\n");
     const auto width = static_cast<float>(upper - lower + 1);

@@ -13,30 +13,26 @@ namespace {
 using testing::ElementsAre;
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-TEST(PlayerItems, HaveTheseNamesAndKeys) {
-  Pairs rows;
-  for (const Item& item : PlayerItemTable) {
-    rows.emplace_back(item.displayName, PlayerKey(item));
-    EXPECT_FALSE(item.newerDialectOnly);
-  }
-  EXPECT_EQ(rows, (Pairs{{"Max Regular Health", "MAXPLAYERHEALTH"},
-                         {"Max Atomic Health", "MAXPLAYERATOMICHEALTH"},
-                         {"Armor", "STARTARMORHEALTH"},
-                         {"Steroid", "STEROID_AMOUNT"},
-                         {"Shield", "SHIELD_AMOUNT"},
-                         {"Scuba", "SCUBA_AMOUNT"},
-                         {"Holozanth", "HOLOZANTH_AMOUNT"},
-                         {"Jetpack", "JETPACK_AMOUNT"},
-                         {"Medkit Amount", "FIRSTAID_AMOUNT"},
-                         {"Boot", "BOOT_AMOUNT"}}));
-}
-
 Pairs Rows(std::span<const Item> items, bool newerDialectOnly) {
   Pairs rows;
   for (const Item& item : items) {
-    if (item.newerDialectOnly == newerDialectOnly) rows.emplace_back(item.displayName, item.key);
+    if (item.newerDialectOnly == newerDialectOnly) rows.emplace_back(item.name, item.key);
   }
   return rows;
+}
+
+TEST(PlayerItems, HaveTheseNamesAndKeys) {
+  EXPECT_EQ(Rows(PlayerItemTable, false), (Pairs{{"Max Regular Health", "MAXPLAYERHEALTH"},
+                                                 {"Max Atomic Health", "MAXPLAYERATOMICHEALTH"},
+                                                 {"Armor", "STARTARMORHEALTH"},
+                                                 {"Steroid", "STEROID_AMOUNT"},
+                                                 {"Shield", "SHIELD_AMOUNT"},
+                                                 {"Scuba", "SCUBA_AMOUNT"},
+                                                 {"Holozanth", "HOLOZANTH_AMOUNT"},
+                                                 {"Jetpack", "JETPACK_AMOUNT"},
+                                                 {"Medkit Amount", "FIRSTAID_AMOUNT"},
+                                                 {"Boot", "BOOT_AMOUNT"}}));
+  EXPECT_EQ(Rows(PlayerItemTable, true), Pairs());
 }
 
 TEST(EnemyItems, HaveTheseNamesAndKeys) {
@@ -79,15 +75,6 @@ TEST(MiscItems, HaveTheseNamesAndKeys) {
   EXPECT_EQ(Rows(MiscItemTable, true), (Pairs{{"Bullet Holes, Blood, Money", "QSIZE"}}));
 }
 
-TEST(Items, OfTheNewerDialectStandLastInTheirLists) {
-  for (std::size_t i = 0; i < EnemyItemTable.size(); ++i) {
-    EXPECT_EQ(EnemyItemTable[i].newerDialectOnly, i >= 16) << i;
-  }
-  for (std::size_t i = 0; i < MiscItemTable.size(); ++i) {
-    EXPECT_EQ(MiscItemTable[i].newerDialectOnly, i >= 12) << i;
-  }
-}
-
 TEST(YesNoSettings, HaveTheseKeys) {
   EXPECT_EQ(kCamerasDestructable, "CAMERASDESTRUCTABLE");
   EXPECT_EQ(kFreezerHurtOwner, "FREEZERHURTOWNER");
@@ -96,7 +83,7 @@ TEST(YesNoSettings, HaveTheseKeys) {
 TEST(WeaponCategories, HaveTheseNamesAndSectionMarkers) {
   Pairs rows;
   for (const WeaponCategory& category : WeaponCategoryTable) {
-    rows.emplace_back(category.displayName, category.sectionMarker);
+    rows.emplace_back(category.name, category.sectionMarker);
   }
   EXPECT_EQ(rows, (Pairs{{"Max Weapon Ammo", "define MAXPISTOLAMMO"},
                          {"Box Ammo Amount", "define PISTOLAMMOAMOUNT"},
@@ -107,8 +94,10 @@ TEST(WeaponCategories, HaveTheseNamesAndSectionMarkers) {
 /// The weapons of a category with the keys that choosing them searches.
 Pairs WeaponsAndKeys(int category) {
   Pairs rows;
-  for (const std::string_view weapon : WeaponCategoryTable.at(category).weapons) {
-    rows.emplace_back(weapon, WeaponKey(category, weapon, static_cast<int>(rows.size())));
+  for (const Weapon& weapon : WeaponCategoryTable.at(static_cast<std::size_t>(category)).weapons) {
+    const int position = static_cast<int>(rows.size());
+    EXPECT_EQ(WeaponKey(category, weapon.name, position), weapon.key);
+    rows.emplace_back(weapon.name, weapon.key);
   }
   return rows;
 }
@@ -175,9 +164,24 @@ TEST(WeaponKeys, BehindTheEndsOfTheListsAreFixedToo) {
 }
 
 TEST(WeaponKeys, FollowThePositionAndTheNameGiven) {
+  EXPECT_EQ(WeaponKey(0, "Ray", 0), "define MAXRAYAMMO");
+  EXPECT_EQ(WeaponKey(0, "Ray", -1), "define MAXRAYAMMO");
+  EXPECT_EQ(WeaponKey(0, "Ray", 99), "define MAXRAYAMMO");
+  EXPECT_EQ(WeaponKey(1, "Ray", 3), "define RAYAMMO");
   EXPECT_EQ(WeaponKey(1, "Ray", 4), "define RAYBOX");
+  EXPECT_EQ(WeaponKey(1, "Ray", 99), "define RAYAMMO");
   EXPECT_EQ(WeaponKey(1, "Handbomb", 3), "define HANDBOMBAMMO");
+  EXPECT_EQ(WeaponKey(2, "Ray", 1), "RAY_WEAPON_STRENGTH");
+  EXPECT_EQ(WeaponKey(2, "Kicking", 1), "KICKING_WEAPON_STRENGTH");
   EXPECT_EQ(WeaponKey(3, "Handbomb", 0), "HANDBOMBBLASTRADIUS");
+  EXPECT_EQ(WeaponKey(3, "Ray", 99), "RAYBLASTRADIUS");
+}
+
+TEST(WeaponKeys, OfFourPlacesStandWhateverTheName) {
+  EXPECT_EQ(WeaponKey(2, "Ray", 0), "KNEE_WEAPON_STRENGTH");
+  EXPECT_EQ(WeaponKey(2, "Ray", 6), "TRIPBOMB_STRENGTH");
+  EXPECT_EQ(WeaponKey(2, "Ray", 7), "FREEZETHROWER_WEAPON_STRENGTH");
+  EXPECT_EQ(WeaponKey(3, "Ray", 1), "PIPEBOMBRADIUS");
 }
 
 TEST(WeaponKeys, AreEmptyOutsideTheFourCategories) {

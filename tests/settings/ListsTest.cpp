@@ -1,11 +1,11 @@
 // The lists of the settings panel and what choosing from them shows.
+#include "settings/ItemTables.h"
 #include "support/EditorTrace.h"
 #include "support/TesselTest.h"
 
 namespace tessel::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class SettingsLists : public TesselTest {
@@ -20,25 +20,19 @@ class SettingsLists : public TesselTest {
   void Pick(ListBox& list, const std::string& name) { list.Pick(RowOf(list, name)); }
 };
 
+template <class Row>
+std::vector<std::string> NamesOf(std::span<const Row> rows) {
+  std::vector<std::string> names;
+  for (const Row& row : rows) names.emplace_back(row.name);
+  return names;
+}
+
 TEST_F(SettingsLists, HoldEveryNameOfTheNewerDialectFromTheStart) {
-  EXPECT_THAT(C().lstPlayers.List(),
-              ElementsAre("Max Regular Health", "Max Atomic Health", "Armor", "Steroid", "Shield",
-                          "Scuba", "Holozanth", "Jetpack", "Medkit Amount", "Boot"));
-  EXPECT_THAT(C().lstWeapInfo.List(),
-              ElementsAre("Max Weapon Ammo", "Box Ammo Amount", "Weapon Strength", "Blast Radius"));
+  EXPECT_EQ(C().lstPlayers.List(), NamesOf<Item>(PlayerItemTable));
+  EXPECT_EQ(C().lstWeapInfo.List(), NamesOf<WeaponCategory>(WeaponCategoryTable));
   EXPECT_THAT(C().lstWeapon.List(), IsEmpty());
-  EXPECT_THAT(
-      C().lstEnemy.List(),
-      ElementsAre("Trooper", "Pig Cop", "Pig Cop Armor 1", "Pig Cop Armor 2", "Lizard Enforcer",
-                  "Octabrain", "Recon Car", "Regular Turret", "Rotating Turret", "Sentry Drone",
-                  "Fat Commander", "Shark", "Episode 1 Boss", "Mini Boss", "Episode 2 Boss",
-                  "Episode 3 Boss", "Episode 4 Boss", "NewBeast", "NewBeast Scratch", "Dolphin"));
-  EXPECT_THAT(C().lstConMisc.List(),
-              ElementsAre("Max Water Fountain Health", "Retrieve Distance", "Squishable Distance",
-                          "Default Visibility", "Frozen Quick Kick Distance",
-                          "Generic Impact Damage", "Swear Frequency", "Respawn Actor Time",
-                          "Respawn Item Time", "Number of Freeze Bounces", "Frozen Drip Time",
-                          "Thaw Time", "Bullet Holes, Blood, Money"));
+  EXPECT_EQ(C().lstEnemy.List(), NamesOf<Item>(EnemyItemTable));
+  EXPECT_EQ(C().lstConMisc.List(), NamesOf<Item>(MiscItemTable));
 }
 
 TEST_F(SettingsLists, EnableTheValueBoxAndLabelOfTheirPageAlone) {
@@ -68,7 +62,7 @@ TEST_F(SettingsLists, ShowThePlayersValue) {
   EXPECT_EQ(TabOf(0).image, kBlackDot);
 }
 
-TEST_F(SettingsLists, LookComposedAndFixedPlayerKeysUp) {
+TEST_F(SettingsLists, LookTheKeyUpAndNotTheName) {
   SetDocument(
       "[]define HOLOZANTH_AMOUNT 12\r\ndefine MEDKIT AMOUNT_AMOUNT 1\r\n"
       "define FIRSTAID_AMOUNT 34\r\n");
@@ -128,7 +122,7 @@ TEST_F(SettingsLists, ReadTheDocumentThatIsCurrentWhenTheyAreClicked) {
   Pick(C().lstPlayers, "Boot");
   Open("/b.con", "define BOOT_AMOUNT 2");
   EXPECT_EQ(C().cmbweap[0].Text(), "1");
-  EXPECT_EQ(C().lstPlayers.ListIndex(), 9);
+  EXPECT_EQ(C().lstPlayers.List(C().lstPlayers.ListIndex()), "Boot");
   Pick(C().lstPlayers, "Boot");
   EXPECT_EQ(C().cmbweap[0].Text(), "2");
 }
@@ -169,20 +163,10 @@ TEST_F(SettingsLists, FindTheSectionAlsoInsideOfALongerWord) {
 }
 
 TEST_F(SettingsLists, OfferTheWeaponsOfTheCategory) {
-  C().lstWeapInfo.Pick(0);
-  EXPECT_THAT(C().lstWeapon.List(), ElementsAre("Pistol", "Shotgun", "Chaingun", "RPG", "Handbomb",
-                                                "Shrinker", "Devistator", "Tripbomb", "Freeze"));
-  C().lstWeapInfo.Pick(1);
-  EXPECT_THAT(C().lstWeapon.List(), ElementsAre("Pistol", "Shotgun", "Chaingun", "RPG", "Handbomb",
-                                                "Shrinker", "Devistator", "Freeze"));
-  C().lstWeapInfo.Pick(2);
-  EXPECT_THAT(
-      C().lstWeapon.List(),
-      ElementsAre("Kicking", "Pistol", "Shotgun", "Chaingun", "RPG", "Handbomb", "Tripbomb",
-                  "Freeze", "Shrinker", "Morter", "Firelaser", "Bouncemine", "Spit", "Bullet"));
-  C().lstWeapInfo.Pick(3);
-  EXPECT_THAT(C().lstWeapon.List(), ElementsAre("RPG", "Handbomb", "Shrinker", "Tripbomb", "Morter",
-                                                "Bouncemine", "Seenine"));
+  for (std::size_t category = 0; category < WeaponCategoryTable.size(); ++category) {
+    C().lstWeapInfo.Pick(static_cast<int>(category));
+    EXPECT_EQ(C().lstWeapon.List(), NamesOf(WeaponCategoryTable[category].weapons)) << category;
+  }
 }
 
 TEST_F(SettingsLists, ShowTheWeaponsValue) {
