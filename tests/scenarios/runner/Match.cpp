@@ -1,5 +1,8 @@
 #include "Match.h"
 
+#include <algorithm>
+#include <span>
+
 namespace scenario {
 namespace {
 
@@ -28,10 +31,29 @@ std::string MembersMismatch(const Json& expected, const Json& actual, const std:
   return {};
 }
 
+bool IsGap(const Json& expected) { return expected == "..."; }
+
+using Elements = std::span<const Json>;
+
+bool ElementsMatch(Elements expected, Elements actual) {
+  if (expected.empty()) return actual.empty();
+  const bool gap = IsGap(expected.front());
+  if (gap && ElementsMatch(expected.subspan(1), actual)) return true;
+  if (actual.empty()) return false;
+  if (gap) return ElementsMatch(expected, actual.subspan(1));
+  return Mismatch(expected.front(), actual.front()).empty() &&
+         ElementsMatch(expected.subspan(1), actual.subspan(1));
+}
+
+Elements ElementsOf(const Json& list) { return list.get_ref<const Json::array_t&>(); }
+
 std::string ElementsMismatch(const Json& expected, const Json& actual, const std::string& where) {
-  if (!actual.is_array() || actual.size() != expected.size()) {
-    return Differs(expected, actual, where);
+  if (!actual.is_array()) return Differs(expected, actual, where);
+  if (std::ranges::any_of(expected, IsGap)) {
+    const bool matches = ElementsMatch(ElementsOf(expected), ElementsOf(actual));
+    return matches ? std::string() : Differs(expected, actual, where);
   }
+  if (actual.size() != expected.size()) return Differs(expected, actual, where);
   for (std::size_t i = 0; i < expected.size(); ++i) {
     const std::string place = where + "[" + std::to_string(i) + "]";
     if (auto difference = Mismatch(expected[i], actual[i], place); !difference.empty()) {

@@ -8,8 +8,9 @@
 namespace scenario {
 
 /// Every named member must be there and match, others may be there too; lists match element by
-/// element and in length; everything else must be equal. The text "~" matches any value, "~abc" any
-/// text that contains "abc", and "~~abc" stands for the text "~abc".
+/// element and in length, where "..." stands for any number of elements, or for none; everything
+/// else must be equal. The text "~" matches any value, "~abc" any text that contains "abc", and
+/// "~~abc" stands for the text "~abc".
 ///
 /// Returns the empty text, or where and how they differ.
 std::string Mismatch(const Json& expected, const Json& actual, const std::string& where = {});
