@@ -8,23 +8,30 @@ namespace {
 
 constexpr const char* kMenu = "FileNew";
 constexpr const char* kSection = "PreviousCons";
-constexpr int kFixedItems = 9;  // templates and separators
-constexpr int kMostItems = 14;
+constexpr int kMostRecentFiles = 5;
 
 }  // namespace
+
+int FirstRecentFile(const Toolbar& toolbar) {
+  int place = toolbar.MenuCount(kMenu);
+  while (place > 0 && !toolbar.MenuItem(kMenu, place).IsSeparator()) --place;
+  return place + 1;
+}
 
 void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string& name,
                    const std::string& path) {
   const int count = toolbar.MenuCount(kMenu);
-  for (int k = kFixedItems; k <= count; ++k) {
+  const int first = FirstRecentFile(toolbar);
+  // From the separator on: an entry that would be one more separator counts as listed.
+  for (int k = first - 1; k <= count; ++k) {
     const ButtonMenuItem& item = toolbar.MenuItem(kMenu, k);
     if (item.tag == path && item.text == name) return;
   }
-  if (count == kMostItems) {
-    settings.DeleteSetting(kSection, ToUpperText(toolbar.MenuItem(kMenu, kMostItems).text));
-    toolbar.RemoveMenuItem(kMenu, kMostItems);
+  if (count - first + 1 == kMostRecentFiles) {
+    settings.DeleteSetting(kSection, ToUpperText(toolbar.MenuItem(kMenu, count).text));
+    toolbar.RemoveMenuItem(kMenu, count);
   }
-  toolbar.InsertMenuItem(kMenu, kFixedItems + 1, {name, {}, path});
+  toolbar.InsertMenuItem(kMenu, first, {name, {}, path});
   settings.SaveSetting(kSection, ToUpperText(name), ToUpperText(path));
 }
 

@@ -8,6 +8,10 @@
 
 namespace tessel {
 
+/// Where the newest recent file stands, or would stand, in the "FileNew" drop-down: behind the last
+/// separator. Places count from 1.
+int FirstRecentFile(const Toolbar& toolbar);
+
 /// Puts a file on top of the list, unless it is listed already (name and path compared exactly).
 /// The oldest of five makes room.
 void AddRecentFile(Toolbar& toolbar, SettingsStore& settings, const std::string& name,

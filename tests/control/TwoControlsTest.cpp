@@ -13,6 +13,7 @@
 
 #include "base/RuntimeError.h"
 #include "support/PersonAtControl.h"
+#include "support/RecentNames.h"
 #include "words/ScriptWords.h"
 #include "words/frmAddParam.h"
 
@@ -48,13 +49,7 @@ struct Seat {
     fakes.files.files[path] = "define A 1\r\n";
     control.OpenFile(path);
   }
-  std::vector<std::string> Recent() {
-    std::vector<std::string> names;
-    for (int k = 10; k <= C().tbToolBar.MenuCount("FileNew"); ++k) {
-      names.push_back(C().tbToolBar.MenuItem("FileNew", k).text);
-    }
-    return names;
-  }
+  std::vector<std::string> Recent() { return RecentNames(C().tbToolBar); }
 
   FakeServices& fakes;
   ucTessel control;

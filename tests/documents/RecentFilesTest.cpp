@@ -17,16 +17,19 @@ class RecentFiles : public TesselTest {
   Entries Stored() { return world_.settings.GetAllSettings("PreviousCons"); }
 };
 
-TEST_F(RecentFiles, StandBehindTheNineFixedItemsTheNewestFirst) {
+TEST_F(RecentFiles, StandBehindTheLastSeparatorTheNewestFirst) {
+  const int before = C().tbToolBar.MenuCount("FileNew");
+  EXPECT_TRUE(C().tbToolBar.MenuItem("FileNew", before).IsSeparator());
+  EXPECT_EQ(FirstRecentFile(C().tbToolBar), before + 1);
   Open("/cons/a.con", "A");
   Open("/cons/B.con", "B");
-  EXPECT_EQ(C().tbToolBar.MenuCount("FileNew"), 11);
-  const ButtonMenuItem& newest = C().tbToolBar.MenuItem("FileNew", 10);
+  EXPECT_EQ(C().tbToolBar.MenuCount("FileNew"), before + 2);
+  EXPECT_EQ(FirstRecentFile(C().tbToolBar), before + 1);
+  const ButtonMenuItem& newest = C().tbToolBar.MenuItem("FileNew", before + 1);
   EXPECT_EQ(newest.text, "B.con");
   EXPECT_EQ(newest.key, "");
   EXPECT_EQ(newest.tag, "/cons/B.con");
-  EXPECT_EQ(C().tbToolBar.MenuItem("FileNew", 11).text, "a.con");
-  EXPECT_EQ(C().tbToolBar.MenuItem("FileNew", 9).text, "-");
+  EXPECT_EQ(C().tbToolBar.MenuItem("FileNew", before + 2).text, "a.con");
   EXPECT_EQ(Stored(), (Entries{{"A.CON", "/CONS/A.CON"}, {"B.CON", "/CONS/B.CON"}}));
 }
 
@@ -76,21 +79,30 @@ TEST_F(RecentFiles, MayBeCalledLikeASeparator) {
   const int before = C().tbToolBar.MenuCount("FileNew");
   Add("-", "/cons/-");
   ASSERT_EQ(C().tbToolBar.MenuCount("FileNew"), before + 1);
-  EXPECT_TRUE(C().tbToolBar.MenuItem("FileNew", 9).IsSeparator());
-  EXPECT_FALSE(C().tbToolBar.MenuItem("FileNew", 10).IsSeparator());
+  EXPECT_TRUE(C().tbToolBar.MenuItem("FileNew", before).IsSeparator());
+  EXPECT_FALSE(C().tbToolBar.MenuItem("FileNew", before + 1).IsSeparator());
+  EXPECT_EQ(FirstRecentFile(C().tbToolBar), before + 1);
+}
+
+TEST_F(RecentFiles, AreNoSeparators) {
+  const int before = C().tbToolBar.MenuCount("FileNew");
+  world_.settings.SaveSetting("PreviousCons", "-", "");
+  LoadRecentFiles(C().tbToolBar, world_.settings);
+  EXPECT_EQ(C().tbToolBar.MenuCount("FileNew"), before);
 }
 
 TEST_F(RecentFiles, ComeBackAtTheStartWithTheLastOneOnTop) {
   world_.settings.SaveSetting("PreviousCons", "one.con", "/cons/one.con");
   world_.settings.SaveSetting("PreviousCons", "TWO.CON", "/CONS/TWO.CON");
   EXPECT_THAT(RecentNames(), ElementsAre("TWO.CON", "ONE.CON"));
-  EXPECT_EQ(C().tbToolBar.MenuItem("FileNew", 11).tag, "/CONS/ONE.CON");
+  EXPECT_EQ(C().tbToolBar.MenuItem("FileNew", FirstRecentFile(C().tbToolBar) + 1).tag,
+            "/CONS/ONE.CON");
 }
 
 TEST_F(RecentFiles, AreOpenedByTheirItem) {
   world_.settings.SaveSetting("PreviousCons", "USER.CON", "/CONS/USER.CON");
   world_.files.files["/cons/User.con"] = "A";
-  C().tbToolBar.PressMenuItem("FileNew", 10);
+  ChooseRecentFile(C().tbToolBar, 0);
   EXPECT_EQ(Current().Text(), "A");
   EXPECT_EQ(TabOf(0).caption, "user.con");
   EXPECT_EQ(TabOf(0).tag, "/CONS/USER.CON");
@@ -106,7 +118,7 @@ TEST_F(RecentFiles, OpenedAgainAsTypedAddASecondItem) {
 
 TEST_F(RecentFiles, ThatAreGoneAreReported) {
   world_.settings.SaveSetting("PreviousCons", "GONE.CON", "/GONE.CON");
-  C().tbToolBar.PressMenuItem("FileNew", 10);
+  ChooseRecentFile(C().tbToolBar, 0);
   EXPECT_THAT(world_.messages.shown, ElementsAre(Exclamation("File /GONE.CON not found.")));
   EXPECT_THAT(RecentNames(), ElementsAre("GONE.CON"));
 }

@@ -47,7 +47,7 @@ TEST_F(Save, UnderAChosenNameGivesTheDocumentThatName) {
 
 TEST_F(Save, UnderItsOwnNameAddsNoRecentFile) {
   Open("/a.con", "A");
-  C().tbToolBar.RemoveMenuItem("FileNew", 10);
+  C().tbToolBar.RemoveMenuItem("FileNew", FirstRecentFile(C().tbToolBar));
   WithDialog("/a.con");
   EXPECT_THAT(RecentNames(), IsEmpty());
   EXPECT_EQ(TabOf(0).tag, "/a.con");

@@ -10,6 +10,7 @@
 #include "posix/SqliteSettingsStore.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
+#include "support/RecentNames.h"
 
 namespace tessel::test {
 namespace {
@@ -65,7 +66,7 @@ class StoreTest : public testing::Test {
     program.Save();
     EXPECT_THAT(program.Told(), IsEmpty());
     EXPECT_EQ(BytesOf(file), "define A 2");
-    EXPECT_EQ(program.Controls().tbToolBar.MenuItem("FileNew", 10).text, "user.con");
+    EXPECT_EQ(RecentNames(program.Controls().tbToolBar).at(0), "user.con");
     program.settings.SaveSetting("ConWords", "NAMEai", "ai");
     EXPECT_EQ(program.settings.GetSetting("ConWords", "NAMEai"), "ai");
   }

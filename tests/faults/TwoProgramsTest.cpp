@@ -9,6 +9,7 @@
 #include "faults/HostWorld.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
+#include "support/RecentNames.h"
 #include "words/ScriptWords.h"
 #include "words/frmAddParam.h"
 
@@ -78,14 +79,9 @@ TEST(TwoPrograms, LoseNeitherRecentFilesNorWords) {
     found.push_back(word.word);
   }
   EXPECT_THAT(found, UnorderedElementsAreArray(words));
-  std::vector<std::string> listed;
   Toolbar& bar = program.Controls().tbToolBar;
-  for (int k = 10; k <= bar.MenuCount("FileNew"); ++k) {
-    listed.push_back(bar.MenuItem("FileNew", k).text);
-  }
-  EXPECT_THAT(listed, UnorderedElementsAreArray(recent));
-  // Each of them opens.
-  for (int k = 10; k <= bar.MenuCount("FileNew"); ++k) bar.PressMenuItem("FileNew", k);
+  EXPECT_THAT(RecentNames(bar), UnorderedElementsAreArray(recent));
+  for (int k = 0; k < std::ssize(recent); ++k) ChooseRecentFile(bar, k);  // each of them opens
   EXPECT_THAT(program.Told(), IsEmpty());
 }
 

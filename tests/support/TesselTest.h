@@ -10,6 +10,7 @@
 
 #include "control/ucTessel.h"
 #include "support/FakeServices.h"
+#include "support/RecentNames.h"
 #include "support/SelectionText.h"
 #include "surface/CurrentEditor.h"
 
@@ -103,13 +104,7 @@ class TesselTest : public testing::Test {
     return captions;
   }
   /// Texts of the recent files, the newest first.
-  std::vector<std::string> RecentNames() {
-    std::vector<std::string> names;
-    for (int k = 10; k <= C().tbToolBar.MenuCount("FileNew"); ++k) {
-      names.push_back(C().tbToolBar.MenuItem("FileNew", k).text);
-    }
-    return names;
-  }
+  std::vector<std::string> RecentNames() { return test::RecentNames(C().tbToolBar); }
 
   FakeServices world_;
   FaultySettings store_{world_.settings};
