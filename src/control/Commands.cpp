@@ -1,6 +1,6 @@
 #include "control/Commands.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "documents/Documents.h"
 #include "documents/Templates.h"
@@ -16,130 +16,106 @@
 namespace tessel {
 namespace {
 
-using Action = std::function<void()>;
+using Targets = const CommandTargets&;
 
-/// Commands on the current document's editor.
-class EditorActions {
- public:
-  EditorActions(HostedControls& controls, const Services& services)
-      : controls_(controls), services_(services) {}
+/// What is run, and the keys under which the surfaces have it; empty where one does not.
+struct Command {
+  std::string_view button, dropDownItem, popupItem;
+  void (*run)(Targets);
 
-  Action Tool(std::string (*tool)(std::string_view)) const {
-    return [&c = controls_, tool] { TransformSelection(CurrentEditor(c), tool); };
+  std::string_view KeyOn(Surface surface) const {
+    if (surface == Surface::kButton) return button;
+    return surface == Surface::kDropDownItem ? dropDownItem : popupItem;
   }
-  Action OnClipboard(void (*command)(RichTextBox&, Clipboard&)) const {
-    return [&c = controls_, &clipboard = services_.clipboard, command] {
-      command(CurrentEditor(c), clipboard);
-    };
-  }
-  Action On(void (*command)(RichTextBox&)) const {
-    return [&c = controls_, command] { command(CurrentEditor(c)); };
-  }
-  Action Undo() const {
-    return [&c = controls_, &focus = services_.focus] { UndoOnce(CurrentEditor(c), focus); };
-  }
-
- private:
-  HostedControls& controls_;
-  const Services& services_;
 };
 
-void DeleteSelection(RichTextBox& editor) { editor.SetSelText(""); }
-void CopySelection(RichTextBox& editor, Clipboard& clipboard) { Copy(editor, clipboard); }
-
-Action Randomize(Randomizer& randomizer, const char* section) {
-  return [&randomizer, section] { randomizer.RandomizeSection(section); };
+template <std::string (*tool)(std::string_view)>
+void Transform(Targets t) {
+  TransformSelection(CurrentEditor(t.controls), tool);
 }
 
-Commands::Table MenuItems(const CommandTargets& t, const EditorActions& editor) {
-  Commands::Table items = {
-      {"CommentBlock", editor.Tool(RemarkBlock)},
-      {"CommentLine", editor.Tool(RemarkLine)},
-      {"Uppercase", editor.Tool(ToUpperText)},
-      {"Lowercase", editor.Tool(ToLowerText)},
-      {"Indent", editor.Tool(IndentText)},
-      {"Parameter", [&words = t.words] { words.ParameterInfo(); }},
-      {"Player", Randomize(t.randomizer, "Player")},
-      {"Weapon", Randomize(t.randomizer, "Weapon")},
-      {"Enemy", Randomize(t.randomizer, "Enemy")},
-      {"Misc", Randomize(t.randomizer, "Misc")},
-  };
-  for (const Template& entry : kTemplates) {
-    items[std::string(entry.code)] = [&documents = t.documents, code = std::string(entry.code)] {
-      documents.NewFromTemplate(code);
-    };
-  }
-  return items;
+template <auto command>
+void OnClipboard(Targets t) {
+  command(CurrentEditor(t.controls), t.services.clipboard);
 }
 
-Commands::Table Buttons(const CommandTargets& t, const EditorActions& editor) {
-  return {
-      {"FileNew", [&d = t.documents] { d.NewFromTemplate("15A"); }},
-      {"FileOpen", [&d = t.documents] { d.OpenFile(""); }},
-      {"FileClose", [&d = t.documents, &c = t.controls] { d.CloseDocument(CurrentDocIndex(c)); }},
-      {"FileSave", [&d = t.documents] { d.SaveDocument(false); }},
-      {"Cut", editor.OnClipboard(Cut)},
-      {"Copy", editor.OnClipboard(CopySelection)},
-      {"Paste", editor.OnClipboard(Paste)},
-      {"Find", [&search = t.search] { search.Find(); }},
-      {"Tools", [&bar = t.controls.tbToolBar] { bar.PressMenuItem("Tools", 1); }},
-      {"RandAll", Randomize(t.randomizer, "All")},
-      {"RandSec", [&r = t.randomizer,
-                   &c = t.controls] { r.RandomizeSection(c.tbsCon.At(c.tbsCon.Selected()).key); }},
-      {"Convert", t.convert},
-      {"Colorize", t.applyColourMode},
-      {"ShowTabs", [&panel = t.settings,
-                    &c = t.controls] { panel.ShowSettingsPanel(c.tbToolBar.Pressed("ShowTabs")); }},
-  };
+constexpr Command kCommands[] = {
+    {"FileNew", "", "", [](Targets t) { t.documents.NewFromTemplate("15A"); }},
+    {"FileOpen", "", "mnuRtbPopupFileOpen", [](Targets t) { t.documents.OpenFile(""); }},
+    {"FileClose", "", "mnuRtbPopupFileClose",
+     [](Targets t) { t.documents.CloseDocument(CurrentDocIndex(t.controls)); }},
+    {"", "", "mnuRtbPopupFileSave", [](Targets t) { t.documents.SaveDocument(true); }},
+    {"FileSave", "", "mnuRtbPopupFileSaveAs", [](Targets t) { t.documents.SaveDocument(false); }},
+
+    {"", "", "mnuRtbPopupEditUndo",
+     [](Targets t) { UndoOnce(CurrentEditor(t.controls), t.services.focus); }},
+    {"Cut", "", "mnuRtbPopupEditCut", OnClipboard<Cut>},
+    {"Copy", "", "mnuRtbPopupEditCopy", OnClipboard<Copy>},
+    {"Paste", "", "mnuRtbPopupEditPaste", OnClipboard<Paste>},
+    {"", "", "mnuRtbPopupEditDelete", [](Targets t) { CurrentEditor(t.controls).SetSelText(""); }},
+    {"", "", "mnuRtbPopupEditSel", [](Targets t) { SelectAll(CurrentEditor(t.controls)); }},
+
+    {"Tools", "", "", [](Targets t) { t.controls.tbToolBar.PressMenuItem("Tools", 1); }},
+    {"", "CommentBlock", "mnuRtbPopupToolsMremark", Transform<RemarkBlock>},
+    {"", "CommentLine", "mnuRtbPopupToolsRremark", Transform<RemarkLine>},
+    {"", "", "mnuRtbPopupToolsUnremark", Transform<UnremarkText>},
+    {"", "Uppercase", "mnuRtbPopupToolsUpper", Transform<ToUpperText>},
+    {"", "Lowercase", "mnuRtbPopupToolsLower", Transform<ToLowerText>},
+    {"", "Indent", "mnuRtbPopupToolsIndent", Transform<IndentText>},
+    {"", "Parameter", "mnuRtbPopupToolsParameters", [](Targets t) { t.words.ParameterInfo(); }},
+
+    {"Find", "", "mnuRtbPopupFind", [](Targets t) { t.search.Find(); }},
+    {"", "", "mnuRtbPopupFindNext", [](Targets t) { t.search.FindNext(); }},
+
+    {"RandAll", "", "", [](Targets t) { t.randomizer.RandomizeSection("All"); }},
+    {"RandSec", "", "",
+     [](Targets t) {
+       const TabStrip& sections = t.controls.tbsCon;
+       t.randomizer.RandomizeSection(sections.At(sections.Selected()).key);
+     }},
+    {"", "Player", "", [](Targets t) { t.randomizer.RandomizeSection("Player"); }},
+    {"", "Weapon", "", [](Targets t) { t.randomizer.RandomizeSection("Weapon"); }},
+    {"", "Enemy", "", [](Targets t) { t.randomizer.RandomizeSection("Enemy"); }},
+    {"", "Misc", "", [](Targets t) { t.randomizer.RandomizeSection("Misc"); }},
+
+    {"Convert", "", "", [](Targets t) { t.convert(); }},
+    {"Colorize", "", "", [](Targets t) { t.applyColourMode(); }},
+    {"ShowTabs", "", "",
+     [](Targets t) { t.settings.ShowSettingsPanel(t.controls.tbToolBar.Pressed("ShowTabs")); }},
+};
+
+const Command* Find(Surface surface, std::string_view key) {
+  if (key.empty()) return nullptr;
+  const auto found = std::ranges::find_if(
+      kCommands, [&](const Command& command) { return command.KeyOn(surface) == key; });
+  return found == std::end(kCommands) ? nullptr : &*found;
 }
 
-Commands::Table PopupItems(const CommandTargets& t, const EditorActions& editor) {
-  return {
-      {"mnuRtbPopupFileOpen", [&d = t.documents] { d.OpenFile(""); }},
-      {"mnuRtbPopupFileClose",
-       [&d = t.documents, &c = t.controls] { d.CloseDocument(CurrentDocIndex(c)); }},
-      {"mnuRtbPopupFileSave", [&d = t.documents] { d.SaveDocument(true); }},
-      {"mnuRtbPopupFileSaveAs", [&d = t.documents] { d.SaveDocument(false); }},
-      {"mnuRtbPopupEditUndo", editor.Undo()},
-      {"mnuRtbPopupEditCut", editor.OnClipboard(Cut)},
-      {"mnuRtbPopupEditCopy", editor.OnClipboard(CopySelection)},
-      {"mnuRtbPopupEditPaste", editor.OnClipboard(Paste)},
-      {"mnuRtbPopupEditDelete", editor.On(DeleteSelection)},
-      {"mnuRtbPopupEditSel", editor.On(SelectAll)},
-      {"mnuRtbPopupToolsUpper", editor.Tool(ToUpperText)},
-      {"mnuRtbPopupToolsLower", editor.Tool(ToLowerText)},
-      {"mnuRtbPopupToolsMremark", editor.Tool(RemarkBlock)},
-      {"mnuRtbPopupToolsRremark", editor.Tool(RemarkLine)},
-      {"mnuRtbPopupToolsUnremark", editor.Tool(UnremarkText)},
-      {"mnuRtbPopupToolsIndent", editor.Tool(IndentText)},
-      {"mnuRtbPopupToolsParameters", [&words = t.words] { words.ParameterInfo(); }},
-      {"mnuRtbPopupFind", [&search = t.search] { search.Find(); }},
-      {"mnuRtbPopupFindNext", [&search = t.search] { search.FindNext(); }},
-  };
+void Run(Surface surface, std::string_view key, Targets targets) {
+  if (const Command* command = Find(surface, key)) command->run(targets);
 }
+
+bool IsTemplate(std::string_view key) { return !TemplateFile(key).empty(); }
 
 }  // namespace
 
-void Commands::Run(const Table& table, std::string_view key) {
-  const auto command = table.find(key);
-  if (command != table.end()) command->second();
+bool IsCommand(Surface surface, std::string_view key) {
+  return Find(surface, key) != nullptr || (surface == Surface::kDropDownItem && IsTemplate(key));
+}
+
+Commands::Commands(const CommandTargets& targets)
+    : targets_(std::make_shared<const CommandTargets>(targets)) {}
+
+void Commands::RunButton(std::string_view key) const { Run(Surface::kButton, key, *targets_); }
+
+void Commands::RunPopupItem(std::string_view name) const {
+  Run(Surface::kPopupItem, name, *targets_);
 }
 
 void Commands::RunButtonMenuItem(std::string_view button, const ButtonMenuItem& item) const {
-  if (button == "FileNew" && item.key.empty()) return openRecent(item.tag);
-  Run(menuItems, item.key);
-}
-
-Commands MakeCommands(const CommandTargets& t) {
-  const EditorActions editor(t.controls, t.services);
-  Commands commands;
-  commands.buttons = Buttons(t, editor);
-  commands.menuItems = MenuItems(t, editor);
-  commands.popupItems = PopupItems(t, editor);
-  commands.openRecent = [&documents = t.documents](const std::string& path) {
-    documents.OpenFile(path);
-  };
-  return commands;
+  if (button == "FileNew" && item.key.empty()) return targets_->documents.OpenFile(item.tag);
+  if (IsTemplate(item.key)) return targets_->documents.NewFromTemplate(item.key);
+  Run(Surface::kDropDownItem, item.key, *targets_);
 }
 
 }  // namespace tessel

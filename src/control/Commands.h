@@ -2,8 +2,7 @@
 #pragma once
 
 #include <functional>
-#include <map>
-#include <string>
+#include <memory>
 #include <string_view>
 
 #include "services/Services.h"
@@ -30,26 +29,28 @@ struct CommandTargets {
   std::function<void()> applyColourMode;
 };
 
-/// Commands by key. Keys are compared exactly; an unknown one does nothing.
+/// Where a person finds a command.
+enum class Surface { kButton, kDropDownItem, kPopupItem };
+
+/// Is there a command of that key on that surface? Keys are compared exactly.
+bool IsCommand(Surface surface, std::string_view key);
+
+/// Runs commands by key; an unknown key does nothing.
 class Commands {
  public:
-  using Table = std::map<std::string, std::function<void()>, std::less<>>;
+  Commands() = default;
+  explicit Commands(const CommandTargets& targets);
 
-  void RunButton(std::string_view key) const { Run(buttons, key); }
-  void RunPopupItem(std::string_view name) const { Run(popupItems, name); }
+  void RunButton(std::string_view key) const;
+  void RunPopupItem(std::string_view name) const;
   /// The item's key decides; an item of "FileNew" without a key is a recent file.
   void RunButtonMenuItem(std::string_view button, const ButtonMenuItem& item) const;
 
-  Table buttons;
-  Table menuItems;
-  Table popupItems;
-  std::function<void(const std::string& path)> openRecent;
-
  private:
-  static void Run(const Table& table, std::string_view key);
+  std::shared_ptr<const CommandTargets> targets_;
 };
 
 /// The targets outlive the commands.
-Commands MakeCommands(const CommandTargets& targets);
+inline Commands MakeCommands(const CommandTargets& targets) { return Commands(targets); }
 
 }  // namespace tessel

@@ -1,82 +1,126 @@
 #include "surface/HostedControls.h"
 
+#include <algorithm>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tessel {
 namespace {
 
-ButtonMenuItem Separator(std::string key = {}) { return {"-", std::move(key), {}}; }
+struct Button {
+  std::string_view key;
+  std::string_view toolTip;
+  ButtonStyle style = ButtonStyle::kButton;
+  bool pressed = false;
+};
+
+constexpr Button kButtons[] = {
+    {"FileNew", "New con file", ButtonStyle::kDropDown},
+    {"FileOpen", "Open con file"},
+    {"FileClose", "Close con file"},
+    {"FileSave", "Save con file"},
+    {"", "", ButtonStyle::kSeparator},
+    {"Cut", "Cut"},
+    {"Copy", "Copy"},
+    {"Paste", "Paste"},
+    {"Find", "Find..."},
+    {"Tools", "Tools", ButtonStyle::kDropDown},
+    {"RandAll", "Randomize all sections"},
+    {"RandSec", "Randomize current section", ButtonStyle::kDropDown},
+    {"Convert", "Convert con to Version 1.5"},
+    {"Colorize", "Colorize code editor", ButtonStyle::kTwoState, true},
+    {"ShowTabs", "Show/Hide Tabs", ButtonStyle::kTwoState, true},
+};
+
+constexpr std::string_view kLine = "-";
+
+struct DropDownItem {
+  std::string_view button;
+  std::string_view text;
+  std::string_view key = {};
+};
+
+constexpr DropDownItem kDropDownItems[] = {
+    {"FileNew", "User.con: 1.3D", "13DU"},
+    {"FileNew", "User.con: 1.4/1.5 ", "15AU"},
+    {"FileNew", kLine},
+    {"FileNew", "Defs.con: 1.3D ", "13DD"},
+    {"FileNew", "Defs.con: 1.4/1.5", "15AD"},
+    {"FileNew", kLine},
+    {"FileNew", "Game.con: 1.3D ", "13DG"},
+    {"FileNew", "Game.con: 1.4/1.5", "15AG"},
+    {"FileNew", kLine},
+    {"Tools", "Comment Block /* */", "CommentBlock"},
+    {"Tools", "Comment Line //", "CommentLine"},
+    {"Tools", "Uppercase Selected Text", "Uppercase"},
+    {"Tools", "Lowercase Selected Text", "Lowercase"},
+    {"Tools", "Indent Selected Text", "Indent"},
+    {"Tools", kLine, "spc2"},
+    {"Tools", "Parameter Info", "Parameter"},
+    {"RandSec", "Randomize Player Items", "Player"},
+    {"RandSec", "Randomize Weapon Items", "Weapon"},
+    {"RandSec", "Randomize Enemy Items", "Enemy"},
+    {"RandSec", "Randomize Misc Items", "Misc"},
+};
+
+struct PopupItem {
+  std::string_view subMenu;  ///< where it stands; empty: in the menu itself
+  std::string_view caption;
+  std::string_view name = {};
+};
+
+// A sub-menu stands in front of its items.
+constexpr PopupItem kPopupItems[] = {
+    {"", "&File...", "mnuRtbPopupFile"},
+    {"mnuRtbPopupFile", "&Open", "mnuRtbPopupFileOpen"},
+    {"mnuRtbPopupFile", "&Close", "mnuRtbPopupFileClose"},
+    {"mnuRtbPopupFile", "&Save", "mnuRtbPopupFileSave"},
+    {"mnuRtbPopupFile", "Save &As...", "mnuRtbPopupFileSaveAs"},
+    {"", "&Edit", "mnuRtbPopupEdit"},
+    {"mnuRtbPopupEdit", "&Undo", "mnuRtbPopupEditUndo"},
+    {"mnuRtbPopupEdit", kLine},
+    {"mnuRtbPopupEdit", "C&ut", "mnuRtbPopupEditCut"},
+    {"mnuRtbPopupEdit", "&Copy", "mnuRtbPopupEditCopy"},
+    {"mnuRtbPopupEdit", "&Paste", "mnuRtbPopupEditPaste"},
+    {"mnuRtbPopupEdit", "&Delete", "mnuRtbPopupEditDelete"},
+    {"mnuRtbPopupEdit", "&Select All", "mnuRtbPopupEditSel"},
+    {"", kLine},
+    {"", "&Tools", "mnuRtbPopupTools"},
+    {"mnuRtbPopupTools", "&Uppercase", "mnuRtbPopupToolsUpper"},
+    {"mnuRtbPopupTools", "&Lowercase", "mnuRtbPopupToolsLower"},
+    {"mnuRtbPopupTools", kLine},
+    {"mnuRtbPopupTools", "Re&mark (/* */)", "mnuRtbPopupToolsMremark"},
+    {"mnuRtbPopupTools", "Remar&k (//)", "mnuRtbPopupToolsRremark"},
+    {"mnuRtbPopupTools", "Remo&ve Remark", "mnuRtbPopupToolsUnremark"},
+    {"mnuRtbPopupTools", "&Indent", "mnuRtbPopupToolsIndent"},
+    {"mnuRtbPopupTools", kLine},
+    {"mnuRtbPopupTools", "&Parameter Info", "mnuRtbPopupToolsParameters"},
+    {"", "&Find...", "mnuRtbPopupFind"},
+    {"", "Find &Next", "mnuRtbPopupFindNext"},
+};
 
 void AddToolbarButtons(Toolbar& toolbar) {
-  using enum ButtonStyle;
-  toolbar.Add({"FileNew",
-               "New con file",
-               kDropDown,
-               {{"User.con: 1.3D", "13DU", {}},
-                {"User.con: 1.4/1.5 ", "15AU", {}},
-                Separator(),
-                {"Defs.con: 1.3D ", "13DD", {}},
-                {"Defs.con: 1.4/1.5", "15AD", {}},
-                Separator(),
-                {"Game.con: 1.3D ", "13DG", {}},
-                {"Game.con: 1.4/1.5", "15AG", {}},
-                Separator()}});
-  toolbar.Add({"FileOpen", "Open con file"});
-  toolbar.Add({"FileClose", "Close con file"});
-  toolbar.Add({"FileSave", "Save con file"});
-  toolbar.Add({"", "", kSeparator});
-  toolbar.Add({"Cut", "Cut"});
-  toolbar.Add({"Copy", "Copy"});
-  toolbar.Add({"Paste", "Paste"});
-  toolbar.Add({"Find", "Find..."});
-  toolbar.Add({"Tools",
-               "Tools",
-               kDropDown,
-               {{"Comment Block /* */", "CommentBlock", {}},
-                {"Comment Line //", "CommentLine", {}},
-                {"Uppercase Selected Text", "Uppercase", {}},
-                {"Lowercase Selected Text", "Lowercase", {}},
-                {"Indent Selected Text", "Indent", {}},
-                Separator("spc2"),
-                {"Parameter Info", "Parameter", {}}}});
-  toolbar.Add({"RandAll", "Randomize all sections"});
-  toolbar.Add({"RandSec",
-               "Randomize current section",
-               kDropDown,
-               {{"Randomize Player Items", "Player", {}},
-                {"Randomize Weapon Items", "Weapon", {}},
-                {"Randomize Enemy Items", "Enemy", {}},
-                {"Randomize Misc Items", "Misc", {}}}});
-  toolbar.Add({"Convert", "Convert con to Version 1.5"});
-  toolbar.Add({"Colorize", "Colorize code editor", kTwoState, {}, true, true});
-  toolbar.Add({"ShowTabs", "Show/Hide Tabs", kTwoState, {}, true, true});
-}
-
-MenuItem Item(std::string name, std::string caption, std::vector<MenuItem> children = {}) {
-  return {std::move(name), std::move(caption), std::move(children)};
+  for (const Button& row : kButtons) {
+    ToolbarButton button = {std::string(row.key), std::string(row.toolTip), row.style};
+    button.pressed = row.pressed;
+    for (const DropDownItem& item : kDropDownItems) {
+      if (item.button == row.key) {
+        button.menu.push_back({std::string(item.text), std::string(item.key), {}});
+      }
+    }
+    toolbar.Add(std::move(button));
+  }
 }
 
 std::vector<MenuItem> EditorPopupItems() {
-  return {
-      Item("mnuRtbPopupFile", "&File...",
-           {Item("mnuRtbPopupFileOpen", "&Open"), Item("mnuRtbPopupFileClose", "&Close"),
-            Item("mnuRtbPopupFileSave", "&Save"), Item("mnuRtbPopupFileSaveAs", "Save &As...")}),
-      Item("mnuRtbPopupEdit", "&Edit",
-           {Item("mnuRtbPopupEditUndo", "&Undo"), Item("", "-"), Item("mnuRtbPopupEditCut", "C&ut"),
-            Item("mnuRtbPopupEditCopy", "&Copy"), Item("mnuRtbPopupEditPaste", "&Paste"),
-            Item("mnuRtbPopupEditDelete", "&Delete"), Item("mnuRtbPopupEditSel", "&Select All")}),
-      Item("", "-"),
-      Item(
-          "mnuRtbPopupTools", "&Tools",
-          {Item("mnuRtbPopupToolsUpper", "&Uppercase"), Item("mnuRtbPopupToolsLower", "&Lowercase"),
-           Item("", "-"), Item("mnuRtbPopupToolsMremark", "Re&mark (/* */)"),
-           Item("mnuRtbPopupToolsRremark", "Remar&k (//)"),
-           Item("mnuRtbPopupToolsUnremark", "Remo&ve Remark"),
-           Item("mnuRtbPopupToolsIndent", "&Indent"), Item("", "-"),
-           Item("mnuRtbPopupToolsParameters", "&Parameter Info")}),
-      Item("mnuRtbPopupFind", "&Find..."),
-      Item("mnuRtbPopupFindNext", "Find &Next"),
-  };
+  std::vector<MenuItem> items;
+  for (const PopupItem& row : kPopupItems) {
+    const auto subMenu = std::ranges::find(items, row.subMenu, &MenuItem::name);
+    (row.subMenu.empty() ? items : subMenu->children)
+        .push_back({std::string(row.name), std::string(row.caption), {}});
+  }
+  return items;
 }
 
 }  // namespace

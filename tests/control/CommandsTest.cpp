@@ -1,4 +1,7 @@
 // The routing of buttons, drop-down items and popup items, and what errors do at its boundary.
+#include <algorithm>
+
+#include "control/Commands.h"
 #include "models/Form.h"
 #include "support/EditorTrace.h"
 #include "support/TesselTest.h"
@@ -16,9 +19,15 @@ class Commands : public TesselTest {
     C().mnuRtbPopup.Choose(item);
     return Document();
   }
-  std::string Tool(const std::string& marked, int item) {
+  void PressItem(const char* button, std::string_view key) {
+    const auto& menu = C().tbToolBar.Find(button)->menu;
+    const auto item = std::ranges::find(menu, key, &ButtonMenuItem::key);
+    ASSERT_NE(item, menu.end()) << key;
+    C().tbToolBar.PressMenuItem(button, static_cast<int>(item - menu.begin()) + 1);
+  }
+  std::string Tool(const std::string& marked, std::string_view key) {
     SetDocument(marked);
-    C().tbToolBar.PressMenuItem("Tools", item);
+    PressItem("Tools", key);
     return Document();
   }
   /// Presses a button that opens the randomizer and returns its form's caption.
@@ -58,12 +67,12 @@ TEST_F(Commands, CutWithNothingSelectedEmptiesTheClipboard) {
 }
 
 TEST_F(Commands, OfTheToolsDropDownChangeTheSelection) {
-  EXPECT_EQ(Tool("a [b] c", 1), "a /* b */\n[] c");
-  EXPECT_EQ(Tool("a [b] c", 2), "a // b[] c");
-  EXPECT_EQ(Tool("a [b] c", 3), "a B[] c");
-  EXPECT_EQ(Tool("a [B] c", 4), "a b[] c");
-  EXPECT_EQ(Tool("a [b] c", 5), "a \tb[] c");
-  EXPECT_EQ(Tool("a [b] c", 6), "a [b] c");
+  EXPECT_EQ(Tool("a [b] c", "CommentBlock"), "a /* b */\n[] c");
+  EXPECT_EQ(Tool("a [b] c", "CommentLine"), "a // b[] c");
+  EXPECT_EQ(Tool("a [b] c", "Uppercase"), "a B[] c");
+  EXPECT_EQ(Tool("a [B] c", "Lowercase"), "a b[] c");
+  EXPECT_EQ(Tool("a [b] c", "Indent"), "a \tb[] c");
+  EXPECT_EQ(Tool("a [b] c", "spc2"), "a [b] c");
 }
 
 TEST_F(Commands, OfTheToolsButtonAreItsFirstItem) {
@@ -74,7 +83,7 @@ TEST_F(Commands, OfTheToolsButtonAreItsFirstItem) {
 
 TEST_F(Commands, ShowParametersFromBothMenus) {
   SetDocument("[]actor X");
-  C().tbToolBar.PressMenuItem("Tools", 7);
+  PressItem("Tools", "Parameter");
   EXPECT_EQ(C().tbsCon.Selected(), 6);
   EXPECT_EQ(C().txtSearch.Text(), "actor");
   SetDocument("actor []state");
@@ -128,6 +137,19 @@ TEST_F(Commands, RandomizeTheSelectedSectionOfAHiddenPanelToo) {
   EXPECT_EQ(Randomizes([&] { C().tbToolBar.Press("RandSec"); }), "Enemy Section Randomizer");
 }
 
+TEST_F(Commands, StandBehindEveryButtonAndItem) {
+  for (const ToolbarButton& button : C().tbToolBar.Buttons()) {
+    if (button.style == ButtonStyle::kSeparator) continue;
+    EXPECT_TRUE(IsCommand(Surface::kButton, button.key)) << button.key;
+    for (const ButtonMenuItem& item : button.menu) {
+      EXPECT_NE(IsCommand(Surface::kDropDownItem, item.key), item.IsSeparator()) << item.key;
+    }
+  }
+  for (const MenuItem* item : C().mnuRtbPopup.Leaves()) {
+    EXPECT_TRUE(IsCommand(Surface::kPopupItem, item->name)) << item->name;
+  }
+}
+
 TEST_F(Commands, OfUnknownKeysDoNothing) {
   C().mnuRtbPopup.Choose("mnurtbpopupfind");
   C().mnuRtbPopup.Choose("");
@@ -144,7 +166,7 @@ TEST_F(Commands, WorkOnTheCurrentDocument) {
   Open("/a.con", "a");
   Open("/b.con", "b");
   C().mnuRtbPopup.Choose("mnuRtbPopupEditSel");
-  C().tbToolBar.PressMenuItem("Tools", 3);
+  PressItem("Tools", "Uppercase");
   EXPECT_EQ(Editor(0).Text(), "a");
   EXPECT_EQ(Editor(1).Text(), "B");
 }
