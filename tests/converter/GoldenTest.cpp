@@ -1,5 +1,5 @@
 // The user template converted, byte for byte, and which of its bytes are red. golden/ holds both:
-// converted-zmuser.con is the text, converted-zmuser.red has each of its lines that is red
+// user-13d.converted.con is the text, user-13d.converted.red has each of its lines that is red
 // anywhere.
 #include <fstream>
 #include <iterator>
@@ -60,12 +60,12 @@ class ConvertedTemplate : public TesselTest {
 };
 
 TEST_F(ConvertedTemplate, IsTheGoldenTextByteForByte) {
-  ASSERT_FALSE(Golden("converted-zmuser.con").empty());
-  EXPECT_EQ(Current().Text(), Golden("converted-zmuser.con"));
+  ASSERT_FALSE(Golden("user-13d.converted.con").empty());
+  EXPECT_EQ(Current().Text(), Golden("user-13d.converted.con"));
 }
 
 TEST_F(ConvertedTemplate, IsRedWhereItWasWrittenAndNowhereElse) {
-  EXPECT_EQ(RedLines(Current()), Golden("converted-zmuser.red"));
+  EXPECT_EQ(RedLines(Current()), Golden("user-13d.converted.red"));
 }
 
 /// The pieces of lines that are not red. Where a line's end was taken out, two lines' breaks meet.
