@@ -9,21 +9,6 @@
 namespace tessel {
 namespace {
 
-struct VersionEdit;
-
-using ApplyEdit = EditOutcome (*)(RichTextBox&, const VersionEdit&);
-
-enum class When { kAlways, kIfEditBeforeFoundItsText };
-
-struct VersionEdit {
-  int step;
-  ApplyEdit apply;
-  std::string_view sought;
-  std::string_view text = {};  ///< what is written, or what is sought inside the found line
-  std::string_view replacement = {};
-  When when = When::kAlways;
-};
-
 // --- The kinds of edits
 
 EditOutcome InsertAfter(RichTextBox& editor, const VersionEdit& edit) {
@@ -108,7 +93,7 @@ EditOutcome ReplaceSteamPitch(RichTextBox& editor, const VersionEdit& edit) {
   return {true, SubstituteInSelection(editor, "0 8192", "1 10240") || changed};
 }
 
-constexpr When kThen = When::kIfEditBeforeFoundItsText;
+constexpr auto kThen = VersionEdit::When::kIfEditBeforeFoundItsText;
 
 // One line an edit; a step of several edits has several lines.
 constexpr VersionEdit kVersionEdits[] = {
@@ -185,6 +170,8 @@ constexpr VersionEdit kVersionEdits[] = {
 };
 
 }  // namespace
+
+std::span<const VersionEdit> VersionEdits() { return kVersionEdits; }
 
 std::vector<StepResult> ApplyVersionEdits(RichTextBox& editor) {
   std::vector<StepResult> results;

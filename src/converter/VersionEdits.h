@@ -1,12 +1,29 @@
 // The edits that turn a user file of the 1.3D dialect into one of the 1.4/1.5 dialect.
 #pragma once
 
+#include <span>
 #include <string_view>
 #include <vector>
 
+#include "converter/EditPrimitives.h"
 #include "models/RichTextBox.h"
 
 namespace tessel {
+
+/// An edit of one step. Most steps are one edit.
+struct VersionEdit {
+  enum class When { kAlways, kIfEditBeforeFoundItsText };
+
+  int step;  ///< from 1
+  EditOutcome (*apply)(RichTextBox&, const VersionEdit&);
+  std::string_view sought;
+  std::string_view text = {};  ///< what is written; with a replacement, what that replaces
+  std::string_view replacement = {};
+  When when = When::kAlways;
+};
+
+/// All edits, in the order in which they are carried out.
+std::span<const VersionEdit> VersionEdits();
 
 /// What one step of a conversion did.
 struct StepResult {
