@@ -20,7 +20,8 @@ void ColorizeDocument(RichTextBox& editor, const std::function<void(const std::s
 
 /// Colours every occurrence of one word in the level-name blue where it is black, or, for "/", the
 /// comments green. Lets pending events run after each occurrence. Neither parks the editor nor
-/// touches its tag.
+/// touches its tag. The rules have it for recolouring a single word; nothing in the control calls
+/// it.
 void ColorizeWord(RichTextBox& editor, std::string_view word, MessageLoop& loop);
 
 }  // namespace tessel

@@ -78,14 +78,6 @@ std::string AsciiLower(std::string_view text) {
   return result;
 }
 
-std::string AsciiUpper(std::string_view text) {
-  std::string result(text);
-  for (char& c : result) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 0x20);
-  }
-  return result;
-}
-
 bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && AsciiLower(a) == AsciiLower(b);
 }

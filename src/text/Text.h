@@ -23,7 +23,6 @@ std::string ToUpperText(std::string_view text);
 
 /// Case of ASCII letters alone: keys, file names, captions.
 std::string AsciiLower(std::string_view text);
-std::string AsciiUpper(std::string_view text);
 bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b);
 
 /// The text with each of its line breaks (CR LF, LF, CR) written as CR LF.

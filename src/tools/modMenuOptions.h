@@ -1,5 +1,5 @@
 // The text tools: what becomes of the selected text. ToUpperText and ToLowerText stand in
-// platform/Text.h.
+// text/Text.h.
 #pragma once
 
 #include <string>

@@ -59,7 +59,6 @@ TEST(Case, IsUndoneByTheOtherDirectionForEveryByte) {
 
 TEST(Case, OfAsciiTouchesNothingElse) {
   EXPECT_EQ(AsciiLower("ABC\xC4[@"), "abc\xC4[@");
-  EXPECT_EQ(AsciiUpper("abc\xE4{`"), "ABC\xE4{`");
   EXPECT_TRUE(EqualIgnoringAsciiCase("ConWords", "CONWORDS"));
   EXPECT_FALSE(EqualIgnoringAsciiCase("\xC4", "\xE4"));
   EXPECT_FALSE(EqualIgnoringAsciiCase("a", "ab"));
