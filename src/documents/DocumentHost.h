@@ -1,6 +1,7 @@
 // What the program around the control may say before files are opened and saved.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "surface/Document.h"
@@ -12,9 +13,10 @@ namespace tessel {
 class DocumentHost {
  public:
   virtual ~DocumentHost() = default;
-  /// A file is about to be opened, or its tab to be selected where it is open. False: the host has
-  /// seen to it, and nothing more happens.
-  virtual bool BeforeOpening(const std::string& path) = 0;
+  /// A file is about to be opened, or its tab to be selected where it is open. Returns the path to
+  /// go on with: this one, or another spelling of it. Nothing: the host has seen to it, and the
+  /// command ends.
+  virtual std::optional<std::string> BeforeOpening(const std::string& path) = 0;
   /// The document is about to be written to that path. False: nothing is written, and the document
   /// stays as it is, as after a cancelled dialog.
   virtual bool BeforeSaving(const Document& document, const std::string& path) = 0;
@@ -23,7 +25,7 @@ class DocumentHost {
 /// Says yes to everything.
 class SilentHost : public DocumentHost {
  public:
-  bool BeforeOpening(const std::string&) override { return true; }
+  std::optional<std::string> BeforeOpening(const std::string& path) override { return path; }
   bool BeforeSaving(const Document&, const std::string&) override { return true; }
 };
 

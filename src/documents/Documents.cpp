@@ -100,9 +100,11 @@ void Documents::NewFromTemplate(const std::string& code) {
   uses_.list.Loaded.Raise(document);
 }
 
-void Documents::OpenFile(const std::string& path) {
-  if (path.empty()) return OpenWithDialog();
-  if (!uses_.host.BeforeOpening(path)) return;
+void Documents::OpenFile(const std::string& named) {
+  if (named.empty()) return OpenWithDialog();
+  const auto answer = uses_.host.BeforeOpening(named);
+  if (!answer) return;
+  const std::string& path = *answer;
   if (ReportMissing(path)) return;
 
   const std::string name = NameOfPath(path, uses_.files.Separator());

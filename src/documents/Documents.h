@@ -38,7 +38,7 @@ class Documents {
   /// Makes an "Untitled" document from the template for the code. An unknown code names no file.
   void NewFromTemplate(const std::string& code);
   /// Opens a file, or selects its tab when the same path is open. An empty path shows the dialog.
-  void OpenFile(const std::string& path);
+  void OpenFile(const std::string& named);
   void OpenWithDialog();
   /// Saves the current document. The save dialog is shown unless `inPlace` is true and the document
   /// has a path of its own.

@@ -15,11 +15,11 @@ constexpr int kSettleMilliseconds = 200;
 
 }  // namespace
 
-ChangeNotice::ChangeNotice(TesselWidget& control, GuardedFiles& files, MessageBox& messages,
+ChangeNotice::ChangeNotice(TesselWidget& control, DocumentGuard& guard, MessageBox& messages,
                            KeepText keepText, QWidget* parent)
     : QFrame(parent),
       control_(control),
-      files_(files),
+      guard_(guard),
       messages_(messages),
       keepText_(std::move(keepText)),
       text_(new QLabel(this)),
@@ -49,9 +49,7 @@ ChangeNotice::ChangeNotice(TesselWidget& control, GuardedFiles& files, MessageBo
   connect(keep_, &QPushButton::clicked, this, &ChangeNotice::KeepMine);
 }
 
-std::string ChangeNotice::CurrentPath() const {
-  return control_.Tessel().OpenDocuments().Current().Path();
-}
+Document ChangeNotice::Current() const { return control_.Tessel().OpenDocuments().Current(); }
 
 void ChangeNotice::WatchOpenFiles() {
   QStringList paths;
@@ -70,11 +68,11 @@ void ChangeNotice::WatchOpenFiles() {
 
 void ChangeNotice::Check() {
   WatchOpenFiles();
-  const std::string path = CurrentPath();
-  const bool changed = !path.empty() && files_.ChangedByOthers(path);
+  const std::string path = Current().Path();
+  const bool changed = guard_.ChangedByOthers(Current());
   if (changed) {
     const bool gone = !DiskStateOf(path).exists;
-    const QString name = ShownName(NameOfPath(path, files_.Separator()));
+    const QString name = ShownName(NameOfPath(path, '/'));
     text_->setText(gone ? tr("%1 is gone from the disk. The text is still here.").arg(name)
                         : tr("%1 has been changed by another program.").arg(name));
     reload_->setVisible(!gone);
@@ -83,10 +81,10 @@ void ChangeNotice::Check() {
 }
 
 bool ChangeNotice::MayDropChanges() {
-  const Document document = control_.Tessel().OpenDocuments().Current();
+  const Document document = Current();
   if (!document.Modified()) return true;
   const MessageAnswer answer = messages_.Show(
-      "Reload " + NameOfPath(document.Path(), files_.Separator()) +
+      "Reload " + NameOfPath(document.Path(), '/') +
           " and drop your changes?\nYour text is kept among the backups (File > Backups).",
       MessageIcon::kQuestion, kProgramTitle, MessageButtons::kYesNo);
   return answer == MessageAnswer::kYes && keepText_(document.Path(), document.Editor().Bytes());
@@ -99,7 +97,7 @@ void ChangeNotice::Reload() {
 }
 
 void ChangeNotice::KeepMine() {
-  files_.Accept(CurrentPath());
+  guard_.Accept(Current());
   Check();
 }
 

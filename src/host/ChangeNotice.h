@@ -10,8 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "host/DocumentGuard.h"
 #include "qt/TesselWidget.h"
-#include "safekeeping/DiskState.h"
 
 namespace tessel {
 
@@ -26,7 +26,7 @@ class ChangeNotice : public QFrame {
   /// Keeps a text as a backup of the file at the path; false, with the reason told, when it cannot.
   using KeepText = std::function<bool(const std::string& path, std::string_view text)>;
 
-  ChangeNotice(TesselWidget& control, GuardedFiles& files, MessageBox& messages, KeepText keepText,
+  ChangeNotice(TesselWidget& control, DocumentGuard& guard, MessageBox& messages, KeepText keepText,
                QWidget* parent);
 
   /// Looks at the current document's file now.
@@ -34,13 +34,13 @@ class ChangeNotice : public QFrame {
 
  private:
   void WatchOpenFiles();
-  std::string CurrentPath() const;
+  Document Current() const;
   void Reload();
   bool MayDropChanges();
   void KeepMine();
 
   TesselWidget& control_;
-  GuardedFiles& files_;
+  DocumentGuard& guard_;
   MessageBox& messages_;
   KeepText keepText_;
   QFileSystemWatcher watcher_;

@@ -61,12 +61,30 @@ CaretPlace PlaceOfCaret(const ScintillaView& view) {
   return {line + 1, characters + 1};
 }
 
+Services With(const Services& s, FileDialogs& dialogs) {
+  return {.messages = s.messages,
+          .fileDialogs = dialogs,
+          .forms = s.forms,
+          .clipboard = s.clipboard,
+          .settings = s.settings,
+          .pointer = s.pointer,
+          .files = s.files,
+          .random = s.random,
+          .focus = s.focus,
+          .loop = s.loop,
+          .hostDirectory = s.hostDirectory};
+}
+
 }  // namespace
 
 MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
-    : control_(new TesselWidget(services, widgets, this, {.dialogHoldsDocument = true})),
+    : dialogs_(services.fileDialogs),
+      guard_(files, services.messages),
+      control_(new TesselWidget(With(services, dialogs_), widgets, this,
+                                {.dialogHoldsDocument = true, .host = &guard_})),
       files_(files),
       messages_(services.messages) {
+  guard_.Watch(control_->Tessel().OpenDocuments());
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
@@ -74,7 +92,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   const auto keepText = [this](const std::string& path, std::string_view text) {
     return KeepAsBackup(path, text);
   };
-  column->addWidget(new ChangeNotice(*control_, files, messages_, keepText, centre));
+  column->addWidget(new ChangeNotice(*control_, guard_, messages_, keepText, centre));
   column->addWidget(control_, 1);
   setCentralWidget(centre);
   setAcceptDrops(true);

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "host/DocumentGuard.h"
+#include "host/HostFileDialogs.h"
 #include "host/MainMenu.h"
 #include "host/OrphanedText.h"
 #include "qt/TesselWidget.h"
@@ -60,6 +62,8 @@ class MainWindow : public QMainWindow {
   void ShowCaret();
   void SaveLook();
 
+  HostFileDialogs dialogs_;
+  DocumentGuard guard_;
   TesselWidget* control_;
   OrphanedText orphans_{control_->Tessel()};
   GuardedFiles& files_;

@@ -24,9 +24,14 @@ constexpr int kBadArguments = 2;
 QString ToQt(const char* argument) { return QString::fromLatin1(argument); }
 std::string Bytes(const QString& argument) { return argument.toLatin1().toStdString(); }
 
+/// ".." stays: behind a link it leads elsewhere than the text of the path says.
 std::string Absolute(const std::string& path) {
   std::error_code ignored;
-  return fs::absolute(path, ignored).lexically_normal().string();
+  fs::path absolute;
+  for (const fs::path& part : fs::absolute(path, ignored)) {
+    if (part != ".") absolute /= part;
+  }
+  return absolute.string();
 }
 
 /// Two to four digits, the first of them not 0; otherwise nothing.

@@ -47,13 +47,23 @@ std::string GuardedFiles::Read(const std::string& path) {
 
 void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
-  if (ChangedByOthers(path) && DiskStateOf(path).exists && files_.Read(path) != bytes) {
-    throw RuntimeError(NameOfPath(path, Separator()) +
-                       " has not been saved: another program has changed the file since it was "
-                       "opened. Choose Reload or Keep Mine above the text first.");
-  }
+  if (const auto known = Known(path)) RefuseIfChanged(path, *known, bytes);
   files_.Write(path, bytes);
   Accept(path);
+}
+
+void GuardedFiles::RefuseIfChanged(const std::string& path, const DiskState& then,
+                                   std::string_view bytes) {
+  const DiskState now = DiskStateOf(path);
+  if (now == then || !now.exists || files_.Read(path) == bytes) return;
+  throw RuntimeError(NameOfPath(path, Separator()) +
+                     " has not been saved: another program has changed the file since it was "
+                     "opened. Choose Reload or Keep Mine above the text first.");
+}
+
+std::optional<DiskState> GuardedFiles::Known(const std::string& path) const {
+  const auto known = known_.find(path);
+  return known == known_.end() ? std::nullopt : std::optional(known->second);
 }
 
 void GuardedFiles::SetAttributesNormal(const std::string& path) {

@@ -45,6 +45,10 @@ class GuardedFiles : public Files {
     tellLongWork_ = std::move(tell);
   }
 
+  /// What the file looked like when it was last read, written or accepted here.
+  std::optional<DiskState> Known(const std::string& path) const;
+  /// Throws the RuntimeError of Write when the file is not as it was then, and holds other bytes.
+  void RefuseIfChanged(const std::string& path, const DiskState& then, std::string_view bytes);
   /// True when the file was read or written here and is another one now.
   bool ChangedByOthers(const std::string& path) const;
   /// Takes the file as it is now: it may be written over.

@@ -355,6 +355,7 @@ TEST_F(Safekeeping, ASaveThatHitTheWrongFileCanBePutRight) {
   Run().window->OpenFiles({game_, user_});
   Run().Editor(1).Type("2 ");
   Run().fakes.fileDialogs.answers = {{{game_}}};
+  Run().fakes.messages.answers = {MessageAnswer::kYes};
   Run().Controls().tbToolBar.Press("FileSave");
   ASSERT_EQ(BytesOf(game_), "2 define A 1\r\n");
   OpenBackups();

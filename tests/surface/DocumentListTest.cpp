@@ -164,9 +164,12 @@ class AnsweringHost : public DocumentHost {
   bool answer = true;
   std::vector<std::string> asked;
 
-  bool BeforeOpening(const std::string& path) override {
+  std::optional<std::string> otherSpelling;
+
+  std::optional<std::string> BeforeOpening(const std::string& path) override {
     asked.push_back("open " + path);
-    return answer;
+    if (!answer) return std::nullopt;
+    return otherSpelling.value_or(path);
   }
   bool BeforeSaving(const tessel::Document& document, const std::string& path) override {
     asked.push_back("save " + document.Path() + " to " + path);
@@ -198,6 +201,12 @@ TEST_F(Host, KeepsAFileFromBeingOpened) {
   control_.OpenFile("/a.con");
   EXPECT_TRUE(control_.OpenDocuments().Current().IsFree());
   EXPECT_THAT(world_.messages.shown, IsEmpty());
+}
+
+TEST_F(Host, GivesAFileAnotherSpelling) {
+  host_.otherSpelling = "/a.con";
+  control_.OpenFile("/A.CON");
+  EXPECT_EQ(control_.OpenDocuments().Current().Path(), "/a.con");
 }
 
 TEST_F(Host, IsAskedForEachFileOfADialogButNotForTheDialog) {

@@ -1,0 +1,113 @@
+#include "host/DocumentGuard.h"
+
+#include <sys/stat.h>
+
+#include <QDateTime>
+#include <QLocale>
+#include <utility>
+
+#include "posix/PathResolution.h"
+#include "posix/Posix.h"
+#include "services/Paths.h"
+
+namespace tessel {
+namespace {
+
+bool SameFile(const DiskState& a, const DiskState& b) {
+  return a.exists && b.exists && a.device == b.device && a.number == b.number;
+}
+
+std::string Size(long long bytes) {
+  return QLocale().toString(bytes).toStdString() + (bytes == 1 ? " byte" : " bytes");
+}
+
+std::string Time(const DiskState& state) {
+  return QLocale()
+      .toString(QDateTime::fromSecsSinceEpoch(state.seconds), QLocale::ShortFormat)
+      .toStdString();
+}
+
+bool IsReadOnly(const std::string& path) {
+  const auto status = posix::StatusOf(posix::ResolveIgnoringCase(path));
+  return status && (status->st_mode & S_IWUSR) == 0;
+}
+
+}  // namespace
+
+void DocumentGuard::Watch(DocumentList& documents) {
+  documents_ = &documents;
+  const auto renew = [this](const Document& document) { Renew(document); };
+  subscriptions_ = {
+      documents.Loaded.Connect(renew),
+      documents.Saved.Connect(renew),
+      documents.AboutToDrop.Connect(
+          [this](const Document& document) { At(document.Place()).reset(); }),
+      documents.Moved.Connect(
+          [this](Slot from, Slot to) { At(to) = std::exchange(At(from), std::nullopt); }),
+  };
+}
+
+DocumentGuard::Record& DocumentGuard::At(Slot slot) {
+  const auto index = static_cast<std::size_t>(Index(slot));
+  if (index >= records_.size()) records_.resize(index + 1);
+  return records_[index];
+}
+
+/// What the file looked like just before it was read, or just after it was written.
+void DocumentGuard::Renew(const Document& document) {
+  const std::string path = document.Path();
+  At(document.Place()) = path.empty() ? std::nullopt : files_.Known(path);
+}
+
+std::optional<Document> DocumentGuard::OtherWith(const DiskState& file,
+                                                 const Document* besides) const {
+  for (const Document& document : documents_->All()) {
+    const std::string path = document.Path();
+    const bool other = besides == nullptr || document != *besides;
+    if (other && !path.empty() && SameFile(DiskStateOf(path), file)) return document;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> DocumentGuard::BeforeOpening(const std::string& path) {
+  const auto open = OtherWith(DiskStateOf(path), nullptr);
+  if (!open) return path;
+  documents_->Select(open->Place());
+  return std::nullopt;
+}
+
+bool DocumentGuard::Agrees(const std::string& question) {
+  return messages_.Show(question, MessageIcon::kExclamation, kProgramTitle,
+                        MessageButtons::kYesNo) == MessageAnswer::kYes;
+}
+
+bool DocumentGuard::BeforeSaving(const Document& document, const std::string& path) {
+  const DiskState now = DiskStateOf(path);
+  if (!now.exists) return true;
+  const std::string name = NameOfPath(path, files_.Separator());
+  const Record& own = At(document.Place());
+  const bool itsOwn = document.HasPath(path) && own.has_value();
+  if (itsOwn) files_.RefuseIfChanged(path, *own, document.Editor().Bytes());
+  if (const auto other = OtherWith(now, &document)) {
+    return Agrees(name + " is open in another tab. Write this document over its file?");
+  }
+  if (!itsOwn && !(own && SameFile(*own, now))) {
+    return Agrees(name + " already exists (" + Size(now.size) + ", changed " + Time(now) +
+                  ").\nReplace it with this document (" + Size(document.Editor().Length()) + ")?");
+  }
+  return !IsReadOnly(path) ||
+         Agrees(name + " is read-only. Write over it all the same, and clear that?");
+}
+
+bool DocumentGuard::ChangedByOthers(const Document& document) const {
+  const auto index = static_cast<std::size_t>(Index(document.Place()));
+  if (index >= records_.size() || !records_[index]) return false;
+  return *records_[index] != DiskStateOf(document.Path());
+}
+
+void DocumentGuard::Accept(const Document& document) {
+  files_.Accept(document.Path());
+  Renew(document);
+}
+
+}  // namespace tessel

@@ -1,0 +1,125 @@
+// No document is written over a file that is not its own without a question.
+#include <sys/stat.h>
+
+#include <QTest>
+
+#include "HostFixture.h"
+#include "host/ChangeNotice.h"
+#include "host/DocumentGuard.h"
+
+namespace tessel::test {
+namespace {
+
+class Guard : public HostTest {
+ protected:
+  void SaveAs(const std::string& path) {
+    Run().fakes.fileDialogs.answers = {{{path}}};
+    Run().Controls().tbToolBar.Press("FileSave");
+  }
+  std::vector<std::string> Asked() {
+    std::vector<std::string> texts;
+    for (const auto& box : Run().fakes.messages.shown) texts.push_back(box.text);
+    return texts;
+  }
+  bool AskedFor(const std::string& part) {
+    return Asked().size() == 1 && Asked()[0].find(part) != std::string::npos;
+  }
+  void Answer(MessageAnswer answer) { Run().fakes.messages.answers = {answer}; }
+  DocumentList& Documents() { return Run().window->Control().Tessel().OpenDocuments(); }
+
+  std::string user_ = directory_.Put("user.con", "define A 1\r\n");
+  std::string game_ = directory_.Put("game.con", "define G 1\r\n");
+};
+
+TEST_F(Guard, ADocumentIsSavedIntoItsOwnFileWithoutAQuestion) {
+  Run().window->OpenFiles({user_});
+  for (const char* text : {"1 ", "2 "}) {
+    Run().Editor(0).Type(text);
+    Run().SaveInPlace();
+  }
+  SaveAs(user_);
+  EXPECT_TRUE(Asked().empty());
+  EXPECT_EQ(BytesOf(user_), "1 2 define A 1\r\n");
+}
+
+TEST_F(Guard, ASaveOverAnotherFileIsAskedAboutWithSizesAndTime) {
+  Run().window->OpenFiles({user_});
+  SaveAs(game_);
+  ASSERT_TRUE(AskedFor("game.con already exists (12 bytes, changed "));
+  EXPECT_NE(Asked()[0].find("with this document (12 bytes)?"), std::string::npos);
+  EXPECT_EQ(BytesOf(game_), "define G 1\r\n");
+  EXPECT_EQ(Documents().Current().Path(), user_) << "as after a cancelled dialog";
+  Answer(MessageAnswer::kYes);
+  SaveAs(game_);
+  EXPECT_EQ(BytesOf(game_), "define A 1\r\n");
+  EXPECT_EQ(Documents().Current().Path(), game_);
+}
+
+TEST_F(Guard, ASaveToANewNameIsNotAskedAbout) {
+  Run().window->OpenFiles({user_});
+  SaveAs(directory_ / "new.con");
+  EXPECT_TRUE(Asked().empty());
+  EXPECT_EQ(BytesOf(directory_ / "new.con"), "define A 1\r\n");
+}
+
+TEST_F(Guard, ASaveOverTheFileOfAnotherTabIsAskedAbout) {
+  Run().window->OpenFiles({user_, game_});
+  SaveAs(user_);
+  EXPECT_TRUE(AskedFor("user.con is open in another tab"));
+  EXPECT_EQ(BytesOf(user_), "define A 1\r\n");
+}
+
+TEST_F(Guard, TheOtherTabSeesThatItsFileWasReplaced) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Editor(1).Type("longer ");
+  Answer(MessageAnswer::kYes);
+  SaveAs(user_);
+  ASSERT_EQ(BytesOf(user_), "longer define G 1\r\n");
+  Run().Tabs().Select(1);
+  Run().Editor(0).Type("mine ");
+  Run().fakes.messages.shown.clear();
+  Run().SaveInPlace();
+  EXPECT_TRUE(AskedFor("has not been saved"));
+  EXPECT_EQ(BytesOf(user_), "longer define G 1\r\n");
+}
+
+TEST_F(Guard, AReadOnlyFileIsAskedAbout) {
+  ::chmod(user_.c_str(), 0444);
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("1 ");
+  Run().SaveInPlace();
+  EXPECT_TRUE(AskedFor("user.con is read-only"));
+  EXPECT_EQ(BytesOf(user_), "define A 1\r\n");
+  EXPECT_EQ(ModeOf(user_), 0444U);
+  Answer(MessageAnswer::kYes);
+  Run().SaveInPlace();
+  EXPECT_EQ(BytesOf(user_), "1 define A 1\r\n");
+}
+
+TEST_F(Guard, AFileThatIsOpenIsShownWhateverTheSpellingOfItsPath) {
+  std::filesystem::create_directory(directory_ / "sub");
+  std::filesystem::create_symlink(user_, directory_ / "link.con");
+  std::filesystem::create_hard_link(user_, directory_ / "second.con");
+  Run().window->OpenFiles({user_, game_});
+  for (const char* spelling : {"sub/../user.con", "USER.CON", "link.con", "second.con"}) {
+    Run().Tabs().Select(2);
+    Run().window->OpenFiles({directory_ / spelling});
+    EXPECT_EQ(Run().Tabs().Count(), 2) << spelling;
+    EXPECT_EQ(Run().Tabs().Selected(), 1) << spelling;
+  }
+}
+
+TEST_F(Guard, RecordsMoveWithTheirDocuments) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  Run().Controls().tbToolBar.Press("FileClose");
+  ASSERT_EQ(Documents().Current().Path(), game_);
+  directory_.Put("game.con", "theirs, and longer");
+  Run().Editor(0).Type("mine ");
+  Run().SaveInPlace();
+  EXPECT_TRUE(AskedFor("has not been saved"));
+  EXPECT_EQ(BytesOf(game_), "theirs, and longer");
+}
+
+}  // namespace
+}  // namespace tessel::test
