@@ -36,6 +36,7 @@ bool IsReadOnly(const std::string& path) {
 
 void DocumentGuard::Watch(DocumentList& documents) {
   documents_ = &documents;
+  realPaths_.Watch(documents);
   const auto renew = [this](const Document& document) { Renew(document); };
   subscriptions_ = {
       documents.Loaded.Connect(renew),
@@ -70,9 +71,21 @@ std::optional<Document> DocumentGuard::OtherWith(const DiskState& file,
 }
 
 std::optional<std::string> DocumentGuard::BeforeOpening(const std::string& path) {
-  const auto open = OtherWith(DiskStateOf(path), nullptr);
-  if (!open) return path;
+  const auto meant = SpellingMeantBy(path);
+  if (!meant) return std::nullopt;
+  const auto open = OtherWith(DiskStateOf(*meant), nullptr);
+  if (!open) return meant;
   documents_->Select(open->Place());
+  return std::nullopt;
+}
+
+std::optional<std::string> DocumentGuard::SpellingMeantBy(const std::string& path) {
+  const std::vector<std::string> candidates = realPaths_.Candidates(path);
+  if (candidates.empty()) return path;  // the control says that it is not there
+  if (candidates.size() == 1) return candidates.front();
+  for (const std::string& candidate : candidates) {
+    if (Agrees(path + " is not there. Open " + candidate + "?")) return candidate;
+  }
   return std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "documents/DocumentHost.h"
+#include "host/RealPaths.h"
 #include "safekeeping/DiskState.h"
 #include "services/Services.h"
 #include "surface/DocumentList.h"
@@ -18,8 +19,9 @@ namespace tessel {
 /// tab shows, or that is read-only.
 class DocumentGuard : public DocumentHost {
  public:
-  /// Both outlive this.
-  DocumentGuard(GuardedFiles& files, MessageBox& messages) : files_(files), messages_(messages) {}
+  /// All of them outlive this.
+  DocumentGuard(GuardedFiles& files, MessageBox& messages, SettingsStore& settings)
+      : files_(files), messages_(messages), realPaths_(settings) {}
 
   /// The documents of the control whose host this is.
   void Watch(DocumentList& documents);
@@ -39,9 +41,11 @@ class DocumentGuard : public DocumentHost {
   void Renew(const Document& document);
   std::optional<Document> OtherWith(const DiskState& file, const Document* besides) const;
   bool Agrees(const std::string& question);
+  std::optional<std::string> SpellingMeantBy(const std::string& path);
 
   GuardedFiles& files_;
   MessageBox& messages_;
+  RealPaths realPaths_;
   DocumentList* documents_ = nullptr;
   std::vector<Record> records_;  // by slot; nothing for a document without a file
   std::vector<Subscription> subscriptions_;

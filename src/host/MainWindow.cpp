@@ -79,7 +79,7 @@ Services With(const Services& s, FileDialogs& dialogs) {
 
 MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
     : dialogs_(services.fileDialogs),
-      guard_(files, services.messages),
+      guard_(files, services.messages, services.settings),
       control_(new TesselWidget(With(services, dialogs_), widgets, this,
                                 {.dialogHoldsDocument = true, .host = &guard_})),
       files_(files),

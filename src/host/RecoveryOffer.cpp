@@ -10,6 +10,7 @@
 
 #include "host/RestoredText.h"
 #include "qt/base/QtText.h"
+#include "safekeeping/DiskState.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -17,11 +18,14 @@ namespace {
 
 constexpr std::size_t kMostNamed = 4;
 
+QString TimeOf(long long seconds) {
+  return QLocale().toString(QDateTime::fromSecsSinceEpoch(seconds), QLocale::ShortFormat);
+}
+
 QString Named(const KeptText& text, char separator) {
   const QString name =
       text.path.empty() ? QString(kUntitled) : ShownName(NameOfPath(text.path, separator));
-  const QString time =
-      QLocale().toString(QDateTime::fromSecsSinceEpoch(text.seconds), QLocale::ShortFormat);
+  const QString time = TimeOf(text.seconds);
   const QString form =
       text.damaged ? QObject::tr("what is left of %1 (%2)") : QObject::tr("%1 (%2)");
   return form.arg(name.simplified(), time);
@@ -78,13 +82,27 @@ QString RecoveryOffer::Sentence() const {
   return tr("Text that was not saved when the program ended: %1.").arg(names.join(", "));
 }
 
+/// The text may be older than what is in the file now.
+bool RecoveryOffer::MayGoOverItsFile(const KeptText& text) {
+  const DiskState file = DiskStateOf(text.path);
+  if (text.path.empty() || !file.exists || file.seconds <= text.seconds) return true;
+  const QString question =
+      tr("%1 was changed at %2, after the unsaved text was kept at %3.\n"
+         "Show the older text as a change of the file? \"No\" shows it as a document of its own.")
+          .arg(ShownName(NameOfPath(text.path, files_.Separator())), TimeOf(file.seconds),
+               TimeOf(text.seconds));
+  return messages_.Show(question.toStdString(), MessageIcon::kQuestion, kProgramTitle,
+                        MessageButtons::kYesNo) == MessageAnswer::kYes;
+}
+
 void RecoveryOffer::Recover() {
   if (tessel_.Running()) return;
   hide();
   bool allShown = true;
   const auto& texts = texts_->Texts();
   for (auto text = texts.begin(); text != texts.end(); ++text) {
-    const std::string path = TakesItsDocument(*text, {text + 1, texts.end()}) ? text->path : "";
+    const bool takes = TakesItsDocument(*text, {text + 1, texts.end()}) && MayGoOverItsFile(*text);
+    const std::string path = takes ? text->path : "";
     allShown = ShowRestoredText(tessel_, files_, path, text->bytes) && allShown;
   }
   if (keepNow_() && allShown) texts_->Discard();

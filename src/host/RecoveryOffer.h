@@ -27,6 +27,7 @@ class RecoveryOffer : public QFrame {
 
  private:
   void Recover();
+  bool MayGoOverItsFile(const KeptText& text);
   void Discard();
   void Later();
   QString Sentence() const;

@@ -6,6 +6,7 @@
 #include "HostFixture.h"
 #include "host/ChangeNotice.h"
 #include "host/DocumentGuard.h"
+#include "text/Text.h"
 
 namespace tessel::test {
 namespace {
@@ -107,6 +108,34 @@ TEST_F(Guard, AFileThatIsOpenIsShownWhateverTheSpellingOfItsPath) {
     EXPECT_EQ(Run().Tabs().Count(), 2) << spelling;
     EXPECT_EQ(Run().Tabs().Selected(), 1) << spelling;
   }
+}
+
+TEST_F(Guard, ARecentFileIsTheOneThatWasOpenedNotOneOfAnotherCase) {
+  directory_.Put("Mods/User.con", "the other");
+  const std::string mine = directory_.Put("mods/user.con", "mine");
+  Run().window->OpenFiles({mine});
+  Run().Controls().tbToolBar.Press("FileClose");
+  Run().window->OpenFiles({ToUpperText(mine)});
+  EXPECT_EQ(Run().Editor(0).Text(), "mine");
+  EXPECT_EQ(Documents().Current().Path(), mine);
+}
+
+TEST_F(Guard, WhereSeveralFilesMayBeMeantItAsks) {
+  const std::string first = directory_.Put("Mods/User.con", "first");
+  const std::string second = directory_.Put("mods/user.con", "second");
+  Run().fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kNo};
+  Run().window->OpenFiles({directory_ / "MODS/USER.CON"});
+  EXPECT_TRUE(Documents().Current().IsFree());
+  Run().fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kYes};
+  Run().window->OpenFiles({directory_ / "MODS/USER.CON"});
+  EXPECT_EQ(Asked().size(), 4U);
+  EXPECT_EQ(Documents().Current().Path(), second);
+}
+
+TEST_F(Guard, OneFileOfAnotherSpellingIsOpenedByItsOwnPath) {
+  Run().window->OpenFiles({directory_ / "USER.CON"});
+  EXPECT_EQ(Documents().Current().Path(), user_);
+  EXPECT_TRUE(Asked().empty());
 }
 
 TEST_F(Guard, RecordsMoveWithTheirDocuments) {

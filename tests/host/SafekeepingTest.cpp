@@ -1,4 +1,5 @@
 // What the window does so that nothing is lost: backups, recovery, the documents of the last run.
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <QLabel>
@@ -279,6 +280,22 @@ TEST_F(Safekeeping, RecoveringTouchesNoDocumentWithChangesOfItsOwn) {
   ASSERT_EQ(Run().Tabs().Count(), 2);
   EXPECT_EQ(Run().Editor(0).Text(), "new define A 1\r\n");
   EXPECT_EQ(Run().Editor(1).Text(), "old define A 1\r\n");
+}
+
+TEST_F(Safekeeping, RecoveringOverANewerFileIsAskedAbout) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("mine ");
+  KeepNow();
+  Restart();
+  directory_.Put("user.con", "newer");
+  const timespec later[2] = {{0, UTIME_OMIT}, {::time(nullptr) + 60, 0}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, user_.c_str(), later, 0), 0);
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  Run().Press<RecoveryOffer>("&Recover");
+  ASSERT_EQ(Run().fakes.messages.shown.size(), 1U);
+  EXPECT_NE(Run().fakes.messages.shown[0].text.find("user.con was changed at"), std::string::npos);
+  EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
+  EXPECT_EQ(Run().Editor(0).Text(), "mine define A 1\r\n");
 }
 
 TEST_F(Safekeeping, LaterAsksAgainAtTheNextStart) {
