@@ -13,16 +13,14 @@
 namespace tessel {
 namespace {
 
-/// A document that there is no room for counts as a file that cannot be read.
-std::string ReadDocument(Files& files, const std::string& path) {
-  std::string bytes = files.Read(path);
+/// Before anything is switched: a file that cannot be read, or that there is no room for, opens
+/// nothing.
+PreparedText ReadDocument(Files& files, const std::string& path) {
   try {
-    // The editor keeps a colour for each byte. Better known before anything is switched.
-    ::operator delete(::operator new(bytes.size()));
+    return files.Read(path);
   } catch (const std::bad_alloc&) {
     throw RuntimeError("Cannot open " + path + ": Cannot allocate memory.");
   }
-  return bytes;
 }
 
 }  // namespace
@@ -86,12 +84,11 @@ void Documents::NewFromTemplate(const std::string& code) {
                                               BackslashIfNeeded(uses_.hostDirectory, separator) +
                                               std::string(file);
   if (ReportMissing(path)) return;
-  // First: a file that cannot be read opens nothing.
-  std::string bytes = ReadDocument(uses_.files, path);
+  PreparedText text = ReadDocument(uses_.files, path);
 
   const Document document = PrepareSlot(kUntitled);
   document.BecomeUntitled();
-  document.Editor().LoadFile(path, std::move(bytes));
+  document.Editor().LoadFile(path, std::move(text));
   {
     const Parked parked(document.Editor(), Parked::Left::kParked);
     uses_.applyColourMode();  // of the document that is still the current one
@@ -113,14 +110,13 @@ void Documents::OpenFile(const std::string& named) {
       return uses_.list.Select(open.Place());
     }
   }
-  // First: a file that cannot be read opens nothing.
-  std::string bytes = ReadDocument(uses_.files, path);
+  PreparedText text = ReadDocument(uses_.files, path);
 
   const Document document = PrepareSlot(name);
   document.BelongTo(path, name);
   {
     const Parked parked(document.Editor(), Parked::Left::kParked);
-    document.Editor().LoadFile(path, std::move(bytes));
+    document.Editor().LoadFile(path, std::move(text));
     SetColourMode(document.Editor(), ColourMode::kPlain);
     uses_.applyColourMode();  // of the document that is still the current one
     AddRecentFile(uses_.tbToolBar, uses_.settings, name, path);
@@ -193,9 +189,9 @@ void Documents::ReloadDocument() {
   if (path.empty()) return;
   const Position caret = editor.SelStart();
   const bool coloured = document.Mode() == ColourMode::kColoured;
-  std::string bytes = ReadDocument(uses_.files, path);
+  PreparedText text = ReadDocument(uses_.files, path);
   uses_.list.AboutToDrop.Raise(document);
-  editor.LoadFile(path, std::move(bytes));
+  editor.LoadFile(path, std::move(text));
   SetColourMode(editor, ColourMode::kPlain);
   if (coloured) uses_.colorize(editor);
   editor.SetSelStart(caret);

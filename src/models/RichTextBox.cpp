@@ -30,16 +30,16 @@ class ByteSet {
 
 }  // namespace
 
-void RichTextBox::SetText(std::string text) {
+void RichTextBox::SetText(PreparedText text) {
   EndRunOfTyping();
   store_.Assign(std::move(text));
   MoveSelection(0, 0);
   Change.Raise();
 }
 
-void RichTextBox::LoadFile(std::string fileName, std::string bytes) {
+void RichTextBox::LoadFile(std::string fileName, PreparedText text) {
   Assign(fileName_, std::move(fileName));
-  SetText(std::move(bytes));
+  SetText(std::move(text));
 }
 
 std::string_view RichTextBox::SelBytes() const { return Bytes().substr(selStart_, selLength_); }

@@ -29,12 +29,12 @@ class RichTextBox : public Control {
   std::string Text() const { return std::string(store_.Bytes()); }
   Position Length() const { return store_.Length(); }
   /// Replaces the text: caret at 0, everything black, nothing to undo.
-  void SetText(std::string text);
+  void SetText(PreparedText text);
 
   /// The file last loaded into this editor. Saving never changes it.
   const std::string& FileName() const { return fileName_; }
   /// Takes over what was read from a file: its name and its bytes.
-  void LoadFile(std::string fileName, std::string bytes);
+  void LoadFile(std::string fileName, PreparedText text);
 
   // --- Selection
   Position SelStart() const { return selStart_; }

@@ -12,10 +12,10 @@ constexpr std::size_t kMostColours = 256;
 
 }  // namespace
 
-void TextStore::Assign(std::string bytes) {
+void TextStore::Assign(PreparedText text) {
   const Position before = Length();
-  colours_ = std::string(bytes.size(), '\0');  // may throw: before anything has changed
-  bytes_ = std::move(bytes);
+  colours_ = std::move(text.colours);
+  bytes_ = std::move(text.bytes);
   ++revision_;
   palette_.assign(1, kBlack);
   EmptyUndoBuffer();

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "text/TextTypes.h"
@@ -21,6 +22,15 @@ class TextStoreView {
   virtual void Painted(Position at, Position length) = 0;
 };
 
+/// A text with all the room that a store needs for it: a store takes it over without fail.
+struct PreparedText {
+  PreparedText(std::string text) : bytes(std::move(text)), colours(bytes.size(), '\0') {}
+  PreparedText(const char* text) : PreparedText(std::string(text)) {}
+
+  std::string bytes;
+  std::string colours;  // all black
+};
+
 /// A text of single-byte characters in one contiguous buffer, a colour for each, and what undo
 /// needs. The store knows nothing of selections, searching or notifications: those rules are
 /// RichTextBox's. Positions are taken on trust: 0 ≤ at, at + length ≤ Length().
@@ -32,7 +42,7 @@ class TextStore {
   std::uint64_t Revision() const { return revision_; }
 
   /// Replaces everything; black; nothing to undo.
-  void Assign(std::string bytes);
+  void Assign(PreparedText text);
   /// Replaces a range by text of one colour and records it as an undo step of its own, or as part
   /// of the step that BeginStep opened or continued. Replacing nothing by nothing is no step.
   void Replace(Position at, Position length, std::string_view inserted, Colour colour);
