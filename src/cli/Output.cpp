@@ -17,7 +17,8 @@ bool WriteResult(std::string_view bytes, const Destination& destination,
     return std::cout.good();
   }
   try {
-    PosixFiles().Write(file, bytes);
+    PosixFiles files;
+    destination.inPlace ? files.Write(file, bytes) : files.WriteAs(file, bytes);
     return true;
   } catch (const RuntimeError& error) {
     Complain(error.what());

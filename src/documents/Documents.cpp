@@ -152,7 +152,7 @@ bool Documents::SaveWithDialog(const Document& document) {
       uses_.dlgCommon.SetHeld(before);
       return false;
     }
-    uses_.files.Write(held.fileName, document.Editor().Bytes());
+    uses_.files.WriteAs(held.fileName, document.Editor().Bytes());
   } catch (const RuntimeError&) {
     uses_.dlgCommon.SetHeld(before);
     throw;

@@ -72,6 +72,10 @@ void PosixFiles::Write(const std::string& path, std::string_view bytes) {
   OrTell("save", path, [&] { SaveWhole(FollowLinks(ResolveIgnoringCase(path)), bytes); });
 }
 
+void PosixFiles::WriteAs(const std::string& path, std::string_view bytes) {
+  OrTell("save", path, [&] { SaveWhole(FollowLinks(path), bytes); });
+}
+
 void PosixFiles::SetAttributesNormal(const std::string& path) {
   OrTell("clear the read-only attribute of", path, [&] {
     const std::string existing = ResolveIgnoringCase(path);

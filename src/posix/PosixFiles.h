@@ -16,6 +16,7 @@ class PosixFiles : public Files {
  public:
   std::string Read(const std::string& path) override;
   void Write(const std::string& path, std::string_view bytes) override;
+  void WriteAs(const std::string& path, std::string_view bytes) override;
   void SetAttributesNormal(const std::string& path) override;
   /// In byte order. Directories and links that lead nowhere are no files.
   std::vector<std::string> Listing(const std::string& path) override;

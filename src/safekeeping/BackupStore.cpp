@@ -150,6 +150,11 @@ void BackupFiles::Write(const std::string& path, std::string_view bytes) {
   files_.Write(path, bytes);
 }
 
+void BackupFiles::WriteAs(const std::string& path, std::string_view bytes) {
+  if (posix::StatusOf(path)) KeepOldBytes(path, bytes);
+  files_.WriteAs(path, bytes);
+}
+
 void BackupFiles::KeepOldBytes(const std::string& path, std::string_view replacement) try {
   const std::string old = files_.Read(path);
   if (old == replacement) return;

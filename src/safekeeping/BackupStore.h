@@ -60,6 +60,7 @@ class BackupFiles : public Files {
 
   std::string Read(const std::string& path) override { return files_.Read(path); }
   void Write(const std::string& path, std::string_view bytes) override;
+  void WriteAs(const std::string& path, std::string_view bytes) override;
   void SetAttributesNormal(const std::string& path) override { files_.SetAttributesNormal(path); }
   std::vector<std::string> Listing(const std::string& path) override {
     return files_.Listing(path);

@@ -4,6 +4,7 @@
 
 #include "base/RuntimeError.h"
 #include "posix/PathResolution.h"
+#include "posix/Posix.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -49,6 +50,14 @@ void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
   if (const auto known = Known(path)) RefuseIfChanged(path, *known, bytes);
   files_.Write(path, bytes);
+  Accept(path);
+}
+
+void GuardedFiles::WriteAs(const std::string& path, std::string_view bytes) {
+  const LongWork work(*this, "Saving ", path, std::ssize(bytes));
+  const auto known = Known(path);
+  if (known && posix::StatusOf(path)) RefuseIfChanged(path, *known, bytes);
+  files_.WriteAs(path, bytes);
   Accept(path);
 }
 

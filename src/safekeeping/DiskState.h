@@ -34,6 +34,7 @@ class GuardedFiles : public Files {
   /// A RuntimeError when the file is not as it was last read, written or accepted here, and holds
   /// other bytes than these.
   void Write(const std::string& path, std::string_view bytes) override;
+  void WriteAs(const std::string& path, std::string_view bytes) override;
   void SetAttributesNormal(const std::string& path) override;
   std::vector<std::string> Listing(const std::string& path) override {
     return files_.Listing(path);
@@ -58,6 +59,7 @@ class GuardedFiles : public Files {
 
  private:
   class LongWork;
+
 
   Files& files_;
   std::function<void(const std::string&)> tellLongWork_;

@@ -95,13 +95,18 @@ class ScreenPointer {
 };
 
 /// Files by path. Paths are resolved without regard to case where nothing of that exact name
-/// exists; an exact match always wins. Errors are RuntimeErrors that name the path and the reason.
+/// exists; an exact match always wins. Only WriteAs takes a path as it stands. Errors are
+/// RuntimeErrors that name the path and the reason.
 class Files {
  public:
   virtual ~Files() = default;
   virtual std::string Read(const std::string& path) = 0;
-  /// Leaves the old bytes or the new ones whole, whatever happens.
+  /// Writes into the file that was read by this path, whatever its spelling. Leaves the old bytes
+  /// or the new ones whole, whatever happens.
   virtual void Write(const std::string& path, std::string_view bytes) = 0;
+  /// The same for a name that somebody gave for the result: exactly that file is made or replaced,
+  /// and one of another spelling stays.
+  virtual void WriteAs(const std::string& path, std::string_view bytes) = 0;
   /// Makes an existing file writable for its owner. A file that is not there is no error.
   virtual void SetAttributesNormal(const std::string& path) = 0;
   /// The file names that a listing of the path yields: a file's path yields its name; a directory's

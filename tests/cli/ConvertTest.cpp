@@ -35,6 +35,17 @@ TEST_F(CommandLineConvert, WritesAnotherFile) {
   EXPECT_EQ(Bytes("new.con"), TheControl().Converts(old_));
 }
 
+TEST_F(CommandLineConvert, TakesTheNameOfTheResultAsItStands) {
+  EXPECT_EQ(OutputOf({"convert", "User.con", "-o", "user.con"}), "");
+  EXPECT_EQ(Bytes("User.con"), old_);
+  EXPECT_EQ(Bytes("user.con"), TheControl().Converts(old_));
+}
+
+TEST_F(CommandLineConvert, ConvertsTheFileItselfThatAnotherSpellingNames) {
+  EXPECT_EQ(OutputOf({"convert", "USER.CON", "--in-place"}), "");
+  EXPECT_EQ(Bytes("User.con"), TheControl().Converts(old_));
+}
+
 TEST_F(CommandLineConvert, ConvertsSeveralFilesInPlace) {
   Put("Two.con", old_ + "// two");
   EXPECT_EQ(OutputOf({"convert", "User.con", "Two.con", "--in-place"}), "");

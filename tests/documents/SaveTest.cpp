@@ -45,6 +45,23 @@ TEST_F(Save, UnderAChosenNameGivesTheDocumentThatName) {
   EXPECT_THAT(RecentNames(), ElementsAre("OTHER.con", "a.con"));
 }
 
+TEST_F(Save, UnderAChosenNameLeavesAFileOfAnotherSpellingAlone) {
+  Open("/User.con", "A");
+  Current().Type("new ");
+  WithDialog("/user.con");
+  EXPECT_EQ(OnDisk("/User.con"), "A");
+  EXPECT_EQ(OnDisk("/user.con"), "new A");
+}
+
+TEST_F(Save, InPlaceWritesIntoTheFileThatWasOpenedByAnotherSpelling) {
+  world_.files.files["/User.con"] = "A";
+  Control().OpenFile("/USER.CON");
+  Current().Type("new ");
+  InPlace();
+  EXPECT_EQ(OnDisk("/User.con"), "new A");
+  EXPECT_FALSE(world_.files.files.contains("/USER.CON"));
+}
+
 TEST_F(Save, UnderItsOwnNameAddsNoRecentFile) {
   Open("/a.con", "A");
   C().tbToolBar.RemoveMenuItem("FileNew", FirstRecentFile(C().tbToolBar));

@@ -185,6 +185,28 @@ TEST_F(PosixFilesTest, MakesAMissingFileUnderItsNameAsWritten) {
   EXPECT_EQ(BytesOf(directory / "Games/User.con"), "new");
 }
 
+TEST_F(PosixFilesTest, MakesANewFileBesideOneThatDiffersInCase) {
+  directory.Put("User.con", "old");
+  files.WriteAs(directory / "user.con", "new");
+  EXPECT_EQ(BytesOf(directory / "User.con"), "old");
+  EXPECT_EQ(BytesOf(directory / "user.con"), "new");
+}
+
+TEST_F(PosixFilesTest, MakesNoNewFileInAFolderThatDiffersInCase) {
+  directory.Put("Games/User.con", "old");
+  EXPECT_THAT(ErrorOf([&] { files.WriteAs(directory / "games/User.con", "new"); }),
+              HasSubstr("games/User.con: No such file or directory."));
+  EXPECT_EQ(BytesOf(directory / "Games/User.con"), "old");
+}
+
+TEST_F(PosixFilesTest, ReplacesTheFileOfExactlyTheNameGiven) {
+  const std::string path = directory.Put("User.con", "old");
+  std::filesystem::create_symlink("User.con", directory / "link.con");
+  files.WriteAs(directory / "link.con", "new");
+  EXPECT_EQ(BytesOf(path), "new");
+  EXPECT_TRUE(std::filesystem::is_symlink(directory / "link.con"));
+}
+
 TEST_F(PosixFilesTest, UnderstandsRelativePaths) {
   directory.Put("User.con", "old");
   EXPECT_EQ(InChild([&] {

@@ -58,12 +58,10 @@ class FileDialogTest : public testing::Test {
       QMetaObject::invokeMethod(&dialog, "accept");
     });
   }
-  /// Answers the next question, and goes on.
-  void Answer(
-      QMessageBox::StandardButton answer, const std::function<void()>& goOn = [] {}) {
-    Once<QMessageBox>([this, answer, goOn](QMessageBox& question) {
+  /// Answers the next question.
+  void Answer(QMessageBox::StandardButton answer) {
+    Once<QMessageBox>([this, answer](QMessageBox& question) {
       asked = question.text();
-      goOn();
       question.button(answer)->click();
     });
   }
@@ -119,20 +117,11 @@ TEST_F(FileDialogTest, AsksBeforeAFileIsReplaced) {
   EXPECT_TRUE(asked.startsWith("User.con already exists.")) << asked.toStdString();
 }
 
-// A save goes to the file whose name differs in case alone.
-TEST_F(FileDialogTest, AsksBeforeAFileOfAnotherSpellingIsReplacedAndTakesItsName) {
+// A file whose name differs in case alone is another one, and stays.
+TEST_F(FileDialogTest, TakesTheNameAsItWasTypedBesideAFileOfAnotherSpelling) {
   directory.Put("USER.CON", "");
   Choose("User");
-  Answer(QMessageBox::Yes);
-  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "USER.CON")));
-  EXPECT_EQ(asked, "USER.CON already exists.\nDo you want to replace it?");
-}
-
-TEST_F(FileDialogTest, AsksForAnotherNameWhenThatFileIsToStay) {
-  directory.Put("USER.CON", "");
-  Choose("User");
-  Answer(QMessageBox::No, [this] { Choose("Other"); });
-  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "Other.con")));
+  EXPECT_THAT(Save(), Optional(ElementsAre(directory / "User.con")));
 }
 
 TEST_F(FileDialogTest, IsOwnedByTheWindowThatAPersonWorksIn) {

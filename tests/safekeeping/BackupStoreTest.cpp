@@ -70,6 +70,16 @@ TEST_F(Backups, ANewFileAndEqualBytesNeedNone) {
   EXPECT_TRUE(store_.List().empty());
 }
 
+TEST_F(Backups, ANewFileBesideOneOfAnotherSpellingNeedsNone) {
+  const std::string path = directory_.Put("user.con", "text");
+  files_.WriteAs(directory_ / "USER.CON", "new");
+  EXPECT_TRUE(store_.List().empty());
+  files_.WriteAs(path, "other");
+  ASSERT_EQ(store_.List().size(), 1U);
+  EXPECT_EQ(store_.List()[0].path, path);
+  EXPECT_EQ(Texts(), std::vector<std::string>{"text"});
+}
+
 TEST_F(Backups, BytesThatTheNewestOneHoldsAreNotKeptTwice) {
   store_.Keep("/a", "one");
   store_.Keep("/a", "one");

@@ -36,11 +36,14 @@ class MemoryFiles : public Files {
   }
 
   void Write(const std::string& path, std::string_view bytes) override {
-    const std::string target = Resolve(path);
+    WriteAs(Resolve(path), bytes);
+  }
+
+  void WriteAs(const std::string& path, std::string_view bytes) override {
     if (diskFull) Refuse("save", path, "No space left on device");
-    if (readOnly.contains(target)) Refuse("save", path, "the file is read-only");
-    files[target] = bytes;
-    written.push_back(target);
+    if (readOnly.contains(path)) Refuse("save", path, "the file is read-only");
+    files[path] = bytes;
+    written.push_back(path);
   }
 
   void SetAttributesNormal(const std::string& path) override { readOnly.erase(Resolve(path)); }

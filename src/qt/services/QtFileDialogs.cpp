@@ -3,12 +3,9 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QRegularExpression>
 
 #include "models/CommonDialog.h"
-#include "posix/PathResolution.h"
-#include "posix/Posix.h"
 #include "qt/base/QtText.h"
 #include "qt/services/DialogOwner.h"
 
@@ -50,21 +47,6 @@ std::vector<std::string> Chosen(const QFileDialog& dialog) {
   return chosen;
 }
 
-/// The toolkit asks before a file of exactly the chosen name is replaced. One whose name differs in
-/// case would be written to as well: this asks about that, and true chooses its spelling.
-bool TakeSpellingOfExisting(QFileDialog& dialog, std::string& path) {
-  const std::string existing = posix::ResolveIgnoringCase(path);
-  if (existing == path || !posix::StatusOf(existing)) return true;
-  const QString name = QFileInfo(QFile::decodeName(existing.c_str())).fileName();
-  QMessageBox question(QMessageBox::Warning, dialog.windowTitle(),
-                       QObject::tr("%1 already exists.\nDo you want to replace it?").arg(name),
-                       QMessageBox::Yes | QMessageBox::No, &dialog);
-  question.setTextFormat(Qt::PlainText);
-  question.setDefaultButton(QMessageBox::No);
-  path = existing;
-  return question.exec() == QMessageBox::Yes;
-}
-
 }  // namespace
 
 QStringList NameFilters(std::string_view filter) {
@@ -88,13 +70,10 @@ std::optional<std::vector<std::string>> QtFileDialogs::Show(const FileDialogRequ
   if (request.kind == FileDialogRequest::Kind::kSave) {
     dialog.setDefaultSuffix(SuffixOf(request.filter));
   }
-  while (dialog.exec() == QDialog::Accepted) {
-    std::vector<std::string> chosen = Chosen(dialog);
-    if (chosen.empty()) return std::nullopt;
-    const bool asks = (request.flags & kOverwritePrompt) != 0;
-    if (!asks || TakeSpellingOfExisting(dialog, chosen.front())) return chosen;
-  }
-  return std::nullopt;
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  std::vector<std::string> chosen = Chosen(dialog);
+  if (chosen.empty()) return std::nullopt;
+  return chosen;
 }
 
 }  // namespace tessel
