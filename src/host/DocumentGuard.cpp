@@ -23,7 +23,7 @@ std::string Size(long long bytes) {
 
 std::string Time(const DiskState& state) {
   return QLocale()
-      .toString(QDateTime::fromSecsSinceEpoch(state.seconds), QLocale::ShortFormat)
+      .toString(QDateTime::fromSecsSinceEpoch(state.written.seconds), QLocale::ShortFormat)
       .toStdString();
 }
 
@@ -98,13 +98,13 @@ bool DocumentGuard::BeforeSaving(const Document& document, const std::string& pa
   const DiskState now = DiskStateOf(path);
   if (!now.exists) return true;
   const std::string name = NameOfPath(path, files_.Separator());
-  const Record& own = At(document.Place());
+  Record& own = At(document.Place());
   const bool itsOwn = document.HasPath(path) && own.has_value();
   if (itsOwn) files_.RefuseIfChanged(path, *own, document.Editor().Bytes());
   if (const auto other = OtherWith(now, &document)) {
     return Agrees(name + " is open in another tab. Write this document over its file?");
   }
-  if (!itsOwn && !(own && SameFile(*own, now))) {
+  if (!itsOwn && !(own && SameFile(own->state, now))) {
     return Agrees(name + " already exists (" + Size(now.size) + ", changed " + Time(now) +
                   ").\nReplace it with this document (" + Size(document.Editor().Length()) + ")?");
   }
@@ -112,10 +112,9 @@ bool DocumentGuard::BeforeSaving(const Document& document, const std::string& pa
          Agrees(name + " is read-only. Write over it all the same, and clear that?");
 }
 
-bool DocumentGuard::ChangedByOthers(const Document& document) const {
-  const auto index = static_cast<std::size_t>(Index(document.Place()));
-  if (index >= records_.size() || !records_[index]) return false;
-  return *records_[index] != DiskStateOf(document.Path());
+bool DocumentGuard::ChangedByOthers(const Document& document) {
+  Record& own = At(document.Place());
+  return own && files_.Changed(document.Path(), *own);
 }
 
 void DocumentGuard::Accept(const Document& document) {

@@ -30,12 +30,12 @@ class DocumentGuard : public DocumentHost {
   bool BeforeSaving(const Document& document, const std::string& path) override;
 
   /// True when the document's file is not as it was when it was loaded or saved.
-  bool ChangedByOthers(const Document& document) const;
+  bool ChangedByOthers(const Document& document);
   /// Takes the document's file as it is now: it may be written over.
   void Accept(const Document& document);
 
  private:
-  using Record = std::optional<DiskState>;
+  using Record = std::optional<FileRecord>;
 
   Record& At(Slot slot);
   void Renew(const Document& document);

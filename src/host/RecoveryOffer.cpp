@@ -85,11 +85,11 @@ QString RecoveryOffer::Sentence() const {
 /// The text may be older than what is in the file now.
 bool RecoveryOffer::MayGoOverItsFile(const KeptText& text) {
   const DiskState file = DiskStateOf(text.path);
-  if (text.path.empty() || !file.exists || file.seconds <= text.seconds) return true;
+  if (text.path.empty() || !file.exists || file.written.seconds <= text.seconds) return true;
   const QString question =
       tr("%1 was changed at %2, after the unsaved text was kept at %3.\n"
          "Show the older text as a change of the file? \"No\" shows it as a document of its own.")
-          .arg(ShownName(NameOfPath(text.path, files_.Separator())), TimeOf(file.seconds),
+          .arg(ShownName(NameOfPath(text.path, files_.Separator())), TimeOf(file.written.seconds),
                TimeOf(text.seconds));
   return messages_.Show(question.toStdString(), MessageIcon::kQuestion, kProgramTitle,
                         MessageButtons::kYesNo) == MessageAnswer::kYes;

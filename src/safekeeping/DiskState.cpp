@@ -5,6 +5,7 @@
 #include "base/RuntimeError.h"
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
+#include "safekeeping/Hash.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -12,13 +13,23 @@ namespace {
 
 constexpr long long kLargeFile = 8 << 20;
 
+/// What is left when somebody gives a file other permissions, or one more name.
+bool MayHoldTheSameBytes(DiskState before, const DiskState& now) {
+  before.changed = now.changed;
+  return before == now;
+}
+
 }  // namespace
 
 DiskState DiskStateOf(const std::string& path) {
   struct stat found {};
   if (stat(posix::ResolveIgnoringCase(path).c_str(), &found) != 0) return {};
-  return {true,          found.st_dev,         found.st_ino,
-          found.st_size, found.st_mtim.tv_sec, found.st_mtim.tv_nsec};
+  return {true,
+          found.st_dev,
+          found.st_ino,
+          found.st_size,
+          {found.st_mtim.tv_sec, found.st_mtim.tv_nsec},
+          {found.st_ctim.tv_sec, found.st_ctim.tv_nsec}};
 }
 
 /// Says what is being done for as long as it lives, when it may take a while.
@@ -42,35 +53,39 @@ std::string GuardedFiles::Read(const std::string& path) {
   const DiskState before = DiskStateOf(path);  // a change while reading is a change
   const LongWork work(*this, "Opening ", path, before.size);
   std::string bytes = files_.Read(path);
-  known_[path] = before;
+  known_[path] = {before, HashOf(bytes)};
   return bytes;
 }
 
 void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
-  if (const auto known = Known(path)) RefuseIfChanged(path, *known, bytes);
+  RefuseIfChanged(path, bytes);
   files_.Write(path, bytes);
-  Accept(path);
+  known_[path] = {DiskStateOf(path), HashOf(bytes)};
 }
 
 void GuardedFiles::WriteAs(const std::string& path, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
-  const auto known = Known(path);
-  if (known && posix::StatusOf(path)) RefuseIfChanged(path, *known, bytes);
+  if (posix::StatusOf(path)) RefuseIfChanged(path, bytes);
   files_.WriteAs(path, bytes);
-  Accept(path);
+  known_[path] = {DiskStateOf(path), HashOf(bytes)};
 }
 
-void GuardedFiles::RefuseIfChanged(const std::string& path, const DiskState& then,
+void GuardedFiles::RefuseIfChanged(const std::string& path, std::string_view bytes) {
+  if (const auto known = known_.find(path); known != known_.end()) {
+    RefuseIfChanged(path, known->second, bytes);
+  }
+}
+
+void GuardedFiles::RefuseIfChanged(const std::string& path, FileRecord& record,
                                    std::string_view bytes) {
-  const DiskState now = DiskStateOf(path);
-  if (now == then || !now.exists || files_.Read(path) == bytes) return;
+  if (!Changed(path, record) || !DiskStateOf(path).exists || files_.Read(path) == bytes) return;
   throw RuntimeError(NameOfPath(path, Separator()) +
                      " has not been saved: another program has changed the file since it was "
                      "opened. Choose Reload or Keep Mine above the text first.");
 }
 
-std::optional<DiskState> GuardedFiles::Known(const std::string& path) const {
+std::optional<FileRecord> GuardedFiles::Known(const std::string& path) const {
   const auto known = known_.find(path);
   return known == known_.end() ? std::nullopt : std::optional(known->second);
 }
@@ -78,14 +93,29 @@ std::optional<DiskState> GuardedFiles::Known(const std::string& path) const {
 void GuardedFiles::SetAttributesNormal(const std::string& path) {
   const bool changed = ChangedByOthers(path);
   files_.SetAttributesNormal(path);
-  if (!changed && known_.contains(path)) Accept(path);
-}
-
-bool GuardedFiles::ChangedByOthers(const std::string& path) const {
   const auto known = known_.find(path);
-  return known != known_.end() && known->second != DiskStateOf(path);
+  if (!changed && known != known_.end()) known->second.state = DiskStateOf(path);
 }
 
-void GuardedFiles::Accept(const std::string& path) { known_[path] = DiskStateOf(path); }
+bool GuardedFiles::ChangedByOthers(const std::string& path) {
+  const auto known = known_.find(path);
+  return known != known_.end() && Changed(path, known->second);
+}
+
+bool GuardedFiles::Changed(const std::string& path, FileRecord& record) {
+  const DiskState now = DiskStateOf(path);
+  if (record.state == now) return false;
+  if (!MayHoldTheSameBytes(record.state, now) || !HasTheBytes(path, record)) return true;
+  record.state = now;
+  return false;
+}
+
+bool GuardedFiles::HasTheBytes(const std::string& path, const FileRecord& record) try {
+  return record.hash && HashOf(files_.Read(path)) == *record.hash;
+} catch (const RuntimeError&) {
+  return false;
+}
+
+void GuardedFiles::Accept(const std::string& path) { known_[path] = {DiskStateOf(path)}; }
 
 }  // namespace tessel

@@ -1,6 +1,7 @@
 // What a file on disk looked like when the program last read or wrote it.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -10,18 +11,33 @@
 
 namespace tessel {
 
-/// Enough of a file's state to see that somebody has changed it: device, number, size and time of
-/// change. Two states of a file that is not there are equal.
+/// A moment of the system's clock, since 1970.
+struct DiskTime {
+  long long seconds = 0, nanoseconds = 0;
+
+  friend bool operator==(const DiskTime&, const DiskTime&) = default;
+};
+
+/// Enough of a file's state to see that somebody has changed it. Programs can set the time of the
+/// writing back, but not that of the last change of anything. Two states of a file that is not
+/// there are equal.
 struct DiskState {
   bool exists = false;
   unsigned long device = 0, number = 0;
-  long long size = 0, seconds = 0, nanoseconds = 0;
+  long long size = 0;
+  DiskTime written, changed;
 
   friend bool operator==(const DiskState&, const DiskState&) = default;
 };
 
 /// The state of the file that the path leads to now.
 DiskState DiskStateOf(const std::string& path);
+
+/// A file as it was read or written.
+struct FileRecord {
+  DiskState state;
+  std::optional<std::uint64_t> hash = {};  ///< of the bytes, where they went through GuardedFiles
+};
 
 /// The host's files: they remember the state of each file they read or wrote, and refuse to write
 /// over a file that somebody else has changed since.
@@ -46,12 +62,16 @@ class GuardedFiles : public Files {
     tellLongWork_ = std::move(tell);
   }
 
-  /// What the file looked like when it was last read, written or accepted here.
-  std::optional<DiskState> Known(const std::string& path) const;
-  /// Throws the RuntimeError of Write when the file is not as it was then, and holds other bytes.
-  void RefuseIfChanged(const std::string& path, const DiskState& then, std::string_view bytes);
+  /// The file as it was last read, written or accepted here.
+  std::optional<FileRecord> Known(const std::string& path) const;
+  /// True when the file is another one than the record says. New permissions or one more name make
+  /// it no other one: the bytes are looked at before that is said, and the record is renewed.
+  bool Changed(const std::string& path, FileRecord& record);
+  /// Throws the RuntimeError of Write when the file is another one than the record says and holds
+  /// other bytes than these.
+  void RefuseIfChanged(const std::string& path, FileRecord& record, std::string_view bytes);
   /// True when the file was read or written here and is another one now.
-  bool ChangedByOthers(const std::string& path) const;
+  bool ChangedByOthers(const std::string& path);
   /// Takes the file as it is now: it may be written over.
   void Accept(const std::string& path);
   /// Forgets the file: it may be written over.
@@ -60,10 +80,12 @@ class GuardedFiles : public Files {
  private:
   class LongWork;
 
+  bool HasTheBytes(const std::string& path, const FileRecord& record);
+  void RefuseIfChanged(const std::string& path, std::string_view bytes);
 
   Files& files_;
   std::function<void(const std::string&)> tellLongWork_;
-  std::map<std::string, DiskState> known_;
+  std::map<std::string, FileRecord> known_;
 };
 
 }  // namespace tessel

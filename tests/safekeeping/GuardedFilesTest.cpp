@@ -1,6 +1,10 @@
 // Files that others change while they are open.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "base/RuntimeError.h"
@@ -36,6 +40,62 @@ TEST_F(Guarded, AFileThatOthersChangedHindersNoNewOneOfAnotherSpelling) {
   EXPECT_EQ(BytesOf(path), "theirs");
   EXPECT_EQ(BytesOf(other), "mine");
   EXPECT_FALSE(files_.ChangedByOthers(other));
+}
+
+/// Puts other bytes into a file, and its time of writing back.
+void ChangeUnseen(const std::string& path, const std::string& bytes) {
+  const auto written = std::filesystem::last_write_time(path);
+  std::ofstream(path, std::ios::binary) << bytes;
+  std::filesystem::last_write_time(path, written);
+}
+
+TEST_F(Guarded, AChangeThatKeepsSizeAndTimeIsSeen) {
+  const std::string path = directory_.Put("user.con", "text");
+  files_.Read(path);
+  ChangeUnseen(path, "TEXT");
+  EXPECT_TRUE(files_.ChangedByOthers(path));
+  EXPECT_THROW(files_.Write(path, "mine"), RuntimeError);
+  EXPECT_EQ(BytesOf(path), "TEXT");
+}
+
+TEST_F(Guarded, AChangeThatKeepsSizeAndTimeIsSeenAfterASaveToo) {
+  const std::string path = directory_.Put("user.con", "old");
+  files_.Write(path, "text");
+  EXPECT_FALSE(files_.ChangedByOthers(path));
+  ChangeUnseen(path, "TEXT");
+  EXPECT_TRUE(files_.ChangedByOthers(path));
+  files_.Accept(path);
+  EXPECT_FALSE(files_.ChangedByOthers(path));
+  ChangeUnseen(path, "tEXT");
+  EXPECT_TRUE(files_.ChangedByOthers(path));
+}
+
+TEST_F(Guarded, OtherPermissionsAndNamesAreNoChangeOfTheText) {
+  const std::string path = directory_.Put("user.con", "text");
+  files_.Read(path);
+  ASSERT_EQ(::chmod(path.c_str(), 0600), 0);
+  EXPECT_FALSE(files_.ChangedByOthers(path));
+  ASSERT_EQ(::link(path.c_str(), (directory_ / "second.con").c_str()), 0);
+  files_.Write(path, "mine");
+  EXPECT_EQ(BytesOf(path), "mine");
+}
+
+TEST_F(Guarded, ClearingTheReadOnlyAttributeIsAChangeOfOnesOwn) {
+  const std::string path = directory_.Put("user.con", "text");
+  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+  files_.Read(path);
+  files_.Accept(path);
+  files_.SetAttributesNormal(path);
+  EXPECT_FALSE(files_.ChangedByOthers(path));
+}
+
+TEST_F(Guarded, ClearingTheReadOnlyAttributeHidesNoChangeOfOthers) {
+  const std::string path = directory_.Put("user.con", "text");
+  files_.Read(path);
+  ChangeUnseen(path, "TEXT");
+  ASSERT_EQ(::chmod(path.c_str(), 0444), 0);
+  files_.SetAttributesNormal(path);
+  EXPECT_TRUE(files_.ChangedByOthers(path));
 }
 
 }  // namespace
