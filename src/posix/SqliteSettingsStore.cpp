@@ -1,13 +1,13 @@
 #include "posix/SqliteSettingsStore.h"
 
 #include <fcntl.h>
-#include <pwd.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
 #include <cstdlib>
 
 #include "base/RuntimeError.h"
+#include "posix/HomeDirectory.h"
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
 #include "text/Text.h"
@@ -34,12 +34,6 @@ constexpr const char* kSchema = R"(
 std::string FromEnvironment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? std::string() : std::string(value);
-}
-
-std::string HomeDirectory() {
-  if (std::string home = FromEnvironment("HOME"); !home.empty()) return home;
-  const passwd* user = ::getpwuid(::getuid());
-  return user == nullptr ? std::string() : std::string(user->pw_dir);
 }
 
 /// SQLite takes ":memory:" for no file at all, and no path for a temporary one.
@@ -71,7 +65,7 @@ std::string DefaultSettingsPath() {
   if (std::string store = FromEnvironment("ZANTHMAN_STORE"); !store.empty()) return store;
   std::string directory = FromEnvironment("XDG_CONFIG_HOME");
   // A relative directory there is to be ignored, says the standard of base directories.
-  if (!directory.starts_with('/')) directory = HomeDirectory() + "/.config";
+  if (!directory.starts_with('/')) directory = posix::HomeDirectory() + "/.config";
   return directory + "/ZanthMan/settings.db";
 }
 

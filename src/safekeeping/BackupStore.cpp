@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <memory>
 #include <random>
 #include <stdexcept>
@@ -48,11 +49,14 @@ long long NanosecondsNow() {
   return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// Behind all names of the file that exist, also when the clock has been put back.
+/// Behind all names that exist, also when the clock has been put back: what is thrown away first is
+/// the oldest.
 std::string NextName(const std::vector<std::string>& names, const std::string& hash) {
+  constexpr long long kLast = std::numeric_limits<long long>::max();
   long long time = NanosecondsNow();
   for (const std::string& name : names) {
-    if (name.starts_with(hash)) time = std::max(time, std::atoll(TimeIn(name).c_str()) + 1);
+    const long long taken = std::strtoll(TimeIn(name).c_str(), nullptr, 10);
+    time = std::max(time, std::min(taken, kLast - 1) + 1);
   }
   char rest[kTimeDigits + 16];
   std::snprintf(rest, sizeof rest, "-%020lld-%08x", time, std::random_device()());

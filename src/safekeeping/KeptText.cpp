@@ -64,7 +64,7 @@ Head HeadOf(std::string_view start, std::size_t size, const PrivateFolder& folde
 void WriteKeptText(const PrivateFolder& folder, const std::string& name, const KeptText& text,
                    std::string_view bytes) {
   const std::uint64_t hash = HashOf(bytes, HashOf(text.path));
-  const std::string head = std::string(kMagic) + std::to_string(text.seconds) + ' ' +
+  const std::string head = std::string(kMagic) + std::to_string(std::max(text.seconds, 0LL)) + ' ' +
                            std::to_string(text.path.size()) + ' ' + std::to_string(bytes.size()) +
                            ' ' + std::to_string(hash) + '\n' + text.path;
   folder.Write(name, head, bytes);

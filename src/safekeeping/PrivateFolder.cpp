@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "posix/FreshFile.h"
+#include "posix/HomeDirectory.h"
 
 namespace tessel {
 namespace {
@@ -41,6 +42,11 @@ void RefuseIfInLinkedFolder(const std::string& path) {
   }
 }
 
+/// As network folders do whose server has no lock service.
+bool KnowsNoLocks(int problem) {
+  return problem == ENOLCK || problem == EOPNOTSUPP || problem == ENOSYS;
+}
+
 int OpenDirectory(const std::string& path) {
   RefuseIfInLinkedFolder(path);
   MakeDirectories(path);
@@ -53,8 +59,7 @@ int OpenDirectory(const std::string& path) {
 std::string DefaultStateFolder() {
   const char* state = std::getenv("XDG_STATE_HOME");
   if (state != nullptr && *state == '/') return std::string(state) + "/ZanthMan";
-  const char* home = std::getenv("HOME");
-  return std::string(home == nullptr ? "." : home) + "/.local/state/ZanthMan";
+  return HomeDirectory() + "/.local/state/ZanthMan";
 }
 
 PrivateFolder::PrivateFolder(const std::string& path) : directory_(OpenDirectory(path)) {
@@ -157,15 +162,18 @@ bool PrivateFolder::IsAt(const std::string& path) const {
          there->st_ino == here.st_ino;
 }
 
-int PrivateFolder::Lock(const std::string& name) const {
+FolderLock PrivateFolder::Lock(const std::string& name) const {
   const int file = Checked([&] {
     return ::openat(directory_.Number(), name.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
                     kOwnersFile);
   });
-  if (Retry([&] { return ::flock(file, LOCK_EX | LOCK_NB); }) == 0) return file;
+  if (Retry([&] { return ::flock(file, LOCK_EX | LOCK_NB); }) == 0) {
+    return {FolderLock::State::kOurs, file};
+  }
   const int problem = errno;
+  if (KnowsNoLocks(problem)) return {FolderLock::State::kUnknown, file};
   ::close(file);
-  if (problem == EWOULDBLOCK) return -1;
+  if (problem == EWOULDBLOCK) return {FolderLock::State::kTaken, -1};
   throw FileProblem(problem);
 }
 

@@ -10,8 +10,21 @@
 
 namespace tessel {
 
-/// $XDG_STATE_HOME/ZanthMan, by default ~/.local/state/ZanthMan.
+/// $XDG_STATE_HOME/ZanthMan where that is a whole path, by default .local/state/ZanthMan in the
+/// user's home.
 std::string DefaultStateFolder();
+
+/// What became of locking a file. It stays locked for as long as the descriptor is open, which is
+/// the caller's to close.
+struct FolderLock {
+  enum class State {
+    kOurs,
+    kTaken,   ///< somebody else has it locked; there is no descriptor
+    kUnknown  ///< the file system knows no locks
+  };
+  State state;
+  int file;
+};
 
 /// A directory that only its owner can look into. It is held open: whatever happens to its path
 /// afterwards, the files stay the same. Names have no directory part. Errors are
@@ -46,9 +59,8 @@ class PrivateFolder {
   /// Does the path still lead here?
   bool IsAt(const std::string& path) const;
 
-  /// Makes the file if necessary and locks it for as long as the descriptor is open. −1 when
-  /// somebody else has it locked.
-  int Lock(const std::string& name) const;
+  /// Makes the file if necessary and locks it.
+  FolderLock Lock(const std::string& name) const;
 
  private:
   int OpenToRead(const std::string& name) const;

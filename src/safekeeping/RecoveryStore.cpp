@@ -5,10 +5,13 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <random>
 #include <system_error>
 #include <utility>
+
+#include "safekeeping/RunMark.h"
 
 namespace tessel {
 namespace {
@@ -32,6 +35,21 @@ std::string NewRunName() {
 long long SecondsNow() {
   using namespace std::chrono;
   return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
+}
+
+/// Only asked for where no lock tells that the run lives; then its process number has to do.
+void LeaveMark(int file) try {
+  if (file != -1) posix::WriteAll(file, MarkOfThisRun());
+} catch (const FileProblem&) {
+}
+
+/// 0 when the name holds none.
+long ProcessIn(const std::string& path) {
+  const std::size_t prefix = path.rfind(kRunPrefix);
+  return prefix == path.npos
+             ? 0
+             : std::strtol(path.c_str() + prefix + std::string_view(kRunPrefix).size(), nullptr,
+                           10);
 }
 
 /// Takes away a run's folder, unless it holds anything but its lock.
@@ -89,7 +107,8 @@ void RecoveryStore::MakeFolder() {
   const std::string hidden = "." + name;
   try {
     auto folder = std::make_unique<PrivateFolder>(parent_ + "/" + hidden);
-    auto lock = std::make_unique<posix::Descriptor>(folder->Lock(kLock));
+    auto lock = std::make_unique<posix::Descriptor>(folder->Lock(kLock).file);
+    LeaveMark(lock->Number());
     all.Rename(hidden, name);
     folder_ = std::move(folder);
     lock_ = std::move(lock);
@@ -273,15 +292,25 @@ AbandonedTexts::~AbandonedTexts() {
 
 void AbandonedTexts::Adopt(const std::string& path, const OnDisk& onDisk) try {
   const PrivateFolder folder(path);
-  const int lock = folder.Lock(kLock);
-  if (lock == -1) return;  // its program lives
-  runs_.push_back({path, lock, {}});
+  const FolderLock lock = folder.Lock(kLock);
+  if (lock.state == FolderLock::State::kTaken) return;  // its program lives
+  runs_.push_back({path, lock.file, {}});
+  if (lock.state == FolderLock::State::kUnknown && !IsEnded(folder, path)) return;
   for (const std::string& file : folder.Names()) {
     if (file.starts_with(kTextPrefix)) AdoptText(folder, file, runs_.back(), onDisk);
   }
   RemoveEmptyRun(path);
 } catch (const FileProblem& problem) {
   problem_ = problem.what();
+}
+
+bool AbandonedTexts::IsEnded(const PrivateFolder& folder, const std::string& path) {
+  const std::string mark = folder.Read(kLock);
+  const RunState state = StateOfRun(ProcessIn(path), mark);
+  if (state == RunState::kElsewhere) {
+    problem_ = "it may be in use on the computer " + ComputerIn(mark);
+  }
+  return state == RunState::kEnded;
 }
 
 void AbandonedTexts::AdoptText(const PrivateFolder& folder, const std::string& file, Run& run,

@@ -19,7 +19,8 @@ namespace tessel {
 
 /// The unsaved texts of this run, in a folder of its own that stays locked while the program lives.
 /// The texts are written by a thread; nothing here waits for the disk but Flush and the end. Texts
-/// stay there for the next run unless Finish was called.
+/// stay there for the next run unless Finish was called. Where files cannot be locked, a mark in
+/// the folder tells others that this run lives (see RunMark.h).
 class RecoveryStore {
  public:
   using Id = int;
@@ -88,7 +89,9 @@ class RecoveryStore {
 };
 
 /// The unsaved texts of runs that ended without asking: killed, crashed, or without power. While it
-/// lives they are offered to nobody else.
+/// lives they are offered to nobody else; where files cannot be locked, two programs that start at
+/// once are offered the same. There a run of another computer is taken for one that lives, which
+/// Problem says.
 class AbandonedTexts {
  public:
   /// The bytes of a file now, or nothing when there is none.
@@ -116,6 +119,7 @@ class AbandonedTexts {
 
   void AdoptAll(const std::string& folder, const OnDisk& onDisk);
   void Adopt(const std::string& path, const OnDisk& onDisk);
+  bool IsEnded(const PrivateFolder& folder, const std::string& path);
   void AdoptText(const PrivateFolder& folder, const std::string& file, Run& run,
                  const OnDisk& onDisk);
 

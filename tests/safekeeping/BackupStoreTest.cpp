@@ -1,5 +1,6 @@
 // Backups, without a window.
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,6 +27,17 @@ class Backups : public testing::Test {
     for (const auto& entry : std::filesystem::directory_iterator(folder)) {
       EXPECT_EQ(ModeOf(entry.path()), 0600U) << entry.path();
       EXPECT_TRUE(std::filesystem::is_regular_file(entry.symlink_status())) << entry.path();
+    }
+  }
+
+  /// As if the clock had been ahead by years when they were kept.
+  void MoveAllIntoTheFuture() const {
+    constexpr std::size_t kTime = 17;  // where it stands in a name
+    const std::string time = "09000000000000000000";
+    for (const Backup& backup : store_.List()) {
+      std::string name = backup.name;
+      name.replace(kTime, time.size(), time);
+      std::filesystem::rename(folder_ + "/" + backup.name, folder_ + "/" + name);
     }
   }
 
@@ -110,6 +122,27 @@ TEST_F(Backups, TheOldestMakeRoomWhenAllTogetherAreTooMuch) {
   ASSERT_EQ(left.size(), 2U);  // three with what describes them are more than 1000 bytes
   EXPECT_EQ(left[0].path, "/file9");
   EXPECT_EQ(left[1].path, "/file8");
+}
+
+TEST_F(Backups, TheNewestIsTheOneKeptLastAlsoWhenTheClockWasPutBack) {
+  store_.Keep("/a", "one");
+  MoveAllIntoTheFuture();
+  store_.Keep("/a", "two");
+  store_.Keep("/b", "three");
+  EXPECT_EQ(Texts(), (std::vector<std::string>{"three", "two", "one"}));
+}
+
+TEST_F(Backups, TheOldestMakeRoomAlsoWhenTheClockWasPutBack) {
+  BackupStore small(folder_, {20, 1000});
+  small.Keep("/file0", std::string(300, '0'));
+  MoveAllIntoTheFuture();
+  for (const std::string digit : {"1", "2", "3"}) {
+    small.Keep("/file" + digit, std::string(300, digit[0]));
+  }
+  const std::vector<Backup> left = small.List();
+  ASSERT_EQ(left.size(), 2U);
+  EXPECT_EQ(left[0].path, "/file3");
+  EXPECT_EQ(left[1].path, "/file2");
 }
 
 TEST_F(Backups, OneThatIsTooMuchByItselfIsRefusedAndTakesNoOthersPlace) {
@@ -254,6 +287,26 @@ TEST_F(Backups, TheStateFolderFollowsTheEnvironment) {
               return DefaultStateFolder();
             }),
             "/home/somebody/.local/state/ZanthMan");
+}
+
+TEST_F(Backups, TheStateFolderIsNeverInTheWorkingDirectory) {
+  const passwd* const user = ::getpwuid(::getuid());
+  ASSERT_NE(user, nullptr);
+  const std::string expected = std::string(user->pw_dir) + "/.local/state/ZanthMan";
+  EXPECT_EQ(InChild([] {
+              ::unsetenv("XDG_STATE_HOME");
+              ::unsetenv("HOME");
+              return DefaultStateFolder();
+            }),
+            expected);
+  for (const char* home : {"", "relative", "./here"}) {
+    EXPECT_EQ(InChild([&] {
+                ::unsetenv("XDG_STATE_HOME");
+                ::setenv("HOME", home, 1);
+                return DefaultStateFolder();
+              }),
+              expected);
+  }
 }
 
 }  // namespace

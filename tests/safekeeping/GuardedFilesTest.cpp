@@ -44,6 +44,7 @@ TEST_F(Guarded, AFileThatOthersChangedHindersNoNewOneOfAnotherSpelling) {
 
 /// Puts other bytes into a file, and its time of writing back.
 void ChangeUnseen(const std::string& path, const std::string& bytes) {
+  ::usleep(20'000);  // the clock of the file system is a coarse one
   const auto written = std::filesystem::last_write_time(path);
   std::ofstream(path, std::ios::binary) << bytes;
   std::filesystem::last_write_time(path, written);

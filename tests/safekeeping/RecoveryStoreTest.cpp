@@ -117,6 +117,16 @@ TEST_F(Recovery, ATextIsOfferedUntilItIsDiscarded) {
   EXPECT_TRUE(Runs().empty());
 }
 
+TEST_F(Recovery, AClockThatWasPutBackHidesNoText) {
+  { RecoveryStore(folder_).Keep(1, "/a", "kept"); }
+  const std::string run = folder_ + "/" + Runs().at(0);
+  WriteKeptText(PrivateFolder(run), "text-2", {"/b", 9'000'000'000, 6}, "future");
+  WriteKeptText(PrivateFolder(run), "text-3", {"/c", -5, 4}, "past");
+  { RecoveryStore(folder_).Keep(1, "/d", "later"); }
+  EXPECT_THAT(Offered(),
+              testing::UnorderedElementsAre("/a: kept", "/b: future", "/c: past", "/d: later"));
+}
+
 TEST_F(Recovery, TwoProgramsAreNotOfferedTheSame) {
   KilledAfter([&](RecoveryStore& store) { store.Keep(1, "/a", "text"); });
   const AbandonedTexts first = Abandoned();
