@@ -5,6 +5,7 @@
 #include "base/RuntimeError.h"
 #include "cli/CommandLineServices.h"
 #include "posix/PosixFiles.h"
+#include "safekeeping/BackupStore.h"
 
 namespace tessel::cli {
 
@@ -18,6 +19,7 @@ bool WriteResult(std::string_view bytes, const Destination& destination,
   }
   try {
     PosixFiles files;
+    files.KeepOldBytesBy(KeepAsBackups(DefaultBackupFolder()));
     destination.inPlace ? files.Write(file, bytes) : files.WriteAs(file, bytes);
     return true;
   } catch (const RuntimeError& error) {

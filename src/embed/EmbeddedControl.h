@@ -6,6 +6,7 @@
 
 #include "qt/TesselWidget.h"
 #include "qt/services/QtDesktop.h"
+#include "safekeeping/BackupStore.h"
 
 namespace tessel {
 
@@ -17,7 +18,9 @@ class EmbeddedControl {
                   const ucTessel::Options& options, QWidget* parent)
       : settings_(std::move(settings)),
         widget_(std::make_unique<TesselWidget>(desktop_.With(*settings_, templateDirectory),
-                                               desktop_.widgets, parent, options)) {}
+                                               desktop_.widgets, parent, options)) {
+    desktop_.files.KeepOldBytesBy(KeepAsBackups(DefaultBackupFolder()));
+  }
 
   TesselWidget& Widget() const { return *widget_; }
 

@@ -61,7 +61,8 @@ int Run(const Options& options) {
   WrittenMessages written;
   MessageBox& messages = picture ? static_cast<MessageBox&>(written) : desktop.messages;
   const std::string state = DefaultStateFolder();
-  BackupStore backups(state + "/backups");
+  BackupStore backups(DefaultBackupFolder());
+  desktop.files.KeepOldBytesBy(KeepAsBackups(DefaultBackupFolder()));
   BackupFiles keptFiles(desktop.files, backups);
   GuardedFiles files(keptFiles);
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);

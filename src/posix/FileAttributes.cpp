@@ -30,25 +30,40 @@ std::optional<std::string> InRoomEnough(Call call) {
   }
 }
 
-bool IsCopied(std::string_view name) {
-  return name.starts_with("user.") || name == kAccessControlList;
+bool IsOfUser(std::string_view name) { return name.starts_with("user."); }
+
+std::optional<std::string> ValueOf(const std::string& file, const char* name) {
+  return InRoomEnough(
+      [&](char* room, std::size_t size) { return ::lgetxattr(file.c_str(), name, room, size); });
+}
+
+bool Set(int file, const char* name, const std::string& value) {
+  return ::fsetxattr(file, name, value.data(), value.size(), 0) == 0;
+}
+
+/// Does the last call's error say that there is no such attribute?
+bool HasNone() { return errno == ENODATA || errno == EOPNOTSUPP; }
+
+bool CopyAccessControlList(const std::string& from, int to) {
+  const auto list = ValueOf(from, kAccessControlList);
+  if (list) return Set(to, kAccessControlList, *list);
+  // The directory may have given the new file a list.
+  return HasNone() && (::fremovexattr(to, kAccessControlList) == 0 || HasNone());
 }
 
 }  // namespace
 
-void CopyAttributes(const std::string& from, int to) {
-  // The directory may have given the new file a list.
-  ::fremovexattr(to, kAccessControlList);
-  std::string names = InRoomEnough([&](char* room, std::size_t size) {
-                        return ::listxattr(from.c_str(), room, size);
-                      }).value_or("");
+bool CopyAttributes(const std::string& from, int to) {
+  if (!CopyAccessControlList(from, to)) return false;
+  const std::string names = InRoomEnough([&](char* room, std::size_t size) {
+                              return ::llistxattr(from.c_str(), room, size);
+                            }).value_or("");
   for (std::size_t at = 0; at < names.size(); at = names.find('\0', at) + 1) {
     const char* const name = names.data() + at;
-    if (!IsCopied(name)) continue;
-    const auto value = InRoomEnough(
-        [&](char* room, std::size_t size) { return ::getxattr(from.c_str(), name, room, size); });
-    if (value) ::fsetxattr(to, name, value->data(), value->size(), 0);
+    if (!IsOfUser(name)) continue;
+    if (const auto value = ValueOf(from, name)) Set(to, name, *value);
   }
+  return true;
 }
 
 }  // namespace tessel::posix

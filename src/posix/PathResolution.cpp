@@ -1,24 +1,27 @@
 #include "posix/PathResolution.h"
 
 #include <dirent.h>
-#include <unistd.h>
 
-#include <climits>
 #include <memory>
 #include <optional>
 
 #include "posix/Posix.h"
+#include "posix/SharedFolder.h"
 #include "text/Text.h"
 
 namespace tessel::posix {
 namespace {
 
-constexpr int kMostLinks = 40;
-
 bool Fits(const std::string& path, bool wantsDirectory) {
   if (!wantsDirectory) return StatusOfLink(path).has_value();
   const auto status = StatusOf(path);
   return status && S_ISDIR(status->st_mode);
+}
+
+bool IsPlanted(const std::string& directory, const std::string& name) {
+  const auto folder = StatusOf(directory.empty() ? "." : directory);
+  const auto entry = StatusOfLink(directory + name);
+  return folder && entry && MayBePlanted(*folder, *entry);
 }
 
 std::optional<std::string> NameIn(const std::string& directory, const std::string& wanted,
@@ -32,7 +35,7 @@ std::optional<std::string> NameIn(const std::string& directory, const std::strin
   while (const dirent* entry = ::readdir(listing.get())) {
     const std::string name = entry->d_name;
     if (ToLowerText(name) == folded && (!found || name < *found) &&
-        Fits(directory + name, wantsDirectory)) {
+        Fits(directory + name, wantsDirectory) && !IsPlanted(directory, name)) {
       found = name;
     }
   }
@@ -60,21 +63,6 @@ std::string ResolveIgnoringCase(const std::string& path) {
     at = end;
   }
   return resolved;
-}
-
-std::string FollowLinks(std::string path) {
-  for (int links = 0; links < kMostLinks; ++links) {
-    const auto status = StatusOfLink(path);
-    if (!status && errno != ENOENT) throw FileProblem(errno);
-    if (!status || !S_ISLNK(status->st_mode)) return path;
-    std::string target(PATH_MAX, '\0');
-    const auto length =
-        Checked([&] { return ::readlink(path.c_str(), target.data(), target.size()); });
-    target.resize(static_cast<std::size_t>(length));
-    if (!target.starts_with('/')) target.insert(0, DirectoryPart(path));
-    path = std::move(target);
-  }
-  throw FileProblem(ELOOP);
 }
 
 }  // namespace tessel::posix

@@ -11,12 +11,9 @@ std::string DirectoryPart(std::string_view path);
 
 /// The path of what exists under that name, without regard to case (by the letters of
 /// Windows-1252, in which recent names are upper-cased) from the first component on that does not
-/// exist as written. An exact match always wins; of several others the first in byte order. The
-/// components behind one that nothing matches stay as they are.
+/// exist as written. An exact match always wins; of several others the first in byte order; what
+/// somebody else may have planted in a shared folder (see SharedFolder.h) is none. The components
+/// behind one that nothing matches stay as they are.
 std::string ResolveIgnoringCase(const std::string& path);
-
-/// Where a symbolic link leads in the end, also when nothing is there; any other path is returned
-/// as it is. Links that lead in a circle are a FileProblem.
-std::string FollowLinks(std::string path);
 
 }  // namespace tessel::posix

@@ -41,6 +41,12 @@ std::optional<struct stat> StatusOfLink(const std::string& path) {
   return status;
 }
 
+struct stat StatusOfOpen(int file) {
+  struct stat status {};
+  Checked([&] { return ::fstat(file, &status); });
+  return status;
+}
+
 void RefuseUnlessRegular(const struct stat& status) {
   if (S_ISDIR(status.st_mode)) throw FileProblem("it is a directory");
   if (!S_ISREG(status.st_mode)) throw FileProblem("it is not a regular file");

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tessel::posix {
 
@@ -46,8 +47,11 @@ class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
   ~Descriptor();
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
 
   int Number() const { return number_; }
   /// Closes it; what the system kept back until now may fail here: a FileProblem.
@@ -61,6 +65,9 @@ class Descriptor {
 std::optional<struct stat> StatusOf(const std::string& path);
 /// The same of a symbolic link itself.
 std::optional<struct stat> StatusOfLink(const std::string& path);
+
+/// What fstat says.
+struct stat StatusOfOpen(int file);
 
 /// A FileProblem unless it is a regular file.
 void RefuseUnlessRegular(const struct stat& status);

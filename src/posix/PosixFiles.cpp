@@ -10,6 +10,7 @@
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
 #include "posix/SafeSave.h"
+#include "posix/SaveTarget.h"
 #include "services/Paths.h"
 #include "text/Wildcards.h"
 
@@ -69,11 +70,17 @@ std::string PosixFiles::Read(const std::string& path) {
 }
 
 void PosixFiles::Write(const std::string& path, std::string_view bytes) {
-  OrTell("save", path, [&] { SaveWhole(FollowLinks(ResolveIgnoringCase(path)), bytes); });
+  OrTell("save", path, [&] { Save(ResolveIgnoringCase(path), bytes); });
 }
 
 void PosixFiles::WriteAs(const std::string& path, std::string_view bytes) {
-  OrTell("save", path, [&] { SaveWhole(FollowLinks(path), bytes); });
+  OrTell("save", path, [&] { Save(path, bytes); });
+}
+
+void PosixFiles::Save(const std::string& path, std::string_view bytes) {
+  KeepOldBytes keep;
+  if (keeper_) keep = [&](std::string_view old) { keeper_(path, old); };
+  SaveWhole(FindSaveTarget(path), bytes, keep);
 }
 
 void PosixFiles::SetAttributesNormal(const std::string& path) {
@@ -81,7 +88,11 @@ void PosixFiles::SetAttributesNormal(const std::string& path) {
     const std::string existing = ResolveIgnoringCase(path);
     const auto status = StatusOf(existing);
     if (!status || !S_ISREG(status->st_mode) || (status->st_mode & S_IWUSR) != 0) return;
-    Checked([&] { return ::chmod(existing.c_str(), (status->st_mode & 07777) | S_IWUSR); });
+    const SaveTarget target = FindSaveTarget(existing);
+    Checked([&] {
+      return ::fchmodat(target.directory.Number(), target.name.c_str(),
+                        (status->st_mode & 07777) | S_IWUSR, 0);
+    });
   });
 }
 

@@ -1,8 +1,10 @@
 // The files of a POSIX system.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "services/Services.h"
@@ -11,9 +13,16 @@ namespace tessel {
 
 /// Only regular files are read and written, byte for byte; anything else (a directory, a pipe, a
 /// device) is refused. Symbolic links are followed and stay. See SafeSave.h for what a save
-/// promises, and PathResolution.h for how paths are resolved.
+/// promises, PathResolution.h for how paths are resolved, and SaveTarget.h for what links are
+/// refused.
 class PosixFiles : public Files {
  public:
+  /// Keeps the bytes of the file at the path, which are about to be written over; see KeepOldBytes.
+  using Keeper = std::function<void(const std::string& path, std::string_view bytes)>;
+  /// Who keeps old bytes where a file can only be written in place. Without one such a file is not
+  /// written.
+  void KeepOldBytesBy(Keeper keeper) { keeper_ = std::move(keeper); }
+
   std::string Read(const std::string& path) override;
   void Write(const std::string& path, std::string_view bytes) override;
   void WriteAs(const std::string& path, std::string_view bytes) override;
@@ -21,6 +30,11 @@ class PosixFiles : public Files {
   /// In byte order. Directories and links that lead nowhere are no files.
   std::vector<std::string> Listing(const std::string& path) override;
   char Separator() const override { return '/'; }
+
+ private:
+  void Save(const std::string& path, std::string_view bytes);
+
+  Keeper keeper_;
 };
 
 }  // namespace tessel

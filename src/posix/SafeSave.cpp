@@ -4,12 +4,14 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <exception>
 #include <memory>
+#include <string>
 
 #include "posix/FileAttributes.h"
 #include "posix/FreshFile.h"
-#include "posix/PathResolution.h"
 #include "posix/Posix.h"
+#include "posix/SharedFolder.h"
 
 namespace tessel::posix {
 namespace {
@@ -29,33 +31,46 @@ bool DirectoryForbids(const FileProblem& problem) {
 }
 
 /// In a directory such as /tmp only a file's owner may put another one in its place.
-bool StickyDirectoryForbids(const std::string& target, const struct stat& old) {
-  const auto directory = StatusOf(DirectoryPart(target) + ".");
+bool StickyDirectoryForbids(const SaveTarget& target, const struct stat& old) {
+  const struct stat directory = StatusOfOpen(target.directory.Number());
   const uid_t user = ::geteuid();
-  return directory && (directory->st_mode & S_ISVTX) != 0 && user != 0 &&
-         user != directory->st_uid && user != old.st_uid;
+  return (directory.st_mode & S_ISVTX) != 0 && user != 0 && user != directory.st_uid &&
+         user != old.st_uid;
 }
 
-void RefuseUnlessWritable(const std::string& target, const struct stat& old) {
+bool HasOtherNames(const struct stat& old) { return old.st_nlink > 1; }
+
+void RefuseUnlessWritable(const SaveTarget& target, const struct stat& old) {
   RefuseUnlessRegular(old);
   if ((old.st_mode & kAnybodyWrites) == 0) throw FileProblem("the file is read-only");
-  Checked([&] { return ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS); });
-}
-
-void KeepOwnerAndPermissions(int file, const struct stat& old) {
-  // Only the superuser can give a file away; the group can be kept by its members.
-  if (::fchown(file, old.st_uid, old.st_gid) == -1) {
-    [[maybe_unused]] const int group = ::fchown(file, static_cast<uid_t>(-1), old.st_gid);
-  }
-  Checked([&] { return ::fchmod(file, old.st_mode & kPermissions); });
-}
-
-/// The directory that holds the file, opened to be listed and flushed; −1 when that is forbidden.
-int OpenDirectoryOf(const std::string& target) {
-  const std::string path = DirectoryPart(target);
-  return Retry([&] {
-    return ::open(path.empty() ? "." : path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  Checked([&] {
+    return ::faccessat(target.directory.Number(), target.name.c_str(), W_OK, AT_EACCESS);
   });
+  if (HasOtherNames(old) && IsSharedFolder(StatusOfOpen(target.directory.Number()))) {
+    throw FileProblem("it has a second name, in a folder that everybody can write to");
+  }
+}
+
+/// Only the superuser can give a file away, and a group only its members.
+bool KeepsOwner(int file, const struct stat& old) {
+  const struct stat fresh = StatusOfOpen(file);
+  return (fresh.st_uid == old.st_uid && fresh.st_gid == old.st_gid) ||
+         ::fchown(file, old.st_uid, old.st_gid) == 0;
+}
+
+/// True when the new file has all that the old one had besides its bytes.
+bool TakesAfter(const FreshFile& fresh, const SaveTarget& target, const struct stat& old) {
+  const std::string path =
+      "/proc/self/fd/" + std::to_string(target.directory.Number()) + "/" + target.name;
+  if (!CopyAttributes(path, fresh.Number()) || !KeepsOwner(fresh.Number(), old)) return false;
+  Checked([&] { return ::fchmod(fresh.Number(), old.st_mode & kPermissions); });
+  return true;
+}
+
+/// Opened to be listed and flushed; −1 when that is forbidden.
+int OpenAgain(const Descriptor& directory) {
+  return Retry(
+      [&] { return ::openat(directory.Number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
 }
 
 void SyncDirectory(int directory) {
@@ -66,16 +81,11 @@ void SyncDirectory(int directory) {
   }
 }
 
-void Replace(FreshFile& fresh, const std::string& target, const Status& old,
-             std::string_view bytes) {
-  if (old) {
-    CopyAttributes(target, fresh.Number());
-    KeepOwnerAndPermissions(fresh.Number(), *old);
-  }
+void Replace(FreshFile& fresh, const SaveTarget& target, std::string_view bytes) {
   WriteAll(fresh.Number(), bytes);
   Checked([&] { return ::fsync(fresh.Number()); });
-  fresh.TakePlaceOf(target);
-  const Descriptor directory(OpenDirectoryOf(target));
+  fresh.TakePlaceOf(target.name);
+  const Descriptor directory(OpenAgain(target.directory));
   if (directory.Number() == -1) return;
   SyncDirectory(directory.Number());
   RemoveAbandonedFiles(directory.Number(), kFreshPrefix, kAbandonedAge);
@@ -98,11 +108,23 @@ void PutBytes(int file, std::string_view bytes) {
   Checked([&] { return ::fsync(file); });
 }
 
-void OverwriteInPlace(const std::string& target, std::string_view bytes) {
+void Keep(std::string_view old, const KeepOldBytes& keep) {
+  const std::string only = "it can only be written in place, and ";
+  if (!keep) throw FileProblem(only + "nothing keeps its old bytes");
+  try {
+    keep(old);
+  } catch (const std::exception& problem) {
+    throw FileProblem(only + "its old bytes cannot be kept first (" + problem.what() + ")");
+  }
+}
+
+void OverwriteInPlace(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep) {
   const Descriptor file(Checked([&] {
-    return ::open(target.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    return ::openat(target.directory.Number(), target.name.c_str(),
+                    O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
   }));
   const std::string old = ReadAll(file.Number());
+  Keep(old, keep);
   ReserveRoom(file.Number(), old.size(), bytes.size());
   try {
     PutBytes(file.Number(), bytes);
@@ -117,13 +139,13 @@ void OverwriteInPlace(const std::string& target, std::string_view bytes) {
 }
 
 /// Nothing when the directory does not allow new files and there is an old one to write into.
-std::unique_ptr<FreshFile> CreateBeside(const std::string& target, const Status& old) {
+std::unique_ptr<FreshFile> CreateBeside(const SaveTarget& target, const Status& old) {
   // Until it has the old one's permissions, nobody else may look into the new file.
   constexpr mode_t kPrivate = S_IRUSR | S_IWUSR;
   constexpr mode_t kByUmask = 0666;
   if (old && StickyDirectoryForbids(target, *old)) return nullptr;
   try {
-    return std::make_unique<FreshFile>(AT_FDCWD, DirectoryPart(target) + kFreshPrefix,
+    return std::make_unique<FreshFile>(target.directory.Number(), kFreshPrefix,
                                        old ? kPrivate : kByUmask);
   } catch (const FileProblem& problem) {
     if (old && DirectoryForbids(problem)) return nullptr;
@@ -131,17 +153,22 @@ std::unique_ptr<FreshFile> CreateBeside(const std::string& target, const Status&
   }
 }
 
+/// False when the old file is to be written into instead.
+bool SaveBeside(const SaveTarget& target, const Status& old, std::string_view bytes) {
+  if (old && HasOtherNames(*old)) return false;
+  const auto fresh = CreateBeside(target, old);
+  if (!fresh || (old && !TakesAfter(*fresh, target, *old))) return false;
+  Replace(*fresh, target, bytes);
+  return true;
+}
+
 }  // namespace
 
-void SaveWhole(const std::string& target, std::string_view bytes) {
+void SaveWhole(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep) {
   const Status old = StatusOf(target);
   if (!old && errno != ENOENT) throw FileProblem(errno);
   if (old) RefuseUnlessWritable(target, *old);
-  if (const auto fresh = CreateBeside(target, old)) {
-    Replace(*fresh, target, old, bytes);
-  } else {
-    OverwriteInPlace(target, bytes);
-  }
+  if (!SaveBeside(target, old, bytes)) OverwriteInPlace(target, bytes, keep);
 }
 
 }  // namespace tessel::posix

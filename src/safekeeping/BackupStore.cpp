@@ -149,6 +149,15 @@ std::string PathOfFile(const std::string& path) {
   return real == nullptr ? resolved : std::string(real.get());
 }
 
+std::function<void(const std::string& path, std::string_view bytes)> KeepAsBackups(
+    std::string folder) {
+  return [folder = std::move(folder)](const std::string& path, std::string_view bytes) {
+    BackupStore(folder).Keep(PathOfFile(path), bytes);
+  };
+}
+
+std::string DefaultBackupFolder() { return DefaultStateFolder() + "/backups"; }
+
 void BackupFiles::Write(const std::string& path, std::string_view bytes) {
   if (FileExists(files_, path)) KeepOldBytes(path, bytes);
   files_.Write(path, bytes);

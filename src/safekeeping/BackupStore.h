@@ -47,6 +47,13 @@ class BackupStore {
 /// One name for a file, however it was reached: links and the letters' case are resolved.
 std::string PathOfFile(const std::string& path);
 
+/// Keeps old bytes as backups in that folder: for PosixFiles::KeepOldBytesBy.
+std::function<void(const std::string& path, std::string_view bytes)> KeepAsBackups(
+    std::string folder);
+
+/// The folder of the user's backups, in DefaultStateFolder.
+std::string DefaultBackupFolder();
+
 /// Files whose bytes are kept before others replace them. A backup that fails does not keep
 /// anybody from saving.
 class BackupFiles : public Files {

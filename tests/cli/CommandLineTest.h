@@ -26,7 +26,7 @@ using BeforeStart = std::function<void()>;
 
 class CommandLineTest : public testing::Test {
  protected:
-  CommandLineTest() : store_(home_ / "settings.db") {}
+  CommandLineTest() : store_(home_ / "settings.db"), state_(home_ / "state") {}
 
   /// Runs `tessel` with these arguments in the test's directory.
   Outcome Tessel(const std::vector<std::string>& arguments, const BeforeStart& before = {}) {
@@ -38,6 +38,7 @@ class CommandLineTest : public testing::Test {
       Redirect(err, STDERR_FILENO);
       if (::chdir(Directory().c_str()) != 0) ::_exit(126);
       ::setenv("ZANTHMAN_STORE", store_.c_str(), 1);
+      ::setenv("XDG_STATE_HOME", state_.c_str(), 1);
       // Opened first: another user may not reach it.
       const int program = ::open(TESSEL_PROGRAM, O_RDONLY | O_CLOEXEC);
       if (before) before();
@@ -100,6 +101,7 @@ class CommandLineTest : public testing::Test {
   TempDirectory files_;
   TempDirectory home_;
   std::string store_;
+  const std::string state_;  ///< where the programs of this user keep backups
 
  private:
   static void Redirect(const std::string& path, int descriptor) {

@@ -1,5 +1,9 @@
+#include <filesystem>
+#include <fstream>
+
 #include "cli/CommandLineTest.h"
 #include "converter/VersionEdits.h"
+#include "safekeeping/BackupStore.h"
 #include "support/TesselTest.h"
 
 namespace tessel::test {
@@ -44,6 +48,24 @@ TEST_F(CommandLineConvert, TakesTheNameOfTheResultAsItStands) {
 TEST_F(CommandLineConvert, ConvertsTheFileItselfThatAnotherSpellingNames) {
   EXPECT_EQ(OutputOf({"convert", "USER.CON", "--in-place"}), "");
   EXPECT_EQ(Bytes("User.con"), TheControl().Converts(old_));
+}
+
+TEST_F(CommandLineConvert, KeepsTheOldBytesOfAFileWithASecondNameAmongTheBackups) {
+  std::filesystem::create_hard_link(PathOf("User.con"), PathOf("second.con"));
+  EXPECT_EQ(OutputOf({"convert", "User.con", "--in-place"}), "");
+  EXPECT_EQ(Bytes("second.con"), TheControl().Converts(old_));
+  const BackupStore backups(state_ + "/ZanthMan/backups");
+  ASSERT_EQ(backups.List().size(), 1U);
+  EXPECT_EQ(backups.List()[0].path, PathOf("User.con"));
+  EXPECT_EQ(backups.Read(backups.List()[0]).bytes, old_);
+}
+
+TEST_F(CommandLineConvert, RefusesAFileWithASecondNameWhenItsOldBytesCannotBeKept) {
+  std::filesystem::create_hard_link(PathOf("User.con"), PathOf("second.con"));
+  std::ofstream(state_) << "no folder";
+  ExpectRefusal({"convert", "User.con", "--in-place"},
+                "Cannot save User.con: it can only be written in place, and its old bytes cannot "
+                "be kept first (Not a directory).");
 }
 
 TEST_F(CommandLineConvert, ConvertsSeveralFilesInPlace) {

@@ -16,6 +16,7 @@ namespace tessel::test {
 /// What the host has between the control and the disk.
 struct HostFiles {
   explicit HostFiles(const std::string& state) : backups(state + "/backups") {
+    plainFiles.KeepOldBytesBy(KeepAsBackups(state + "/backups"));
     keptFiles.TellProblems([this](const std::string& problem) { problems.push_back(problem); });
   }
 

@@ -249,6 +249,38 @@ TEST_F(KillTest, ATextThatASaveInPlaceTearsIsAmongTheBackups) {
   }
 }
 
+// As tessel saves: there is no other backup.
+TEST_F(KillTest, ATextThatASaveOfAFileWithTwoNamesTearsIsAmongTheBackups) {
+  const std::string old(300'000, 'o');
+  const std::string replacement(200'000, 'n');
+  const std::string path = directory.Put("user.con", old);
+  const std::string second = directory / "second.con";
+  const std::string state = directory / "state";
+  ASSERT_EQ(::link(path.c_str(), second.c_str()), 0);
+  int torn = 0;
+  auto outcome = DisturbedChild::Outcome::kKilled;
+  for (int call = 1; outcome == DisturbedChild::Outcome::kKilled; ++call) {
+    directory.Put("user.con", old);
+    std::filesystem::remove_all(state);
+    const auto save = [&] {
+      PosixFiles files;
+      files.KeepOldBytesBy(KeepAsBackups(state + "/backups"));
+      files.Write(path, replacement);
+      return true;
+    };
+    outcome = DisturbedChild(save).KillAt(call);
+    const std::string bytes = BytesOf(path);
+    ASSERT_EQ(BytesOf(second), bytes);
+    if (bytes == old) continue;
+    if (bytes != replacement) ++torn;
+    ASSERT_EQ(BackedUp(state), std::vector{old}) << "killed at call " << call;
+  }
+  EXPECT_EQ(outcome, DisturbedChild::Outcome::kSucceeded);
+  if (kCallsCanFail) {
+    EXPECT_GE(torn, 1);
+  }
+}
+
 TEST_F(KillTest, EveryTextThatWasKeptForRecoveryIsOffered) {
   constexpr int kDocuments = 3;
   const std::string state = directory / "state/ZanthMan";

@@ -39,7 +39,9 @@ ino_t InodeOf(const std::string& path) {
 }
 
 std::string Save(const std::string& path, std::string_view bytes = kNew) {
-  PosixFiles().Write(path, bytes);
+  PosixFiles files;
+  files.KeepOldBytesBy([](const std::string&, std::string_view) {});
+  files.Write(path, bytes);
   return "saved";
 }
 

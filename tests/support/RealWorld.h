@@ -23,6 +23,8 @@ class Program {
       : settings(store, [this](const std::string& text) { reports.push_back(text); }),
         control({fakes.messages, fakes.fileDialogs, fakes.forms, fakes.clipboard, settings,
                  fakes.pointer, files, fakes.random, fakes.focus, fakes.loop, "/nowhere"}) {
+    plainFiles.KeepOldBytesBy(
+        [this](const std::string&, std::string_view old) { writtenOver.emplace_back(old); });
     control.Initialize();
   }
 
@@ -58,7 +60,8 @@ class Program {
     return line;
   }
 
-  std::vector<std::string> reports;  ///< of the settings store
+  std::vector<std::string> writtenOver;  ///< the old bytes of the plain files written in place
+  std::vector<std::string> reports;      ///< of the settings store
   FakeServices fakes;
   PosixFiles plainFiles;
   FallbackSettingsStore settings;
