@@ -1,8 +1,12 @@
 #include "cli/Program.h"
 
+#include <unistd.h>
+
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <new>
+#include <string_view>
 
 #include "cli/CommandLineServices.h"
 #include "cli/Options.h"
@@ -10,24 +14,52 @@
 namespace tessel::cli {
 namespace {
 
+/// Asks for no memory itself.
+void TellThatMemoryEnded() {
+  constexpr std::string_view kSentence = "tessel: There is not enough memory for this.\n";
+  [[maybe_unused]] const auto written = ::write(STDERR_FILENO, kSentence.data(), kSentence.size());
+}
+
+[[noreturn]] void EndForWantOfMemory() {
+  try {
+    if (const auto problem = std::current_exception()) std::rethrow_exception(problem);
+  } catch (const std::bad_alloc&) {
+    TellThatMemoryEnded();
+    ::_exit(kFailed);
+  } catch (...) {
+  }
+  std::abort();
+}
+
 int Run(int argc, char** argv) {
   try {
     return RunSubcommand(argc, argv);
   } catch (const std::bad_alloc&) {
-    Complain("There is not enough memory for this.");
+    throw;
   } catch (const std::exception& error) {
     Complain(error.what());
   }
   return kFailed;
 }
 
-}  // namespace
-
-int RunProgram(int argc, char** argv) {
+int RunAndFlush(int argc, char** argv) {
   const int result = Run(argc, argv);
   if (std::cout.flush()) return result;
   Complain("The result could not be written to standard output.");
   return kFailed;
+}
+
+}  // namespace
+
+void TellWhenMemoryEnds() { std::set_terminate(EndForWantOfMemory); }
+
+int RunProgram(int argc, char** argv) {
+  try {
+    return RunAndFlush(argc, argv);
+  } catch (const std::bad_alloc&) {
+    TellThatMemoryEnded();
+    return kFailed;
+  }
 }
 
 }  // namespace tessel::cli
