@@ -96,6 +96,20 @@ TEST_F(FileDialogTest, OpensInTheWantedDirectoryWithTheWantedFilter) {
   EXPECT_EQ(mode, QFileDialog::ExistingFile);
 }
 
+TEST_F(FileDialogTest, ShowsANameThatLooksLikeMarkupAsItIs) {
+  Qt::TextFormat format = Qt::AutoText;
+  Choose("<b>none</b>.con");
+  Once<QMessageBox>([&](QMessageBox& notFound) {
+    asked = notFound.text();
+    format = notFound.textFormat();
+    Once<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    notFound.accept();
+  });
+  EXPECT_EQ(Open(0), std::nullopt);
+  EXPECT_TRUE(asked.contains("<b>none</b>.con")) << asked.toStdString();
+  EXPECT_EQ(format, Qt::PlainText);
+}
+
 TEST_F(FileDialogTest, GivesTheWholePathsOfSeveralFiles) {
   directory.Put("a.con", "");
   directory.Put("b.con", "");

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QStringDecoder>
+#include <QTextDocument>
 
 #include "text/Text.h"
 
@@ -32,5 +33,11 @@ QString ShownName(std::string_view bytes) {
 }
 
 QString WithoutMnemonics(QString text) { return text.replace('&', "&&"); }
+
+// Any other text is plain to the toolkit, too, and stays as it is for assistive programs.
+QString PlainToolTip(const QString& text) {
+  if (!Qt::mightBeRichText(text)) return text;
+  return "<p style='white-space:pre'>" + text.toHtmlEscaped() + "</p>";
+}
 
 }  // namespace tessel

@@ -19,4 +19,8 @@ QString ShownName(std::string_view bytes);
 /// The same with "&" doubled, for places where a single one marks a mnemonic.
 QString WithoutMnemonics(QString text);
 
+/// A text for a tooltip, which shows it as it is: the toolkit takes text that looks like markup for
+/// markup, and would read the images that it names.
+QString PlainToolTip(const QString& text);
+
 }  // namespace tessel

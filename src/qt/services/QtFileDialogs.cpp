@@ -1,5 +1,6 @@
 #include "qt/services/QtFileDialogs.h"
 
+#include <QChildEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,8 +13,23 @@
 namespace tessel {
 namespace {
 
+/// The dialog's own boxes guess whether a name in them is markup.
+class PlainBoxes : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* dialog, QEvent* event) override {
+    if (event->type() == QEvent::ChildPolished) {
+      auto* box = qobject_cast<QMessageBox*>(static_cast<QChildEvent*>(event)->child());
+      if (box != nullptr) box->setTextFormat(Qt::PlainText);
+    }
+    return QObject::eventFilter(dialog, event);
+  }
+};
+
 void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
   const bool open = request.kind == FileDialogRequest::Kind::kOpen;
+  dialog.installEventFilter(new PlainBoxes(&dialog));
   dialog.setWindowTitle(open ? QObject::tr("Open") : QObject::tr("Save As"));
   dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   if (!open) {

@@ -3,6 +3,7 @@
 #include <QToolTip>
 #include <QWidget>
 
+#include "qt/base/QtText.h"
 #include "qt/base/Windows1252Qt.h"
 
 namespace tessel {
@@ -14,7 +15,7 @@ QValidator::State ByteValidator::validate(QString& text, int&) const {
 }
 
 void ShowRefusal(QWidget& box, const QString& reason) {
-  QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())), reason.toHtmlEscaped(), &box);
+  QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())), PlainToolTip(reason), &box);
 }
 
 }  // namespace tessel

@@ -53,7 +53,7 @@ void TabStripView::DrawTab(int tab) {
   if (bar_->tabText(index) != WithoutMnemonics(caption)) {
     bar_->setTabText(index, WithoutMnemonics(caption));
   }
-  bar_->setTabToolTip(index, ShownName(shown.tag));
+  bar_->setTabToolTip(index, PlainToolTip(ShownName(shown.tag)));
   const QString name = caption.isEmpty() ? tr("Empty document") : caption;
   bar_->setAccessibleTabName(index, modified ? name + tr(", modified") : name);
   if (bar_->tabData(index).toString().toStdString() != shown.image) {

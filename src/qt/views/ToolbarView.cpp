@@ -47,7 +47,7 @@ void ToolbarView::AddButton(const ToolbarButton& button) {
   const QString toolTip = ShownText(button.toolTip);
   QAction* action = addAction(SvgIcon(key), toolTip);
   action->setObjectName(key);
-  action->setToolTip(toolTip);
+  action->setToolTip(PlainToolTip(toolTip));
   action->setCheckable(button.style == ButtonStyle::kTwoState);
   connect(action, &QAction::triggered, this,
           [this, pressed = button.key] { model_.Press(pressed); });
@@ -95,7 +95,7 @@ void ToolbarView::DrawMenu(QMenu& menu, const ToolbarButton& button) {
       continue;
     }
     QAction* action = menu.addAction(WithoutMnemonics(ShownName(item.text)));
-    action->setToolTip(ShownName(item.tag.empty() ? item.text : item.tag));
+    action->setToolTip(PlainToolTip(ShownName(item.tag.empty() ? item.text : item.tag)));
     connect(action, &QAction::triggered, this,
             [this, key = button.key, place = static_cast<int>(i) + 1] {
               model_.PressMenuItem(key, place);
