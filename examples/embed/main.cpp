@@ -12,6 +12,8 @@ class Window : public QWidget {
     auto* column = new QVBoxLayout(this);
     column->addWidget(editor_, 1);
     column->addWidget(status_);
+    // The texts hold what the user typed, and no markup.
+    status_->setTextFormat(Qt::PlainText);
     connect(editor_, &ucTessel::SettingTextColor, status_, &QLabel::setText);
     connect(editor_, &ucTessel::TextRefused, status_, &QLabel::setText);
     connect(editor_, &ucTessel::DocumentChanged, this, &Window::ShowName);
