@@ -17,7 +17,7 @@ class TesselWidget;
 ///
 /// A call does what the same call of the host's would do, on the thread of the user interface, and
 /// is answered when that has returned, after the message boxes that it shows. While a command is on
-/// its way or a dialog is open it is refused with the error "Tessel.Error.Busy".
+/// its way or a dialog or menu is open it is refused with the error "Tessel.Error.Busy".
 ///
 /// The names by which the host is found on the bus are its own matter (BusName).
 class Automation : public QObject {

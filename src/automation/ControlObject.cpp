@@ -22,6 +22,8 @@ bool ControlObject::Refused() const {
     sendErrorReply(QDBusError::UnknownObject, tr("The control is gone."));
   } else if (QApplication::activeModalWidget() != nullptr) {
     sendErrorReply(kBusy, tr("A dialog is open. Call again when the user has closed it."));
+  } else if (QApplication::activePopupWidget() != nullptr) {
+    sendErrorReply(kBusy, tr("A menu is open. Call again when the user has closed it."));
   } else if (control_->Tessel().Running()) {
     sendErrorReply(kBusy, tr("A command is on its way. Call again when it is through."));
   } else {

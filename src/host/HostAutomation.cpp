@@ -15,12 +15,11 @@ constexpr const char* kName = "org.zanthman.ZanthManager";
 
 }  // namespace
 
-HostAutomation::HostAutomation(TesselWidget& control, bool wanted, Tell tell)
-    : tell_(std::move(tell)) {
+HostAutomation::HostAutomation(TesselWidget& control, Tell tell) : tell_(std::move(tell)) {
   QString problem;
   const auto bus = SessionBus(problem);
   if (!bus) {
-    if (wanted) tell_(tr("Other programs cannot use the control: %1.").arg(problem));
+    tell_(tr("Other programs cannot use the control: %1.").arg(problem));
     return;
   }
   offer_ = std::make_unique<Automation>(control, *bus);

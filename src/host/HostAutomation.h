@@ -19,9 +19,8 @@ class HostAutomation : public QObject {
  public:
   using Tell = std::function<void(const QString& problem)>;
 
-  /// Problems are told, some of them later; that there is no session bus only when `wanted`, when
-  /// the user asked for automation.
-  HostAutomation(TesselWidget& control, bool wanted, Tell tell);
+  /// Problems are told, some of them later.
+  HostAutomation(TesselWidget& control, Tell tell);
   ~HostAutomation() override;
 
  private:

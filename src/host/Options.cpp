@@ -97,8 +97,7 @@ class Arguments {
         Absolute(parser_.isSet(hostDirectory_) ? Value(hostDirectory_) : DefaultHostDirectory());
     if (parser_.isSet(dark_)) options.scheme = ColourScheme::kDark;
     if (parser_.isSet(light_)) options.scheme = ColourScheme::kLight;
-    if (parser_.isSet(automation_)) options.automation = AutomationWish::kWanted;
-    if (parser_.isSet(noAutomation_)) options.automation = AutomationWish::kOff;
+    options.automation = parser_.isSet(automation_);
     options.screenshot = Value(screenshot_);
     options.size = ReadSize(Value(size_));
     return options;
@@ -149,7 +148,8 @@ class Arguments {
                                  "FILE"};
   QCommandLineOption automation_{
       "automation", "let other programs use the editor, and say so when that cannot be"};
-  QCommandLineOption noAutomation_{"no-automation", "let no other program use the editor"};
+  QCommandLineOption noAutomation_{"no-automation",
+                                   "let no other program use the editor, as without any option"};
   QCommandLineOption size_{"size", "size of the window in pixels", "WxH"};
   QCommandLineParser parser_;
 };

@@ -11,15 +11,12 @@
 
 namespace tessel {
 
-/// Whether other programs may use the control.
-enum class AutomationWish { kIfThereIsABus, kWanted, kOff };
-
 struct Options {
   std::vector<std::string> files;  ///< absolute paths
   std::string store;               ///< path of the settings store; empty: the default one
   std::string hostDirectory;       ///< where the templates are
   ColourScheme scheme = ColourScheme::kDesktop;
-  AutomationWish automation = AutomationWish::kIfThereIsABus;
+  bool automation = false;    ///< whether other programs may use the control
   std::string screenshot;     ///< where to leave a picture of the window; empty: none
   std::optional<QSize> size;  ///< of the window, in pixels
 };

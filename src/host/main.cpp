@@ -4,6 +4,7 @@
 #include <iostream>
 #include <optional>
 
+#include "automation/SessionBus.h"
 #include "host/AbruptEnd.h"
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"
@@ -78,10 +79,7 @@ int Run(const Options& options) {
   window.OfferBackups(backups);
   window.show();
   std::optional<HostAutomation> automation;
-  if (!picture && options.automation != AutomationWish::kOff) {
-    automation.emplace(window.Control(), options.automation == AutomationWish::kWanted,
-                       TellOnStandardError);
-  }
+  if (options.automation) automation.emplace(window.Control(), TellOnStandardError);
   std::optional<AbruptEnd> abruptEnd;
   if (!picture) {
     window.StartSession();
@@ -102,6 +100,7 @@ int main(int argc, char** argv) {
   const auto options = tessel::ParseOptions(argc, argv, exitStatus);
   if (!options) return exitStatus;
 
+  tessel::StartNoSessionBus();
   QCoreApplication::setOrganizationName("ZanthMan");
   QCoreApplication::setApplicationName("zanth-manager");
   QCoreApplication::setApplicationVersion(TESSEL_VERSION);

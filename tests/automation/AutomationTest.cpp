@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <QDialog>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QWidget>
@@ -98,6 +99,19 @@ TEST_F(AutomationTest, RefusesCallsWhileADialogOfTheHostIsOpen) {
   EXPECT_EQ(call.error().name(), kBusy);
   EXPECT_EQ(call.error().message(), "A dialog is open. Call again when the user has closed it.");
   dialog.close();
+  EXPECT_EQ(ErrorOf(offer.Path(), "SetTesselVersion", {"1.3D"}), "");
+}
+
+TEST_F(AutomationTest, RefusesCallsWhileAMenuIsOpen) {
+  const Automation offer(*control_.widget, bus_);
+  QMenu menu;
+  menu.addAction("Convert con to Version 1.5");
+  menu.popup(QPoint());
+  const QDBusPendingCall call = Call(offer.Path(), "Convert");
+  Await(call);
+  EXPECT_EQ(call.error().name(), kBusy);
+  EXPECT_EQ(call.error().message(), "A menu is open. Call again when the user has closed it.");
+  menu.close();
   EXPECT_EQ(ErrorOf(offer.Path(), "SetTesselVersion", {"1.3D"}), "");
 }
 

@@ -57,7 +57,7 @@ say "Opening a user file"
 dbus-monitor --session "type='signal',interface='Tessel.ucTessel'" >"$work/signals" 2>"$work/monitor.errors" &
 await "the monitor" in_signals NameAcquired
 cp "$data/zmuser.dat" "$work/x.con"
-start "$work/x.con"
+start --automation "$work/x.con"
 first=$!
 await "the program's name" owned_by $name $first
 await "its name as an instance" owned_by $name.instance$first $first
@@ -123,7 +123,7 @@ await "the converted text, as what is not saved yet," kept_text
 cmp "$data/zmuser.dat" "$work/x.con" || fail "the file on disk was touched"
 
 say "Starting it again"
-start
+start --automation
 second=$!
 await "the second one's name" owned_by $name.instance$second $second
 owned_by $name $first || fail "the second one took the first one's name"
@@ -144,11 +144,13 @@ wait $waiting && fail "a call was answered that did not end"
 grep -q NoReply "$work/answer" || fail "the call did not end with its program: $(<"$work/answer")"
 
 say "Offering nothing"
-before=$(clients)
-start --no-automation "$work/x.con"
-await "the program" runs_now $!
-[ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus"
-kill $!
+for option in "" --no-automation; do
+  before=$(clients)
+  start $option "$work/x.con"
+  await "the program" runs_now $!
+  [ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus, with \"$option\""
+  kill $!
+done
 before=$(clients)
 "$program" --host-dir "$data" --screenshot "$work/picture.png" "$work/x.con" 2>"$work/picture.errors" || fail "no picture"
 [ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus for a picture"
@@ -162,6 +164,10 @@ done
 
 say "Running without a bus"
 refused='zanth-manager: Other programs cannot use the control: '
+mkdir "$work/bin"
+printf '#!/bin/sh\ntouch "%s"\nexit 1\n' "$work/launched" >"$work/bin/dbus-launch"
+chmod +x "$work/bin/dbus-launch"
+PATH=$work/bin:$PATH
 for address in "" unix:path=/nonexistent autolaunch:; do
   for asked in "" --automation; do
     DBUS_SESSION_BUS_ADDRESS=$address start $asked
@@ -173,6 +179,14 @@ for address in "" unix:path=/nonexistent autolaunch:; do
     kill $!
   done
 done
+rm -f "$work/bus"
+touch "$work/bus"  # no socket, so no bus
+DBUS_SESSION_BUS_ADDRESS='' start --automation
+await "the program beside a file in the place of the bus" runs_now $!
+[[ $(told) == "$refused"* ]] || fail "beside a file in the place of the bus it says: $(told)"
+kill $!
+rm "$work/bus"
+[ -e "$work/launched" ] && fail "a bus was started"
 
 say "Being refused a name"
 cat >"$work/bus.conf" <<XML
@@ -182,7 +196,7 @@ XML
 dbus-daemon --config-file="$work/bus.conf" --print-address --nofork >"$work/address" 2>"$work/daemon.errors" &
 await "the strict bus" test -s "$work/address"
 DBUS_SESSION_BUS_ADDRESS=$(<"$work/address")
-start
+start --automation
 await "the program's complaint" grep -q "^zanth-manager: The bus does not give the name $name: " "$work/$runs.errors"
 to=$name.instance$! expect "('a',)" call Tessel.ucTessel.SetTesselVersion a
 kill $!
