@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <utility>
 
 #include "base/RuntimeError.h"
 #include "posix/HomeDirectory.h"
@@ -19,8 +20,7 @@ constexpr int kSchemaVersion = 1;
 constexpr int kPatienceMilliseconds = 2000;
 
 // The place of an entry is its row: a new row goes behind the last one, and a rewritten one stays.
-constexpr const char* kSchema = R"(
-  CREATE TABLE settings (
+constexpr const char* kTable = R"(CREATE TABLE settings (
     place INTEGER PRIMARY KEY,
     section BLOB NOT NULL,
     key BLOB NOT NULL,
@@ -28,8 +28,20 @@ constexpr const char* kSchema = R"(
     section_folded BLOB NOT NULL,
     key_folded BLOB NOT NULL,
     UNIQUE (section_folded, key_folded)
-  );
-  PRAGMA user_version = 1;)";
+  ))";
+constexpr const char* kVersionOfTheSchema = "PRAGMA user_version = 1";
+// SQLite keeps the words of a table as they were given, and has none for the index of its UNIQUE.
+constexpr const char* kIsTheTableWithItsIndex =
+    "SELECT count(*) = 2 AND total(CAST(sql AS BLOB) = ?1) = 1"
+    " AND total(type = 'index' AND sql IS NULL) = 1 FROM sqlite_schema";
+
+// A look at twenty thousand entries takes 300 of these.
+constexpr int kMostThousandsOfSteps = 5'000;
+
+constexpr std::pair<int, int> kSafeguards[] = {{SQLITE_DBCONFIG_DEFENSIVE, 1},
+                                               {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+                                               {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+                                               {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}};
 
 std::string FromEnvironment(const char* name) {
   const char* value = std::getenv(name);
@@ -73,6 +85,7 @@ std::string DefaultSettingsPath() {
 class SqliteSettingsStore::Statement {
  public:
   Statement(SqliteSettingsStore& store, const char* sql) : store_(store) {
+    store.steps_ = 0;
     if (sqlite3_prepare_v2(store.database_.get(), sql, -1, &statement_, nullptr) != SQLITE_OK) {
       store.Fail();
     }
@@ -132,10 +145,25 @@ void SqliteSettingsStore::Open() {
   if (result != SQLITE_OK) Fail();
   sqlite3_extended_result_codes(database, 1);
   sqlite3_busy_timeout(database, kPatienceMilliseconds);
+  TrustNothingInIt();
+}
+
+void SqliteSettingsStore::TrustNothingInIt() {
+  for (const auto& [safeguard, on] : kSafeguards) {
+    sqlite3_db_config(database_.get(), safeguard, on, nullptr);
+  }
+  const auto count = [](void* steps) -> int {
+    return ++*static_cast<int*>(steps) > kMostThousandsOfSteps;
+  };
+  sqlite3_progress_handler(database_.get(), 1000, count, &steps_);
+  Execute("PRAGMA cell_size_check = ON; PRAGMA mmap_size = 0");
 }
 
 void SqliteSettingsStore::MakeSchema() {
-  if (Number("PRAGMA user_version") == kSchemaVersion) return RefuseIfDamaged();
+  if (Number("PRAGMA user_version") == kSchemaVersion) {
+    RefuseOtherSchema();
+    return RefuseIfDamaged();
+  }
   // Somebody else may be making it at this moment: look again when nobody can.
   Execute("BEGIN IMMEDIATE");
   const int version = Number("PRAGMA user_version");
@@ -145,10 +173,21 @@ void SqliteSettingsStore::MakeSchema() {
   if (version < 0 || (version == 0 && Number("SELECT count(*) FROM sqlite_schema") > 0)) {
     Fail("it is no settings store");
   }
+  if (version == kSchemaVersion) RefuseOtherSchema();
   // Writing into a damaged file may fail half-way, which changes it.
   RefuseIfDamaged();
-  if (version == 0) Execute(kSchema);
+  if (version == 0) {
+    Execute(kTable);
+    Execute(kVersionOfTheSchema);
+  }
   Execute("COMMIT");
+}
+
+void SqliteSettingsStore::RefuseOtherSchema() {
+  const std::string table = kTable;
+  Statement look(*this, kIsTheTableWithItsIndex);
+  look.Bind(1, table);
+  if (!look.Step() || look.Number(0) != 1) Fail("it is no settings store");
 }
 
 /// Of itself SQLite only notices damage that it cannot read past: the rest would give wrong
@@ -222,6 +261,7 @@ void SqliteSettingsStore::DeleteSetting(const std::string& section, const std::s
 }
 
 void SqliteSettingsStore::Execute(const char* sql) {
+  steps_ = 0;
   if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) Fail();
 }
 
@@ -234,6 +274,9 @@ void SqliteSettingsStore::Fail(const std::string& reason) const {
   throw RuntimeError("Cannot use the settings store " + path_ + ": " + reason + ".");
 }
 
-void SqliteSettingsStore::Fail() const { Fail(sqlite3_errmsg(database_.get())); }
+void SqliteSettingsStore::Fail() const {
+  const bool tooLong = sqlite3_errcode(database_.get()) == SQLITE_INTERRUPT;
+  Fail(tooLong ? "it takes too long to read" : sqlite3_errmsg(database_.get()));
+}
 
 }  // namespace tessel

@@ -19,6 +19,9 @@ std::string DefaultSettingsPath();
 /// directories on the way to it. Keys, names and values are any bytes. Every call is a transaction
 /// of its own and waits up to two seconds for another program's.
 ///
+/// What is in the file is not trusted: one whose tables are not exactly those of a settings store
+/// is none, nothing in it runs, and a call that takes too many steps fails.
+///
 /// A file that is damaged, locked for longer, no settings store or one of a newer version is a
 /// RuntimeError that names it, in the constructor or in a later call.
 class SqliteSettingsStore : public SettingsStore {
@@ -41,7 +44,9 @@ class SqliteSettingsStore : public SettingsStore {
   };
 
   void Open();
+  void TrustNothingInIt();
   void MakeSchema();
+  void RefuseOtherSchema();
   void RefuseIfDamaged();
   void Execute(const char* sql);
   int Number(const char* sql);
@@ -49,6 +54,7 @@ class SqliteSettingsStore : public SettingsStore {
   [[noreturn]] void Fail() const;
 
   std::string path_;
+  int steps_ = 0;  // of the present statement, in thousands
   std::unique_ptr<sqlite3, Closer> database_;
 };
 
