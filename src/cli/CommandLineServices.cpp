@@ -2,8 +2,8 @@
 
 #include <iostream>
 
-#include "cli/SafeText.h"
 #include "models/Form.h"
+#include "text/SafeText.h"
 
 namespace tessel::cli {
 

@@ -2,9 +2,9 @@
 #include <vector>
 
 #include "cli/DocumentSession.h"
-#include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "converter/Converter.h"
+#include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {

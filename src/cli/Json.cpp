@@ -2,7 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "cli/SafeText.h"
+#include "text/SafeText.h"
 
 namespace tessel::cli {
 

@@ -3,8 +3,8 @@
 
 #include "cli/DocumentSession.h"
 #include "cli/Json.h"
-#include "cli/SafeText.h"
 #include "cli/Subcommands.h"
+#include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "cli/Usage.h"
 #include "documents/Templates.h"
+#include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {

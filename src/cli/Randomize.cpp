@@ -5,9 +5,9 @@
 
 #include "cli/DocumentSession.h"
 #include "cli/PanelItems.h"
-#include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "randomizer/frmRand.h"
+#include "text/SafeText.h"
 #include "text/Text.h"
 
 namespace tessel::cli {

@@ -1,6 +1,6 @@
 #include "cli/Usage.h"
 
-#include "cli/SafeText.h"
+#include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {

@@ -5,11 +5,11 @@
 
 #include "base/RuntimeError.h"
 #include "cli/CommandLineServices.h"
-#include "cli/SafeText.h"
 #include "cli/Subcommands.h"
 #include "posix/FallbackSettingsStore.h"
 #include "posix/PosixFiles.h"
 #include "posix/SqliteSettingsStore.h"
+#include "text/SafeText.h"
 #include "text/Text.h"
 #include "words/ScriptWords.h"
 #include "words/WordFile.h"

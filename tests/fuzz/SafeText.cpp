@@ -1,5 +1,5 @@
 // Text of files on a terminal or a page. An input is such a text.
-#include "cli/SafeText.h"
+#include "text/SafeText.h"
 
 #include <string>
 
@@ -52,7 +52,7 @@ std::size_t Characters(std::string_view text) {
 }  // namespace tessel::fuzz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace tessel::cli;
+  using namespace tessel;
   using namespace tessel::fuzz;
   const std::string text(AsText(data, size));
 

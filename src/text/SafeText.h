@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace tessel::cli {
+namespace tessel {
 
 /// UTF-8 of single-byte text, one character for each byte (see CodePointOfByte).
 std::string ToUtf8(std::string_view bytes);
@@ -29,4 +29,4 @@ std::string JsonForTerminal(std::string_view json);
 /// characters other than tab and line ends become U+FFFD.
 std::string ForHtml(std::string_view bytes);
 
-}  // namespace tessel::cli
+}  // namespace tessel

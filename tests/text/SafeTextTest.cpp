@@ -1,9 +1,9 @@
 // Text from files, made harmless for where it is shown.
 #include <gtest/gtest.h>
 
-#include "cli/SafeText.h"
+#include "text/SafeText.h"
 
-namespace tessel::cli {
+namespace tessel {
 namespace {
 
 TEST(SafeText, NamesAndMessagesAreOneLineOfUtf8) {
@@ -37,4 +37,4 @@ TEST(SafeText, APageShowsMarkupAsText) {
 }
 
 }  // namespace
-}  // namespace tessel::cli
+}  // namespace tessel

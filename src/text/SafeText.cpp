@@ -1,8 +1,8 @@
-#include "cli/SafeText.h"
+#include "text/SafeText.h"
 
 #include "text/Text.h"
 
-namespace tessel::cli {
+namespace tessel {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
@@ -153,4 +153,4 @@ std::string ForHtml(std::string_view bytes) {
   return out;
 }
 
-}  // namespace tessel::cli
+}  // namespace tessel
