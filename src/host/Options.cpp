@@ -10,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "host/StandardError.h"
 #include "posix/HostDirectory.h"
 #include "posix/SqliteSettingsStore.h"
 
@@ -154,13 +155,6 @@ class Arguments {
   QCommandLineParser parser_;
 };
 
-/// On one line of a terminal, whatever is in it.
-std::string Harmless(std::string text) {
-  const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; };
-  std::ranges::replace_if(text, isControl, '?');
-  return text;
-}
-
 }  // namespace
 
 std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
@@ -174,8 +168,8 @@ std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
   } else if (problem.empty()) {
     return arguments.Wanted();
   } else {
-    std::cerr << "zanth-manager: " << Harmless(problem)
-              << "\n\"zanth-manager --help\" tells more.\n";
+    TellOnStandardError(problem);
+    std::cerr << "\"zanth-manager --help\" tells more.\n";
     exitStatus = kBadArguments;
   }
   return std::nullopt;

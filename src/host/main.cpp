@@ -1,7 +1,6 @@
 // Zanth Manager: a window around the control.
 #include <QApplication>
 #include <QIcon>
-#include <iostream>
 #include <optional>
 
 #include "automation/SessionBus.h"
@@ -9,6 +8,7 @@
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
+#include "host/StandardError.h"
 #include "posix/FallbackSettingsStore.h"
 #include "posix/Signals.h"
 #include "qt/base/QtText.h"
@@ -29,7 +29,7 @@ class WrittenMessages : public MessageBox {
  public:
   MessageAnswer Show(const std::string& text, MessageIcon, const std::string&,
                      MessageButtons buttons) override {
-    std::cerr << "zanth-manager: " << text << "\n";
+    TellOnStandardError(text);
     ++written_;
     return buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kCancel;
   }
@@ -44,18 +44,14 @@ bool TakePicture(MainWindow& window, const std::string& file) {
   QApplication::processEvents();
   const QString path = ShownName(file);
   if (window.grab().save(path)) return true;
-  std::cerr << "zanth-manager: cannot write the picture " << file << "\n";
+  TellOnStandardError("cannot write the picture " + file);
   return false;
-}
-
-void TellOnStandardError(const QString& problem) {
-  std::cerr << "zanth-manager: " << problem.toStdString() << "\n";
 }
 
 int Run(const Options& options) {
   const bool picture = !options.screenshot.empty();
   FallbackSettingsStore settings(options.store, [picture](const std::string& problem) {
-    std::cerr << "zanth-manager: " << problem << "\n";
+    TellOnStandardError(problem);
     if (!picture) TellWhenIdle(problem);
   });
   QtDesktop desktop;
@@ -79,7 +75,10 @@ int Run(const Options& options) {
   window.OfferBackups(backups);
   window.show();
   std::optional<HostAutomation> automation;
-  if (options.automation) automation.emplace(window.Control(), TellOnStandardError);
+  if (options.automation) {
+    automation.emplace(window.Control(),
+                       [](const QString& problem) { TellOnStandardError(problem.toStdString()); });
+  }
   std::optional<AbruptEnd> abruptEnd;
   if (!picture) {
     window.StartSession();

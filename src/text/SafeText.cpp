@@ -61,6 +61,14 @@ std::optional<char32_t> TakeCharacter(std::string_view& text) {
 
 bool IsControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
+/// The invisible marks that turn the reading direction round for what follows them.
+bool TurnsDirection(char32_t c) {
+  return c == 0x061C || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) ||
+         (c >= 0x2066 && c <= 0x2069);
+}
+
+bool IsObeyed(char32_t c) { return IsControl(c) || TurnsDirection(c); }
+
 bool EndsLine(char32_t c) { return c == '\n' || c == '\t'; }
 
 }  // namespace
@@ -76,7 +84,7 @@ std::string ForTerminal(std::string_view text) {
   std::string out;
   while (!text.empty()) {
     const auto c = TakeCharacter(text);
-    if (c && !IsControl(*c)) {
+    if (c && !IsObeyed(*c)) {
       AppendUtf8(out, *c);
     } else {
       out += '?';
@@ -114,11 +122,10 @@ std::string JsonForTerminal(std::string_view json) {
   std::string out;
   while (!json.empty()) {
     const char32_t c = TakeCharacter(json).value_or(kReplacement);
-    if (c >= 0x7F && IsControl(c)) {
+    if (c >= 0x7F && IsObeyed(c)) {
       constexpr std::string_view kDigits = "0123456789abcdef";
-      out += "\\u00";
-      out += kDigits[c >> 4];
-      out += kDigits[c & 0xF];
+      out += "\\u";
+      for (int shift = 12; shift >= 0; shift -= 4) out += kDigits[(c >> shift) & 0xF];
     } else {
       AppendUtf8(out, c);
     }

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
@@ -59,6 +60,27 @@ TEST_F(HostProgram, SaysThatTheSettingsStoreCannotBeUsed) {
   EXPECT_EQ(Start({"--screenshot", picture, "--store", store}), 0);
   EXPECT_TRUE(Said("zanth-manager: Cannot use the settings store " + store)) << BytesOf(errors);
   EXPECT_EQ(BytesOf(store), "no database, but long enough to be read");
+}
+
+// A terminal obeys ESC and what follows it; the other mark turns the reading direction round.
+TEST_F(HostProgram, WritesNoControlCharactersOfNames) {
+  const std::string bad = "a\x1b[31m\n\x7f\xc2\x9b\xe2\x80\xae.con";
+  const std::string shown = "a?[31m????.con";
+  std::filesystem::create_directory(directory / bad);
+  const std::string store = directory.Put(bad + ".db", "no database, but long enough to be read");
+  const std::vector<std::vector<std::string>> starts = {
+      {directory / bad},
+      {"--" + bad},
+      {"--host-dir", directory / "no" + bad},
+      {"--screenshot", directory / "none/" + bad},
+      {"--screenshot", picture, directory / "none" + bad},
+      {"--screenshot", picture, "--store", store}};
+  for (const auto& arguments : starts) {
+    Start(arguments);
+    EXPECT_TRUE(Said(shown)) << BytesOf(errors);
+    EXPECT_FALSE(Said("\x1b") || Said("\x7f") || Said("\xc2\x9b") || Said("\xe2\x80\xae"))
+        << arguments[0];
+  }
 }
 
 TEST_F(HostProgram, RefusesASizeThatIsNone) {

@@ -11,6 +11,17 @@ TEST(SafeText, NamesAndMessagesAreOneLineOfUtf8) {
   EXPECT_EQ(ForTerminal("a\nb\x1b[2Jc\x7f\u0090"), "a?b?[2Jc??");
 }
 
+TEST(SafeText, NamesTurnNoReadingDirection) {
+  EXPECT_EQ(ForTerminal("\u061c\u200e\u200f\u202a\u202e\u2066\u2069"), "???????");
+  EXPECT_EQ(ForTerminal("\u200d\u2029\u202f\u2065\u206a\u05d0"),
+            "\u200d\u2029\u202f\u2065\u206a\u05d0");
+}
+
+TEST(SafeText, JsonEscapesWhatATerminalObeys) {
+  EXPECT_EQ(JsonForTerminal("\"\x7f\u009b\u202e\u2066\u00e9\""),
+            "\"\\u007f\\u009b\\u202e\\u2066\u00e9\"");
+}
+
 TEST(SafeText, BytesThatAreNoUtf8AreMarked) {
   EXPECT_EQ(ForTerminal("\xff"), "?");
   EXPECT_EQ(ForTerminal("\xc3"), "?");                 // cut short

@@ -1,0 +1,13 @@
+#include "host/StandardError.h"
+
+#include <iostream>
+
+#include "text/SafeText.h"
+
+namespace tessel {
+
+void TellOnStandardError(std::string_view text) {
+  std::cerr << "zanth-manager: " << ForTerminal(text) << "\n";
+}
+
+}  // namespace tessel
