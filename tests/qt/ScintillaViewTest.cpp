@@ -1,5 +1,6 @@
 // What the model does can be seen in the widget, and what is typed arrives in the model.
 #include <QClipboard>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <utility>
@@ -8,6 +9,7 @@
 #include "qt/ScintillaViewFixture.h"
 #include "qt/base/Windows1252Qt.h"
 #include "qt/services/QtClipboard.h"
+#include "tools/EditCommands.h"
 
 namespace tessel {
 namespace {
@@ -388,6 +390,45 @@ TEST_F(ScintillaViewSystemClipboard, KeepsAllBytes) {
 TEST_F(ScintillaViewSystemClipboard, ShowsOtherProgramsTheCharacters) {
   clipboard.SetText("\x80\x93");
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("\u20AC\u201C"));
+}
+
+TEST_F(ScintillaViewSystemClipboard, KeepsTheSelectionWhenThereIsAPictureAndNoText) {
+  QApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));
+  model.SetText("kept");
+  model.SetSelLength(4);
+  EXPECT_THROW(Paste(model, clipboard), RuntimeError);
+  EXPECT_EQ(model.Text(), "kept");
+  EXPECT_EQ(model.SelLength(), 4);
+  QApplication::clipboard()->clear();
+  Paste(model, clipboard);
+  EXPECT_EQ(model.Text(), "");
+}
+
+/// What a program offers that takes its time to say that it has nothing.
+class SlowData : public QMimeData {
+ public:
+  SlowData(int milliseconds, int& questions)
+      : milliseconds_(milliseconds), questions_(&questions) {}
+  QStringList formats() const override {
+    ++*questions_;
+    QTest::qSleep(milliseconds_);
+    return {};
+  }
+
+ private:
+  int milliseconds_;
+  int* questions_;
+};
+
+TEST_F(ScintillaViewSystemClipboard, AsksAProgramThatDoesNotAnswerOnce) {
+  int questions = 0;
+  QApplication::clipboard()->setMimeData(new SlowData(1100, questions));
+  questions = 0;
+  EXPECT_THROW(clipboard.GetText(), RuntimeError);
+  EXPECT_EQ(questions, 1);
+  QApplication::clipboard()->setMimeData(new SlowData(1, questions));
+  EXPECT_EQ(clipboard.GetText(), "");
+  QApplication::clipboard()->clear();
 }
 
 TEST_F(ScintillaViewSystemClipboard, RefusesAForeignTextWholeAndKeepsTheSelection) {

@@ -13,8 +13,9 @@ class QtClipboard : public Clipboard {
  public:
   void Clear() override;
   void SetText(const std::string& text) override;
-  /// Empty when there is no text. A text with a character that Windows-1252 cannot hold is a
-  /// RuntimeError, so that a paste of it ends before it has replaced anything.
+  /// Empty when the clipboard is. A RuntimeError, so that a paste ends before it has replaced
+  /// anything, when there is something else and no text, a text with a character that Windows-1252
+  /// cannot hold, or when the program that has the clipboard does not answer.
   std::string GetText() override;
 };
 
