@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Measures which lines of src/ the tests run: everything but the widgets of qt/. Prints the
-# share of each folder and the lines that no test runs. COVERAGE_GOAL=98 makes it fail below that.
+# Measures which lines of src/ the tests run: everything but the widgets of qt/. Prints for each file
+# the share and the lines that no test runs. COVERAGE_GOAL=98 makes it fail below that.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-install_missing "${build_packages[@]}" "${test_packages[@]}"
+install_missing "${build_packages[@]}" "${test_packages[@]}" gcovr
 
 build=build/coverage
 jobs=${COVERAGE_JOBS:-$(nproc)}
@@ -20,4 +20,4 @@ chmod -R a+rwX "$build"
 # Programs without rights cannot write their counts, and say so where a test compares what is said; those
 # without room would tear the counts of all others.
 ctest --test-dir "$build" -j "$jobs" --no-tests=error -E '^cli.*DiskIsFull' | tail -n 8 || true
-exec scripts/coverage.py "$build" "${COVERAGE_GOAL:-0}"
+exec gcovr --root . -j "$jobs" --filter src/ --exclude src/qt/ --fail-under-line "${COVERAGE_GOAL:-0}" "$build"
