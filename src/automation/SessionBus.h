@@ -11,8 +11,4 @@ namespace tessel {
 /// that is there already is asked: none is started.
 std::optional<QDBusConnection> SessionBus(QString& problem);
 
-/// Where there is no session bus, sees to it that nothing in this process starts one: the toolkit
-/// would do so for its own purposes. To be called before the application object is made.
-void StartNoSessionBus();
-
 }  // namespace tessel

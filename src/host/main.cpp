@@ -3,7 +3,7 @@
 #include <QIcon>
 #include <optional>
 
-#include "automation/SessionBus.h"
+#include "automation/BusAddress.h"
 #include "host/AbruptEnd.h"
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"

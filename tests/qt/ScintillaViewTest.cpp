@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QTest>
 #include <utility>
 
 #include "base/RuntimeError.h"
