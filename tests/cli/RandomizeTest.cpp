@@ -1,4 +1,5 @@
 #include "cli/CommandLineTest.h"
+#include "settings/ItemTables.h"
 
 namespace tessel::test {
 namespace {
@@ -85,7 +86,7 @@ TEST_F(CommandLineRandomize, ReportsOldAndNewValues) {
       outcome.err.starts_with("Max Regular Health                     100 ->      706\n"
                               "Max Atomic Health                        2 ->      534\n"))
       << outcome.err;
-  EXPECT_EQ(std::ranges::count(outcome.err, '\n'), 10);
+  EXPECT_EQ(std::ranges::count(outcome.err, '\n'), std::ssize(PlayerItemTable));
 }
 
 TEST_F(CommandLineRandomize, RefusesBadBoundsInTheWordsOfTheControl) {
