@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include "drive/qt/Input.h"
+#include "qt/base/Utf8.h"
 #include "qt/base/Windows1252Qt.h"
 #include "qt/editor/EditorKeys.h"
 #include "qt/editor/ScintillaView.h"
@@ -20,8 +21,6 @@ void Press(QWidget& widget, int key, const QString& text) {
     QCoreApplication::sendEvent(&widget, &event);
   }
 }
-
-bool StartsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
 
 }  // namespace
 

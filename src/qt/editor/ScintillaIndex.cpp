@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "qt/base/Utf8.h"
 #include "qt/base/Windows1252Qt.h"
 
 namespace tessel {
@@ -10,8 +11,6 @@ namespace {
 
 constexpr SciPosition kLongestCounted = 8192;
 constexpr SciPosition kBlockSize = 4096;
-
-bool StartsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
 
 ScintillaExtent operator+(ScintillaExtent a, ScintillaExtent b) {
   return {a.characters + b.characters, a.bytes + b.bytes};

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <array>
 
+#include "qt/base/Utf8.h"
 #include "qt/base/Windows1252Qt.h"
 
 namespace tessel {
 namespace {
-
-bool StartsCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
 
 /// Spreads what there is one of for each character over the bytes of the characters.
 std::string OnePerByte(std::string_view perCharacter, std::string_view utf8) {
