@@ -254,7 +254,7 @@ const CLI::App& DeepestChosen(const CLI::App& app) {
   return chosen.empty() ? app : DeepestChosen(*chosen.front());
 }
 
-std::string Describe(const CLI::App* program, const CLI::Error& error) {
+std::string MisuseMessage(const CLI::App* program, const CLI::Error& error) {
   Misuse misuse;
   misuse.command = ChosenCommand(*program);
   misuse.reason = error.what();
@@ -274,7 +274,7 @@ int RunSubcommand(int argc, char** argv) {
                    "tessel");
   AddSubcommands(program, arguments);
   AddVersion(program, "tessel " TESSEL_VERSION);
-  program.failure_message(Describe);
+  program.failure_message(MisuseMessage);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -5,14 +5,14 @@
 namespace tessel {
 namespace {
 
-constexpr const char* kSection = "ConWords";
+constexpr const char* kWordsSection = "ConWords";
 
 std::string NameKey(const std::string& word) { return "NAME" + word; }
 std::string ParametersKey(const std::string& word) { return "PARAMS" + word; }
 
 std::string ReadParameters(SettingsStore& settings, const std::string& word) {
   try {
-    return settings.GetSetting(kSection, ParametersKey(word)).value_or("");
+    return settings.GetSetting(kWordsSection, ParametersKey(word)).value_or("");
   } catch (const RuntimeError&) {
     return {};
   }
@@ -22,7 +22,7 @@ std::string ReadParameters(SettingsStore& settings, const std::string& word) {
 
 std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings) {
   std::vector<ScriptWord> words;
-  for (const auto& [key, value] : settings.GetAllSettings(kSection)) {
+  for (const auto& [key, value] : settings.GetAllSettings(kWordsSection)) {
     if (!value.empty() && value.find('[') == value.npos) words.push_back({value, {}});
   }
   for (ScriptWord& word : words) {
@@ -32,7 +32,7 @@ std::vector<ScriptWord> ReadScriptWords(SettingsStore& settings) {
 }
 
 bool HasScriptWordEntries(SettingsStore& settings) {
-  return !settings.GetAllSettings(kSection).empty();
+  return !settings.GetAllSettings(kWordsSection).empty();
 }
 
 void WriteScriptWord(SettingsStore& settings, const ScriptWord& word) {
@@ -45,12 +45,12 @@ void WriteScriptWords(SettingsStore& settings, const std::vector<ScriptWord>& wo
     entries.emplace_back(NameKey(word.word), word.word);
     entries.emplace_back(ParametersKey(word.word), word.parameters);
   }
-  settings.SaveSettings(kSection, entries);
+  settings.SaveSettings(kWordsSection, entries);
 }
 
 void DeleteScriptWord(SettingsStore& settings, const std::string& word) {
-  settings.DeleteSetting(kSection, NameKey(word));
-  settings.DeleteSetting(kSection, ParametersKey(word));
+  settings.DeleteSetting(kWordsSection, NameKey(word));
+  settings.DeleteSetting(kWordsSection, ParametersKey(word));
 }
 
 }  // namespace tessel

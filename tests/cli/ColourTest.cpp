@@ -7,11 +7,11 @@ namespace {
 
 using nlohmann::json;
 
-const std::string kText = "define A 1 // <b>\x1B[2J\x9D&'\xE9\r\nb";
+const std::string kColouredText = "define A 1 // <b>\x1B[2J\x9D&'\xE9\r\nb";
 
 class CommandLineColour : public CommandLineTest {
  protected:
-  CommandLineColour() { Put("User.con", kText); }
+  CommandLineColour() { Put("User.con", kColouredText); }
 };
 
 TEST_F(CommandLineColour, PrintsPlainTextWhereThereIsNoTerminal) {

@@ -7,14 +7,14 @@ namespace {
 
 using nlohmann::json;
 
-const std::string kText =
+const std::string kLevelsText =
     "definelevelname 0 0 E1L1.map 01:45 00:53 HOLLYWOOD HOLOCAUST\r\n"
     "definelevelname 0 7 E1L8.map 03:45 01:50 CAF\xC9 <b>\r\n"
     "define QSIZE 64\r\n";
 
 class CommandLineLevels : public CommandLineTest {
  protected:
-  CommandLineLevels() { Put("User.con", kText); }
+  CommandLineLevels() { Put("User.con", kLevelsText); }
 };
 
 TEST_F(CommandLineLevels, ListsLevelsMapsAndTitles) {
@@ -47,17 +47,18 @@ TEST_F(CommandLineLevels, ShowsOneLevel) {
 
 TEST_F(CommandLineLevels, ChangesMapAndTitle) {
   EXPECT_EQ(OutputOf({"level", "User.con", "0 7", "--map", "new.map"}),
-            With(kText, "E1L8.map", "new.map"));
+            With(kLevelsText, "E1L8.map", "new.map"));
   EXPECT_EQ(OutputOf({"level", "User.con", "0 7", "--title", "IT'S: HERE"}),
-            With(kText, "CAF\xC9 <b>", "IT'S: HERE"));
+            With(kLevelsText, "CAF\xC9 <b>", "IT'S: HERE"));
   EXPECT_EQ(OutputOf({"level", "User.con", "0 0", "--map", "a.map", "--title", "B", "--in-place"}),
             "");
-  EXPECT_EQ(Bytes("User.con"), With(With(kText, "E1L1.map", "a.map"), "HOLLYWOOD HOLOCAUST", "B"));
+  EXPECT_EQ(Bytes("User.con"),
+            With(With(kLevelsText, "E1L1.map", "a.map"), "HOLLYWOOD HOLOCAUST", "B"));
 }
 
 TEST_F(CommandLineLevels, WritesLettersAsTheSingleBytesOfCONFiles) {
   EXPECT_EQ(OutputOf({"level", "User.con", "0 7", "--title", "\xC3\x84 \xE2\x82\xAC"}),
-            With(kText, "CAF\xC9 <b>", "\xC4 \x80"));
+            With(kLevelsText, "CAF\xC9 <b>", "\xC4 \x80"));
 }
 
 TEST_F(CommandLineLevels, RefusesLettersThatCONFilesDoNotHave) {

@@ -5,7 +5,7 @@ namespace tessel::test {
 namespace {
 
 // The first numbers of the unseeded generator are 0.7055475, 0.5334240 and 0.5795186.
-const std::string kText =
+const std::string kHealthText =
     "define MAXPLAYERHEALTH 100\r\n"
     "define MAXPLAYERATOMICHEALTH 2\r\n"
     "define STARTARMORHEALTH 0\r\n"
@@ -19,7 +19,7 @@ const std::string kText =
 
 class CommandLineRandomize : public CommandLineTest {
  protected:
-  CommandLineRandomize() { Put("User.con", kText); }
+  CommandLineRandomize() { Put("User.con", kHealthText); }
 
   std::vector<std::string> Arguments(const std::string& lower, const std::string& upper,
                                      const std::vector<std::string>& more = {}) {
@@ -40,7 +40,7 @@ TEST_F(CommandLineRandomize, DrawsTheUnseededSequence) {
                        "define STEROID_AMOUNT 290\r\n"
                        "define SHIELD_AMOUNT 302\r\n"))
       << text;
-  EXPECT_EQ(Bytes("User.con"), kText);
+  EXPECT_EQ(Bytes("User.con"), kHealthText);
 }
 
 TEST_F(CommandLineRandomize, GivesTheSameForTheSameSeedAndOtherwiseAnother) {
@@ -105,7 +105,7 @@ TEST_F(CommandLineRandomize, RefusesBoundsThatChangeNothing) {
 }
 
 TEST_F(CommandLineRandomize, LeavesTheFileAloneWhenAValueIsNoNumber) {
-  Put("User.con", With(kText, "STARTARMORHEALTH 0", "STARTARMORHEALTH much"));
+  Put("User.con", With(kHealthText, "STARTARMORHEALTH 0", "STARTARMORHEALTH much"));
   ExpectRefusal(Arguments("1", "9", {"--keep-below", "--in-place"}),
                 "The value \"much\" of Armor is not a number.");
 }

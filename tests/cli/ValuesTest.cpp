@@ -9,7 +9,7 @@ namespace {
 using nlohmann::json;
 using namespace std::string_literals;
 
-const std::string kText =
+const std::string kValuesText =
     "define MAXPLAYERHEALTH   100  // health\r\n"
     "define CAMERASDESTRUCTABLE NO // cameras\r\n"
     "define PISTOL_WEAPON_STRENGTH 6\r\n"
@@ -25,7 +25,7 @@ const std::ptrdiff_t kSettings = [] {
 
 class CommandLineValues : public CommandLineTest {
  protected:
-  CommandLineValues() { Put("User.con", kText); }
+  CommandLineValues() { Put("User.con", kValuesText); }
 };
 
 TEST_F(CommandLineValues, PrintsAValueByDisplayName) {
@@ -60,28 +60,29 @@ TEST_F(CommandLineValues, RefusesADefineThatTheFileLacks) {
 }
 
 TEST_F(CommandLineValues, SetsAValueOnStandardOutputAndLeavesTheFileAlone) {
-  EXPECT_EQ(OutputOf({"set", "User.con", "Max Regular Health", "250"}), With(kText, "100", "250"));
-  EXPECT_EQ(Bytes("User.con"), kText);
+  EXPECT_EQ(OutputOf({"set", "User.con", "Max Regular Health", "250"}),
+            With(kValuesText, "100", "250"));
+  EXPECT_EQ(Bytes("User.con"), kValuesText);
 }
 
 TEST_F(CommandLineValues, SetsAValueInPlace) {
   EXPECT_EQ(OutputOf({"set", "User.con", "Max Regular Health", "7", "--in-place"}), "");
-  EXPECT_EQ(Bytes("User.con"), With(kText, "100", "7"));
+  EXPECT_EQ(Bytes("User.con"), With(kValuesText, "100", "7"));
 }
 
 TEST_F(CommandLineValues, SetsAValueIntoAnotherFile) {
   EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "-1", "-o", "new.con"}), "");
-  EXPECT_EQ(Bytes("new.con"), With(kText, "64", "-1"));
-  EXPECT_EQ(Bytes("User.con"), kText);
+  EXPECT_EQ(Bytes("new.con"), With(kValuesText, "64", "-1"));
+  EXPECT_EQ(Bytes("User.con"), kValuesText);
   EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "--output=new.con"}), "");
-  EXPECT_EQ(Bytes("new.con"), With(kText, "64", "9"));
+  EXPECT_EQ(Bytes("new.con"), With(kValuesText, "64", "9"));
 }
 
 TEST_F(CommandLineValues, SetsAYesNoSettingInAnyCase) {
-  const std::string yes = With(kText, "NO", "YES");
+  const std::string yes = With(kValuesText, "NO", "YES");
   EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "yes"}), yes);
   EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "YES"}), yes);
-  EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "no"}), kText);
+  EXPECT_EQ(OutputOf({"set", "User.con", "CAMERASDESTRUCTABLE", "no"}), kValuesText);
 }
 
 TEST_F(CommandLineValues, RefusesWhatCannotBeAValue) {
@@ -90,7 +91,7 @@ TEST_F(CommandLineValues, RefusesWhatCannotBeAValue) {
       const Outcome outcome = Tessel({"set", "User.con", item, value, "--in-place"});
       EXPECT_EQ(outcome.status, 1) << item << value;
       EXPECT_THAT(outcome.err, testing::HasSubstr("cannot be the value of"));
-      EXPECT_EQ(Bytes("User.con"), kText);
+      EXPECT_EQ(Bytes("User.con"), kValuesText);
     }
   }
   ExpectRefusal({"set", "User.con", "Cameras Destructable", "maybe", "--in-place"},

@@ -18,8 +18,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const std::string kOld = "define A 1 // old\r\n";
-const std::string kNew = "define A 2 // new\r\n";
+const std::string kOldText = "define A 1 // old\r\n";
+const std::string kNewText = "define A 2 // new\r\n";
 
 class StateFolderTest : public testing::Test {
  protected:
@@ -34,9 +34,9 @@ class StateFolderTest : public testing::Test {
     ::alarm(20);
     HostedProgram program(settings / "settings.db", state);
     program.Open(path);
-    program.Retype(kNew);
+    program.Retype(kNewText);
     program.SaveAs(path);
-    const std::string saved = BytesOf(path) == kNew ? "saved" : "not saved";
+    const std::string saved = BytesOf(path) == kNewText ? "saved" : "not saved";
     return program.EverythingTold() + " [" + saved + ", " +
            (program.Modified() ? "modified" : "unmodified") + "]";
   }
@@ -44,7 +44,7 @@ class StateFolderTest : public testing::Test {
   std::string Keep() {
     ::alarm(20);
     RecoveryStore store(recovery);
-    store.Keep(1, path, kNew);
+    store.Keep(1, path, kNewText);
     const std::string kept = store.Flush() ? " [kept]" : " [not kept]";
     const std::string told = store.TakeProblem().value_or("");
     return told + (store.TakeProblem() ? " again" : "") + kept;
@@ -60,7 +60,7 @@ class StateFolderTest : public testing::Test {
   std::string home = directory / "state";
   std::string state = home + "/ZanthMan";
   std::string recovery = state + "/recovery";
-  std::string path = directory.Put("user.con", kOld);
+  std::string path = directory.Put("user.con", kOldText);
 };
 
 TEST_F(StateFolderTest, ThatCannotBeWrittenToIsToldAndTheFileIsSaved) {
@@ -131,7 +131,7 @@ TEST_F(StateFolderTest, ThatBecomesUsableKeepsWhatItCouldNotKeepBefore) {
               ::alarm(20);
               ::chmod(home.c_str(), 0555);
               RecoveryStore store(recovery, std::chrono::milliseconds(20));
-              store.Keep(1, path, kNew);
+              store.Keep(1, path, kNewText);
               std::string result = store.Flush() ? "kept, " : "not kept, ";
               result += store.TakeProblem().value_or("nothing told") + ", ";
               ::chmod(home.c_str(), 0755);
@@ -166,7 +166,7 @@ TEST_F(StateFolderTest, OnAFullDiskIsToldAndWhatIsKeptThereStaysWhole) {
     return std::to_string(names.size()) + " file, " + BackedUp(state).at(0);
   });
   if (result == "cannot mount") GTEST_SKIP() << "only the superuser can mount a disk";
-  EXPECT_EQ(result, "1 file, " + kOld);
+  EXPECT_EQ(result, "1 file, " + kOldText);
 }
 
 TEST_F(StateFolderTest, OnAFullDiskKeepsTheLastTextThatHadRoomAndTriesAgain) {
@@ -213,7 +213,7 @@ TEST_F(StateFolderTest, DamagedFilesGiveWhatIsLeftOfThemAndHinderNobody) {
   const std::string newest = state + "/backups/" + backups.List().at(0).name;
   std::filesystem::resize_file(newest, std::filesystem::file_size(newest) - 2);
   std::ofstream(state + "/backups/" + backups.List().at(1).name) << "garbage";
-  EXPECT_THAT(BackedUp(state), ElementsAre("thi [damaged]", "garbage [damaged]", kOld));
+  EXPECT_THAT(BackedUp(state), ElementsAre("thi [damaged]", "garbage [damaged]", kOldText));
 
   for (const auto& run : std::filesystem::directory_iterator(recovery)) {
     const std::string text = run.path() / "text-1";
@@ -226,7 +226,7 @@ TEST_F(StateFolderTest, PipesLinksAndFoldersInTheFilesPlacesAreLeftAlone) {
   {
     HostedProgram program(settings / "settings.db", state);
     program.Open(path);
-    program.Retype(kNew);
+    program.Retype(kNewText);
     program.SaveAs(path);
   }
   // Names as backups have them.
@@ -238,14 +238,14 @@ TEST_F(StateFolderTest, PipesLinksAndFoldersInTheFilesPlacesAreLeftAlone) {
   std::filesystem::create_symlink("/etc/passwd", like(firsts[1]));
   std::filesystem::create_directory(like(firsts[2]));
   ::alarm(20);
-  EXPECT_THAT(BackedUp(state), ElementsAre(kOld));
+  EXPECT_THAT(BackedUp(state), ElementsAre(kOldText));
   HostedProgram program(settings / "settings.db", state);
   program.Open(path);
-  program.Retype(kOld);
+  program.Retype(kOldText);
   program.SaveAs(path);
   ::alarm(0);
   EXPECT_EQ(program.EverythingTold(), "");
-  EXPECT_THAT(BackedUp(state), ElementsAre(kNew, kOld));
+  EXPECT_THAT(BackedUp(state), ElementsAre(kNewText, kOldText));
 }
 
 TEST_F(StateFolderTest, ALockThatIsAPipeOrALinkIsNoReasonToWait) {
@@ -256,7 +256,7 @@ TEST_F(StateFolderTest, ALockThatIsAPipeOrALinkIsNoReasonToWait) {
   ::alarm(20);
   EXPECT_THAT(Offered(state), ElementsAre("told: Too many levels of symbolic links"));
   ::alarm(0);
-  EXPECT_EQ(BytesOf(path), kOld);
+  EXPECT_EQ(BytesOf(path), kOldText);
 }
 
 }  // namespace

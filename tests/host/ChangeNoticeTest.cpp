@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "host/ChangeNotice.h"
+#include "host/HostFixture.h"
 #include "host/MainWindow.h"
 #include "posix/PosixFiles.h"
 #include "support/FakeServices.h"
@@ -13,8 +14,6 @@
 
 namespace tessel::test {
 namespace {
-
-constexpr int kPatience = 30'000;  // milliseconds
 
 class ChangedOutside : public testing::Test {
  protected:

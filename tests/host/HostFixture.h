@@ -20,6 +20,9 @@
 
 namespace tessel::test {
 
+/// How long a test waits for what takes the window a moment, in milliseconds.
+inline constexpr int kPatience = 30'000;
+
 /// One run of the program: a window, and what stands behind it. Its end is that of a program that
 /// is killed, unless the window was closed.
 struct HostRun {

@@ -20,8 +20,6 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kTwoSeconds{2000};
-constexpr int kPatience = 30'000;
-
 class Safekeeping : public HostTest {
  protected:
   std::string Offer() {

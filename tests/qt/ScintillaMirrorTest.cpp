@@ -14,7 +14,7 @@ namespace {
 using enum MirrorState;
 using Range = std::pair<Position, Position>;
 
-constexpr Colour kRed = 0x0000C8;
+constexpr Colour kDarkRed = 0x0000C8;
 
 constexpr MirrorState kAllStates[] = {kInStep, kAhead, kStale, kShowing, kTakingOver, kOvertaken};
 
@@ -121,11 +121,11 @@ TEST_F(MirrorInStep, AsksToTakeAMovedSelectionOver) {
 TEST_F(MirrorInStep, GivesColoursWhereTheDocumentDrawsAndNoFurther) {
   model.SetText("one two");
   model.SelectByHand(0, 7);
-  model.SetSelColor(kRed);
+  model.SetSelColor(kDarkRed);
   EXPECT_EQ(document.styledEnd, 0);
   mirror.ColoursNeeded(3);
   EXPECT_EQ(document.styledEnd, 3);
-  EXPECT_EQ(ShownColours(), (std::vector<ColourRun>{{0, 3, kRed}, {3, 4, kBlack}}));
+  EXPECT_EQ(ShownColours(), (std::vector<ColourRun>{{0, 3, kDarkRed}, {3, 4, kBlack}}));
   EXPECT_EQ(State(), kInStep);
 }
 
@@ -133,7 +133,7 @@ TEST_F(MirrorInStep, LetsTheDocumentAskAgainFromWhereTheModelPainted) {
   model.SetText("one two");
   Draw();
   model.SelectByHand(4, 3);
-  model.SetSelColor(kRed);
+  model.SetSelColor(kDarkRed);
   EXPECT_EQ(document.styledEnd, 4);
   ExpectEqualSides();
 }
@@ -156,7 +156,7 @@ TEST_F(MirrorInStep, OnlyNotesColoursAndSelectionOfAParkedModel) {
   Draw();
   Park();
   model.SelectByHand(0, 3);
-  model.SetSelColor(kRed);
+  model.SetSelColor(kDarkRed);
   EXPECT_EQ(State(), kInStep);
   EXPECT_EQ(document.styledEnd, 7);
   EXPECT_EQ(ShownSelection(), Range(0, 0));
@@ -401,7 +401,7 @@ TEST_F(MirrorTakingOver, WaitsWithColoursThatAHandlerGives) {
   Draw();
   AtNextChange([this] {
     Draw();
-    model.Store().Paint(0, 3, kRed);
+    model.Store().Paint(0, 3, kDarkRed);
     model.Change.Raise();
     EXPECT_EQ(document.styledEnd, 7);
   });

@@ -10,7 +10,7 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr unsigned long kMargin = 0;  // its number among the margins
-constexpr int kPadding = 8;
+constexpr int kMarginPadding = 8;
 constexpr qsizetype kFewestDigits = 3;
 
 }  // namespace
@@ -31,7 +31,8 @@ void LineNumberMargin::Fit() {
   const QByteArray widest(digits_, '9');
   const long width = widget_.SendScintilla(
       Sci::SCI_TEXTWIDTH, static_cast<uintptr_t>(Sci::STYLE_LINENUMBER), widest.constData());
-  widget_.SendScintilla(Sci::SCI_SETMARGINWIDTHN, kMargin, width + kPadding + kPadding / 2);
+  widget_.SendScintilla(Sci::SCI_SETMARGINWIDTHN, kMargin,
+                        width + kMarginPadding + kMarginPadding / 2);
 }
 
 }  // namespace tessel

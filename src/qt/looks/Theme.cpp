@@ -50,7 +50,7 @@ QPalette MakePalette(bool dark) {
   return palette;
 }
 
-QColor Mixed(const QColor& a, const QColor& b, double share) {
+QColor Blended(const QColor& a, const QColor& b, double share) {
   return QColor::fromRgbF(static_cast<float>(a.redF() + (b.redF() - a.redF()) * share),
                           static_cast<float>(a.greenF() + (b.greenF() - a.greenF()) * share),
                           static_cast<float>(a.blueF() + (b.blueF() - a.blueF()) * share));
@@ -64,39 +64,39 @@ bool Theme::Dark() const {
 }
 
 QColor Theme::Page() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::Button),
-               Dark() ? 0.45 : 0.9);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::Button),
+                 Dark() ? 0.45 : 0.9);
 }
 
 QColor Theme::Line() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText),
-               Dark() ? 0.18 : 0.2);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText),
+                 Dark() ? 0.18 : 0.2);
 }
 
 QColor Theme::Outline() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.5);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.5);
 }
 
 QColor Theme::Hover() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.08);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.08);
 }
 
 QColor Theme::Pressed() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::Highlight),
-               Dark() ? 0.4 : 0.22);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::Highlight),
+                 Dark() ? 0.4 : 0.22);
 }
 
 QColor Theme::Accent() const {
   const QColor highlight = palette_.color(QPalette::Active, QPalette::Highlight);
-  return Dark() ? Mixed(highlight, Qt::white, 0.35) : highlight;
+  return Dark() ? Blended(highlight, Qt::white, 0.35) : highlight;
 }
 
 QColor Theme::QuietText() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.78);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.78);
 }
 
 QColor Theme::IconInk() const {
-  return Mixed(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.82);
+  return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.82);
 }
 
 void ApplyTheme(QApplication& application, ColourScheme scheme) {
