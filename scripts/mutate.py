@@ -3,7 +3,7 @@
 
 The sources stay as they are: a mutant is a file of its own, compiled and linked in front of the library, first into
 the tests of its folder, then into those that use it. Prints every survivor, and the score at the end. MUTATE_BUILD
-names a build that is there already; the default is made under build/mutate.
+names a build that is there already and compiles every file alone; the default is made under build/mutate.
 """
 import contextlib
 import json
