@@ -51,8 +51,7 @@ TEST_F(BusNameTest, TellsWhatTheBusSays) {
 
 TEST_F(BusNameTest, TheHostIsOffTheBusWhenItsWindowHasBeenClosed) {
   QStringList problems;
-  const HostAutomation host(*control_.widget, true,
-                            [&](const QString& problem) { problems += problem; });
+  const HostAutomation host(*control_.widget, [&](const QString& problem) { problems += problem; });
   const QString instance =
       QString("org.zanthman.ZanthManager.instance%1").arg(QCoreApplication::applicationPid());
   AwaitOwner("org.zanthman.ZanthManager", bus_.baseService());
