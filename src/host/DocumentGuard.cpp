@@ -95,6 +95,8 @@ bool DocumentGuard::Agrees(const std::string& question) {
 }
 
 bool DocumentGuard::BeforeSaving(const Document& document, const std::string& path) {
+  // A name given for the result is taken as it stands: a file of another spelling stays.
+  if (!document.HasPath(path) && !posix::StatusOf(path)) return true;
   const DiskState now = DiskStateOf(path);
   if (!now.exists) return true;
   const std::string name = NameOfPath(path, files_.Separator());

@@ -56,6 +56,14 @@ TEST_F(Guard, ASaveOverAnotherFileIsAskedAboutWithSizesAndTime) {
   EXPECT_EQ(Documents().Current().Path(), game_);
 }
 
+TEST_F(Guard, ASaveToANameThatDiffersInCaseMakesANewFileAndIsNotAskedAbout) {
+  Run().window->OpenFiles({user_});
+  SaveAs(directory_ / "GAME.CON");
+  EXPECT_TRUE(Asked().empty());
+  EXPECT_EQ(BytesOf(game_), "define G 1\r\n");
+  EXPECT_EQ(BytesOf(directory_ / "GAME.CON"), "define A 1\r\n");
+}
+
 TEST_F(Guard, ASaveToANewNameIsNotAskedAbout) {
   Run().window->OpenFiles({user_});
   SaveAs(directory_ / "new.con");

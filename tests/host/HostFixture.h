@@ -28,6 +28,7 @@ inline constexpr int kPatience = 30'000;
 struct HostRun {
   explicit HostRun(const std::string& state)
       : backups(state + "/backups"), keptFiles(plainFiles, backups), files(keptFiles) {
+    plainFiles.KeepOldBytesBy(KeepAsBackups(state + "/backups"));
     const Services s = fakes.Get();
     const Services services{.messages = s.messages,
                             .fileDialogs = s.fileDialogs,
