@@ -19,6 +19,7 @@ TEST_P(HostMarkup, IsShownAsItIs) {
   Run().Editor(0).Type("3 ");
   ASSERT_TRUE(Run().window->findChild<RecoveryKeeper*>()->KeepNow());
   Restart();  // the text is offered
+  Run().window->OpenFiles({file});
   directory_.Put("<img src=x/" + name, "of another program");
   const auto barsTell = [] {
     return std::ranges::count(ShownTextsWith("-marker"), "plain label", &ShownText::where) >= 2;

@@ -98,7 +98,7 @@ TEST_F(FileDialogTest, OpensInTheWantedDirectoryWithTheWantedFilter) {
 
 TEST_F(FileDialogTest, ShowsANameThatLooksLikeMarkupAsItIs) {
   Qt::TextFormat format = Qt::AutoText;
-  Choose("<b>none</b>.con");
+  Choose("<b>none.con");
   Once<QMessageBox>([&](QMessageBox& notFound) {
     asked = notFound.text();
     format = notFound.textFormat();
@@ -106,7 +106,7 @@ TEST_F(FileDialogTest, ShowsANameThatLooksLikeMarkupAsItIs) {
     notFound.accept();
   });
   EXPECT_EQ(Open(0), std::nullopt);
-  EXPECT_TRUE(asked.contains("<b>none</b>.con")) << asked.toStdString();
+  EXPECT_TRUE(asked.contains("<b>none.con")) << asked.toStdString();
   EXPECT_EQ(format, Qt::PlainText);
 }
 
