@@ -6,7 +6,6 @@
 #include "documents/Templates.h"
 #include "randomizer/Randomizer.h"
 #include "settings/SettingsPanel.h"
-#include "surface/CurrentEditor.h"
 #include "text/Text.h"
 #include "tools/EditCommands.h"
 #include "tools/Search.h"
@@ -31,31 +30,30 @@ struct Command {
 
 template <std::string (*tool)(std::string_view)>
 void Transform(Targets t) {
-  TransformSelection(CurrentEditor(t.controls), tool);
+  TransformSelection(t.list.CurrentEditor(), tool);
 }
 
 template <auto command>
 void OnClipboard(Targets t) {
-  command(CurrentEditor(t.controls), t.services.clipboard);
+  command(t.list.CurrentEditor(), t.clipboard);
 }
 
 constexpr Command kCommands[] = {
     {"FileNew", "", "", [](Targets t) { t.documents.NewFromTemplate("15A"); }},
     {"FileOpen", "", "mnuRtbPopupFileOpen", [](Targets t) { t.documents.OpenFile(""); }},
     {"FileClose", "", "mnuRtbPopupFileClose",
-     [](Targets t) { t.documents.CloseDocument(CurrentDocIndex(t.controls)); }},
+     [](Targets t) { t.documents.CloseDocument(t.list.Current().Place()); }},
     {"", "", "mnuRtbPopupFileSave", [](Targets t) { t.documents.SaveDocument(true); }},
     {"FileSave", "", "mnuRtbPopupFileSaveAs", [](Targets t) { t.documents.SaveDocument(false); }},
 
-    {"", "", "mnuRtbPopupEditUndo",
-     [](Targets t) { UndoOnce(CurrentEditor(t.controls), t.services.focus); }},
+    {"", "", "mnuRtbPopupEditUndo", [](Targets t) { UndoOnce(t.list.CurrentEditor(), t.focus); }},
     {"Cut", "", "mnuRtbPopupEditCut", OnClipboard<Cut>},
     {"Copy", "", "mnuRtbPopupEditCopy", OnClipboard<Copy>},
     {"Paste", "", "mnuRtbPopupEditPaste", OnClipboard<Paste>},
-    {"", "", "mnuRtbPopupEditDelete", [](Targets t) { CurrentEditor(t.controls).SetSelText(""); }},
-    {"", "", "mnuRtbPopupEditSel", [](Targets t) { SelectAll(CurrentEditor(t.controls)); }},
+    {"", "", "mnuRtbPopupEditDelete", [](Targets t) { t.list.CurrentEditor().SetSelText(""); }},
+    {"", "", "mnuRtbPopupEditSel", [](Targets t) { SelectAll(t.list.CurrentEditor()); }},
 
-    {"Tools", "", "", [](Targets t) { t.controls.tbToolBar.PressMenuItem("Tools", 1); }},
+    {"Tools", "", "", [](Targets t) { t.tbToolBar.PressMenuItem("Tools", 1); }},
     {"", "CommentBlock", "mnuRtbPopupToolsMremark", Transform<RemarkBlock>},
     {"", "CommentLine", "mnuRtbPopupToolsRremark", Transform<RemarkLine>},
     {"", "", "mnuRtbPopupToolsUnremark", Transform<UnremarkText>},
@@ -69,10 +67,7 @@ constexpr Command kCommands[] = {
 
     {"RandAll", "", "", [](Targets t) { t.randomizer.RandomizeSection("All"); }},
     {"RandSec", "", "",
-     [](Targets t) {
-       const TabStrip& sections = t.controls.tbsCon;
-       t.randomizer.RandomizeSection(sections.At(sections.Selected()).key);
-     }},
+     [](Targets t) { t.randomizer.RandomizeSection(t.tbsCon.At(t.tbsCon.Selected()).key); }},
     {"", "Player", "", [](Targets t) { t.randomizer.RandomizeSection("Player"); }},
     {"", "Weapon", "", [](Targets t) { t.randomizer.RandomizeSection("Weapon"); }},
     {"", "Enemy", "", [](Targets t) { t.randomizer.RandomizeSection("Enemy"); }},
@@ -81,7 +76,7 @@ constexpr Command kCommands[] = {
     {"Convert", "", "", [](Targets t) { t.convert(); }},
     {"Colorize", "", "", [](Targets t) { t.applyColourMode(); }},
     {"ShowTabs", "", "",
-     [](Targets t) { t.settings.ShowSettingsPanel(t.controls.tbToolBar.Pressed("ShowTabs")); }},
+     [](Targets t) { t.settings.ShowSettingsPanel(t.tbToolBar.Pressed("ShowTabs")); }},
 };
 
 const Command* Find(Surface surface, std::string_view key) {

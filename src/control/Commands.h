@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "services/Services.h"
-#include "surface/HostedControls.h"
+#include "surface/DocumentList.h"
 
 namespace tessel {
 
@@ -18,8 +18,11 @@ class WordPanel;
 
 /// Where commands go.
 struct CommandTargets {
-  HostedControls& controls;
-  const Services& services;
+  const DocumentList& list;
+  Toolbar& tbToolBar;
+  const TabStrip& tbsCon;
+  Clipboard& clipboard;
+  Focus& focus;
   SettingsPanel& settings;
   Documents& documents;
   WordPanel& words;
@@ -39,6 +42,7 @@ bool IsCommand(Surface surface, std::string_view key);
 class Commands {
  public:
   Commands() = default;
+  /// The targets outlive the commands.
   explicit Commands(const CommandTargets& targets);
 
   void RunButton(std::string_view key) const;
@@ -49,8 +53,5 @@ class Commands {
  private:
   std::shared_ptr<const CommandTargets> targets_;
 };
-
-/// The targets outlive the commands.
-inline Commands MakeCommands(const CommandTargets& targets) { return Commands(targets); }
 
 }  // namespace tessel

@@ -227,9 +227,18 @@ void ucTessel::On(Event<Args...>& event, Handler handler) {
 }
 
 void ucTessel::ConnectCommands() {
-  commands_ =
-      MakeCommands({controls_, services_, *settings_, *documents_, *words_, *search_, *randomizer_,
-                    [this] { ConvertDocument(); }, [this] { ApplyColourMode(); }});
+  commands_ = Commands({.list = documentList_,
+                        .tbToolBar = controls_.tbToolBar,
+                        .tbsCon = controls_.tbsCon,
+                        .clipboard = services_.clipboard,
+                        .focus = services_.focus,
+                        .settings = *settings_,
+                        .documents = *documents_,
+                        .words = *words_,
+                        .search = *search_,
+                        .randomizer = *randomizer_,
+                        .convert = [this] { ConvertDocument(); },
+                        .applyColourMode = [this] { ApplyColourMode(); }});
   On(controls_.tbToolBar.ButtonClick,
      [this](const ToolbarButton& button) { commands_.RunButton(button.key); });
   On(controls_.tbToolBar.ButtonMenuClick,

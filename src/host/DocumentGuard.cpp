@@ -110,8 +110,7 @@ bool DocumentGuard::BeforeSaving(const Document& document, const std::string& pa
     return Agrees(name + " already exists (" + Size(now.size) + ", changed " + Time(now) +
                   ").\nReplace it with this document (" + Size(document.Editor().Length()) + ")?");
   }
-  return !IsReadOnly(path) ||
-         Agrees(name + " is read-only. Write over it all the same, and clear that?");
+  return !IsReadOnly(path) || Agrees(name + " is read-only. Save over it and make it writable?");
 }
 
 bool DocumentGuard::ChangedByOthers(const Document& document) {
