@@ -42,6 +42,7 @@ std::vector<std::string> SpellingsOf(const std::string& path) {
     reached = std::move(next);
   }
   std::vector<std::string> spellings;
+  spellings.reserve(reached.size());
   for (const fs::path& found : reached) spellings.push_back(found.string());
   return spellings;
 }

@@ -39,7 +39,7 @@ void Document::BecomeFree() const {
 
 void Document::TakeTabOf(const Document& other) const {
   const int tab = Number(TabOf(slot_));
-  const Tab next = other.TabAt();
+  const Tab& next = other.TabAt();
   controls_->tbsRtb.SetTabCaption(tab, next.caption);
   controls_->tbsRtb.SetTabImage(tab, next.image);
   controls_->tbsRtb.SetTabTag(tab, next.tag);

@@ -8,6 +8,7 @@ namespace tessel {
 
 std::vector<Document> DocumentList::All() const {
   std::vector<Document> documents;
+  documents.reserve(static_cast<std::size_t>(Count()));
   for (int slot = 0; slot < Count(); ++slot) documents.push_back(At(Slot{slot}));
   return documents;
 }
