@@ -16,6 +16,7 @@ struct MemoryDocument : ScintillaDocument {
   bool focused = true;
   std::string styles;  // one for each byte of utf8
   SciPosition styledEnd = 0;
+  char hiddenStyle = '\0';
   int replacements = 0;
 
   std::function<void(SciPosition at, SciPosition length)> beforeInsertion;
@@ -54,6 +55,7 @@ struct MemoryDocument : ScintillaDocument {
     styledEnd = at + std::ssize(pieces);
   }
   void PaintStyle(int, const QColor&) override {}
+  void HideStyle(int style) override { hiddenStyle = static_cast<char>(style); }
 
  private:
   static std::size_t Index(SciPosition position) { return static_cast<std::size_t>(position); }

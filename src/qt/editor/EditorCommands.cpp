@@ -6,7 +6,13 @@
 
 namespace tessel {
 
+bool EditorCommands::MayEdit() {
+  if (refusal_) Refused.Raise(*refusal_);
+  return !refusal_;
+}
+
 void EditorCommands::Undo() {
+  if (!MayEdit()) return;
   mirror_.ByHand([this] {
     mirror_.TakeOver();
     mirror_.CloseUndoStep();
@@ -15,6 +21,7 @@ void EditorCommands::Undo() {
 }
 
 void EditorCommands::Redo() {
+  if (!MayEdit()) return;
   mirror_.ByHand([this] {
     mirror_.TakeOver();
     mirror_.CloseUndoStep();
@@ -29,12 +36,13 @@ void EditorCommands::Copy() {
 }
 
 void EditorCommands::Cut() {
-  if (model_.SelLength() == 0) return;
+  if (model_.SelLength() == 0 || !MayEdit()) return;
   Copy();
   Insert({}, false);
 }
 
 void EditorCommands::Paste() {
+  if (!MayEdit()) return;
   try {
     const std::string bytes = clipboard_.GetText();
     if (!bytes.empty()) Insert(bytes, false);
@@ -59,6 +67,7 @@ void EditorCommands::MoveCaretOutOfSelection(Position at) {
 }
 
 void EditorCommands::PasteAt(Position at, const QMimeData& data) {
+  if (!MayEdit()) return;
   try {
     const std::string bytes = BytesOfMime(data);
     model_.SelectByHand(at, 0);
@@ -69,6 +78,7 @@ void EditorCommands::PasteAt(Position at, const QMimeData& data) {
 }
 
 bool EditorCommands::Drop(Position at, const QMimeData& data, bool moving) {
+  if (!MayEdit()) return false;
   try {
     Place(at, BytesOfMime(data), moving);
     return true;
@@ -94,6 +104,7 @@ void EditorCommands::Place(Position at, const std::string& bytes, bool moving) {
 }
 
 void EditorCommands::Commit(const QString& text, Position offset, Position length) {
+  if (!MayEdit()) return;
   const auto bytes = BytesOfText(text);
   if (!bytes) {
     Refused.Raise(RefusalOf(text));

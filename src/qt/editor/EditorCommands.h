@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "base/Event.h"
 #include "models/RichTextBox.h"
@@ -20,6 +22,9 @@ class EditorCommands {
   EditorCommands(RichTextBox& model, ScintillaMirror& mirror, Clipboard& clipboard)
       : model_(model), mirror_(mirror), clipboard_(clipboard) {}
 
+  /// Every command that edits is refused from now on, with that sentence; nothing: none is.
+  void RefuseEdits(std::optional<QString> why) { refusal_ = std::move(why); }
+
   void Undo();
   void Redo();
   void Cut();
@@ -36,16 +41,18 @@ class EditorCommands {
   /// or the selection when that is nothing.
   void Commit(const QString& text, Position offset, Position length);
 
-  /// Text that cannot be stored was not inserted; a sentence for the user.
+  /// Nothing was edited; a sentence for the user says why.
   Event<const QString&> Refused;
 
  private:
+  bool MayEdit();
   void Insert(const std::string& bytes, bool typing);
   void Place(Position at, const std::string& bytes, bool moving);
 
   RichTextBox& model_;
   ScintillaMirror& mirror_;
   Clipboard& clipboard_;
+  std::optional<QString> refusal_;
 };
 
 }  // namespace tessel

@@ -41,6 +41,8 @@ constexpr Setting kSettings[] = {
     {Sci::SCI_SETSCROLLWIDTHTRACKING, 1},
     {Sci::SCI_SETBUFFEREDDRAW, 0},  // Qt buffers the whole window
     {Sci::SCI_SETLAYOUTCACHE, Sci::SC_CACHE_PAGE},
+    // Widths of short pieces that are remembered: as many as a line of 128 KB has.
+    {Sci::SCI_SETPOSITIONCACHE, 16'384},
     // What comes into sight comes with some lines around it.
     {Sci::SCI_SETYCARETPOLICY, Sci::CARET_SLOP | Sci::CARET_EVEN, 5},
     {Sci::SCI_SETCARETWIDTH, 2},

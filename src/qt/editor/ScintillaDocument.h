@@ -42,6 +42,8 @@ class ScintillaDocument {
   /// One style for each UTF-8 byte from `at` on. The text has styles up to their end then.
   virtual void SetStyles(SciPosition at, std::string_view styles) = 0;
   virtual void PaintStyle(int style, const QColor& colour) = 0;
+  /// Text of that style takes no place on the screen.
+  virtual void HideStyle(int style) = 0;
 };
 
 }  // namespace tessel

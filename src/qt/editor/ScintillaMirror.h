@@ -65,6 +65,8 @@ class ScintillaMirror : private TextStoreView {
   void Settle();
   /// The model's offset of a place in the document.
   Position OffsetOf(SciPosition position) const { return text_.OffsetOf(position); }
+  /// From now on no more than so many bytes of each line are drawn; nothing: all of them.
+  void ShowOfLines(std::optional<Position> bytes) { text_.ShowOfLines(bytes); }
   Colour ColourOfStyle(int style) const { return text_.Styles().ColourOf(style); }
   bool SelectionHidden() const { return selectionHidden_; }
   void SetTheme(const EditorTheme& theme) { text_.Styles().SetTheme(theme); }

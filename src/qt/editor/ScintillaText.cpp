@@ -5,6 +5,7 @@
 
 #include "qt/base/Utf8.h"
 #include "qt/base/Windows1252Qt.h"
+#include "qt/editor/LongLines.h"
 
 namespace tessel {
 namespace {
@@ -82,8 +83,34 @@ void ScintillaText::ColourUpTo(SciPosition end, const TextStore& store) {
   std::ranges::transform(
       store.ColourIndices().substr(first, length), styles.begin(),
       [&](char index) { return styleOfIndex[static_cast<unsigned char>(index)]; });
+  const auto bytes = store.Bytes().substr(static_cast<std::size_t>(first), styles.size());
+  if (LongestLine(bytes) >= kLongLine)
+    PartLongLines(bytes, TwinsOf({styleOfIndex.data(), store.Palette().size()}), styles);
+  if (shownOfLines_) HideTails(store.Bytes(), first, styles);
   if (length != end - start) styles = OnePerByte(styles, Utf8(start, end - start));
   document_.SetStyles(start, styles);
+}
+
+void ScintillaText::ShowOfLines(std::optional<Position> bytes) {
+  if (bytes == shownOfLines_) return;
+  shownOfLines_ = bytes;
+  ForgetColours(0);
+}
+
+void ScintillaText::HideTails(std::string_view whole, Position first, std::string& styles) {
+  const std::string_view head = whole.substr(0, static_cast<std::size_t>(first));
+  const auto lineStart = head.find_last_of("\r\n") + 1;  // 0 where there is no break
+  HideLongTails(whole.substr(head.size(), styles.size()), first - static_cast<Position>(lineStart),
+                *shownOfLines_, static_cast<char>(styles_.Hidden()), styles);
+}
+
+std::array<char, 256> ScintillaText::TwinsOf(std::string_view someStyles) {
+  std::array<char, 256> twins{};
+  for (const char style : someStyles) {
+    const auto number = static_cast<unsigned char>(style);
+    twins[number] = static_cast<char>(styles_.TwinOf(number));
+  }
+  return twins;
 }
 
 }  // namespace tessel

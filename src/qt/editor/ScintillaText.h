@@ -1,6 +1,8 @@
 // A Scintilla document that holds the text of an editor's model.
 #pragma once
 
+#include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,6 +34,9 @@ class ScintillaText {
   /// Colours everything up to `end` that the document has no colours for, as it stands in `store`.
   void ColourUpTo(SciPosition end, const TextStore& store);
 
+  /// From now on no more than so many bytes of each line are drawn; nothing: all of them.
+  void ShowOfLines(std::optional<Position> bytes);
+
   /// Makes the text equal to `bytes`, by one replacement of what differs.
   void BecomeEqualTo(std::string_view bytes);
 
@@ -44,9 +49,14 @@ class ScintillaText {
   const ScintillaStyles& Styles() const { return styles_; }
 
  private:
+  /// The second style of each of these, at its number.
+  std::array<char, 256> TwinsOf(std::string_view someStyles);
+  void HideTails(std::string_view whole, Position first, std::string& styles);
+
   ScintillaDocument& document_;
   ScintillaIndex index_;
   ScintillaStyles styles_;
+  std::optional<Position> shownOfLines_;
 };
 
 }  // namespace tessel

@@ -62,6 +62,9 @@ void ScintillaView::ListenToScintilla() {
           [this] { mirror_.SelectionMayHaveMoved(); });
   connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
           [this](int end) { mirror_.ColoursNeeded(end); });
+  connect(this, &QsciScintillaBase::SCN_MODIFYATTEMPTRO, this, [this] {
+    if (reading_) emit textRefused(reading_->why);
+  });
   connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { lineNumbers_.Fit(); });
 }
 
@@ -74,6 +77,13 @@ void ScintillaView::ListenToParts() {
   subscriptions_ = {mirror_.TextChanged.Connect([this] { lineNumbers_.FollowLines(); }),
                     mirror_.TakeOverWanted.Connect(takeOverSoon), mirror_.Refused.Connect(refuse),
                     commands_.Refused.Connect(refuse)};
+}
+
+void ScintillaView::SetReading(const std::optional<Reading>& reading) {
+  reading_ = reading;
+  SendScintilla(SCI_SETREADONLY, reading ? 1UL : 0UL);
+  commands_.RefuseEdits(reading ? std::optional(reading->why) : std::nullopt);
+  mirror_.ShowOfLines(reading ? std::optional(reading->shownOfLines) : std::nullopt);
 }
 
 // --- Keys

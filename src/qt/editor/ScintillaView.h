@@ -20,6 +20,13 @@ namespace tessel {
 
 class PreeditLabel;
 
+/// Why and how a text is shown for reading only.
+struct Reading {
+  QString why;  // a sentence for the user
+  /// That many bytes of each line are drawn.
+  Position shownOfLines = 0;
+};
+
 /// Shows a RichTextBox and lets a person edit it. The text, its colours, the selection and undo
 /// live in the model; Scintilla draws them and is edited by keys and mouse, and a mirror tells each
 /// side of what happened on the other. Nothing normalizes line ends, and every one of the 256 bytes
@@ -38,12 +45,17 @@ class ScintillaView : public QsciScintillaBase {
   /// pointer's place, or the caret's when it was a key.
   QPoint popupPosition() const { return popupPosition_; }
 
+  /// A person reads and selects only; what would edit is refused with the sentence. Commands of the
+  /// control go on working. Nothing: as usual.
+  void SetReading(const std::optional<Reading>& reading);
+  const std::optional<Reading>& CurrentReading() const { return reading_; }
+
   /// For gestures of several keys, and for reading the screen.
   ScintillaMirror& mirror() { return mirror_; }
 
  signals:
-  /// Text that cannot be stored was typed, pasted or dropped; nothing was inserted. A sentence for
-  /// the user.
+  /// Text that cannot be stored was typed, pasted or dropped, or the text is for reading; nothing
+  /// was edited. A sentence for the user.
   void textRefused(const QString& explanation);
 
  protected:
@@ -84,6 +96,7 @@ class ScintillaView : public QsciScintillaBase {
   LineNumberMargin lineNumbers_;
   std::vector<Subscription> subscriptions_;
   QPoint popupPosition_;
+  std::optional<Reading> reading_;
   PreeditLabel* preedit_ = nullptr;  // made for the first input method
 };
 

@@ -27,9 +27,13 @@ std::string_view WidgetDocument::Utf8(SciPosition at, SciPosition length) const 
 }
 
 void WidgetDocument::Replace(SciPosition at, SciPosition removed, std::string_view inserted) {
+  // Reading only is for persons.
+  const bool reading = widget_.SendScintilla(Sci::SCI_GETREADONLY) != 0;
+  if (reading) widget_.SendScintilla(Sci::SCI_SETREADONLY, 0UL);
   widget_.SendScintilla(Sci::SCI_SETTARGETRANGE, Unsigned(at), at + removed);
   widget_.SendScintilla(Sci::SCI_REPLACETARGET, static_cast<uintptr_t>(inserted.size()),
                         inserted.data() == nullptr ? "" : inserted.data());
+  if (reading) widget_.SendScintilla(Sci::SCI_SETREADONLY, 1UL);
 }
 
 SciRange WidgetDocument::Selection() const {
@@ -64,6 +68,10 @@ void WidgetDocument::SetStyles(SciPosition at, std::string_view styles) {
 
 void WidgetDocument::PaintStyle(int style, const QColor& colour) {
   widget_.SendScintilla(Sci::SCI_STYLESETFORE, static_cast<unsigned long>(style), colour);
+}
+
+void WidgetDocument::HideStyle(int style) {
+  widget_.SendScintilla(Sci::SCI_STYLESETVISIBLE, static_cast<unsigned long>(style), 0L);
 }
 
 }  // namespace tessel

@@ -24,6 +24,7 @@ class WidgetDocument : public ScintillaDocument {
   void ForgetStyles(SciPosition from) override;
   void SetStyles(SciPosition at, std::string_view styles) override;
   void PaintStyle(int style, const QColor& colour) override;
+  void HideStyle(int style) override;
 
  private:
   QsciScintillaBase& widget_;
