@@ -1,7 +1,6 @@
 #include "host/ChangeNotice.h"
 
 #include <QFile>
-#include <QHBoxLayout>
 #include <utility>
 
 #include "qt/base/QtText.h"
@@ -17,36 +16,18 @@ constexpr int kSettleMilliseconds = 200;
 
 ChangeNotice::ChangeNotice(TesselWidget& control, DocumentGuard& guard, MessageBox& messages,
                            KeepText keepText, QWidget* parent)
-    : QFrame(parent),
+    : NoticeBar(tr("File changed"), parent),
       control_(control),
       guard_(guard),
       messages_(messages),
       keepText_(std::move(keepText)),
-      text_(new QLabel(this)),
-      reload_(new QPushButton(tr("Rel&oad"), this)),
-      keep_(new QPushButton(tr("&Keep Mine"), this)) {
-  setFrameShape(QFrame::StyledPanel);
-  setAccessibleName(tr("File changed"));
-  setBackgroundRole(QPalette::ToolTipBase);
-  setForegroundRole(QPalette::ToolTipText);
-  setAutoFillBackground(true);
-  text_->setForegroundRole(QPalette::ToolTipText);
-  text_->setTextFormat(Qt::PlainText);
-  text_->setWordWrap(true);
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(8, 4, 8, 4);
-  row->addWidget(text_, 1);
-  row->addWidget(reload_);
-  row->addWidget(keep_);
-  hide();
-
+      reload_(AddButton(tr("Rel&oad"), &ChangeNotice::Reload)) {
+  AddButton(tr("&Keep Mine"), &ChangeNotice::KeepMine);
   settle_.setSingleShot(true);
   settle_.setInterval(kSettleMilliseconds);
   connect(&settle_, &QTimer::timeout, this, &ChangeNotice::Check);
   connect(&watcher_, &QFileSystemWatcher::fileChanged, this, [this] { settle_.start(); });
   connect(&control_, &TesselWidget::documentChanged, &settle_, qOverload<>(&QTimer::start));
-  connect(reload_, &QPushButton::clicked, this, &ChangeNotice::Reload);
-  connect(keep_, &QPushButton::clicked, this, &ChangeNotice::KeepMine);
 }
 
 Document ChangeNotice::Current() const { return control_.Tessel().OpenDocuments().Current(); }
@@ -73,8 +54,8 @@ void ChangeNotice::Check() {
   if (changed) {
     const bool gone = !DiskStateOf(path).exists;
     const QString name = ShownName(NameOfPath(path, '/'));
-    text_->setText(gone ? tr("%1 is gone from the disk. The text is still here.").arg(name)
-                        : tr("%1 has been changed by another program.").arg(name));
+    SetText(gone ? tr("%1 is gone from the disk. The text is still here.").arg(name)
+                 : tr("%1 has been changed by another program.").arg(name));
     reload_->setVisible(!gone);
   }
   setVisible(changed);

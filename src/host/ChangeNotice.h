@@ -2,15 +2,13 @@
 #pragma once
 
 #include <QFileSystemWatcher>
-#include <QFrame>
-#include <QLabel>
-#include <QPushButton>
 #include <QTimer>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "host/DocumentGuard.h"
+#include "host/NoticeBar.h"
 #include "qt/TesselWidget.h"
 
 namespace tessel {
@@ -19,7 +17,7 @@ namespace tessel {
 /// current one's has been changed by others: Reload takes the file's text (it asks before it
 /// replaces changes of the user's own, and keeps them as a backup), Keep Mine leaves the document
 /// as it is and lets it be saved over the file.
-class ChangeNotice : public QFrame {
+class ChangeNotice : public NoticeBar {
   Q_OBJECT
 
  public:
@@ -45,9 +43,7 @@ class ChangeNotice : public QFrame {
   KeepText keepText_;
   QFileSystemWatcher watcher_;
   QTimer settle_;
-  QLabel* text_;
   QPushButton* reload_;
-  QPushButton* keep_;
 };
 
 }  // namespace tessel

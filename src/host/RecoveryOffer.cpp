@@ -1,9 +1,7 @@
 #include "host/RecoveryOffer.h"
 
 #include <QDateTime>
-#include <QHBoxLayout>
 #include <QLocale>
-#include <QPushButton>
 #include <algorithm>
 #include <span>
 #include <utility>
@@ -43,32 +41,16 @@ bool TakesItsDocument(const KeptBytes& text, std::span<const KeptBytes> newerTex
 RecoveryOffer::RecoveryOffer(ucTessel& tessel, Files& files, MessageBox& messages,
                              std::unique_ptr<AbandonedTexts> texts, std::function<bool()> keepNow,
                              QWidget* parent)
-    : QFrame(parent),
+    : NoticeBar(tr("Unsaved text found"), parent),
       tessel_(tessel),
       files_(files),
       messages_(messages),
       texts_(std::move(texts)),
       keepNow_(std::move(keepNow)) {
-  setFrameShape(QFrame::StyledPanel);
-  setAccessibleName(tr("Unsaved text found"));
-  setBackgroundRole(QPalette::ToolTipBase);
-  setForegroundRole(QPalette::ToolTipText);
-  setAutoFillBackground(true);
-  auto* text = new QLabel(Sentence(), this);
-  text->setForegroundRole(QPalette::ToolTipText);
-  text->setTextFormat(Qt::PlainText);
-  text->setWordWrap(true);
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(8, 4, 8, 4);
-  row->addWidget(text, 1);
-  const auto button = [&](const QString& caption, void (RecoveryOffer::*action)()) {
-    auto* made = new QPushButton(caption, this);
-    connect(made, &QPushButton::clicked, this, action);
-    row->addWidget(made);
-  };
-  button(tr("&Recover"), &RecoveryOffer::Recover);
-  button(tr("&Discard"), &RecoveryOffer::Discard);
-  button(tr("&Later"), &RecoveryOffer::Later);
+  SetText(Sentence());
+  AddButton(tr("&Recover"), &RecoveryOffer::Recover);
+  AddButton(tr("&Discard"), &RecoveryOffer::Discard);
+  AddButton(tr("&Later"), &RecoveryOffer::Later);
   setVisible(!texts_->Texts().empty());
 }
 

@@ -1,12 +1,11 @@
 // The quiet offer of texts that an earlier run could not save.
 #pragma once
 
-#include <QFrame>
-#include <QLabel>
 #include <functional>
 #include <memory>
 
 #include "control/ucTessel.h"
+#include "host/NoticeBar.h"
 #include "safekeeping/RecoveryStore.h"
 #include "services/Services.h"
 
@@ -15,7 +14,7 @@ namespace tessel {
 /// A bar above the control, there while unsaved texts of a run that crashed or was killed wait for
 /// an answer. Recover shows them as modified documents; Discard asks once more; Later leaves them
 /// for the next start.
-class RecoveryOffer : public QFrame {
+class RecoveryOffer : public NoticeBar {
   Q_OBJECT
 
  public:
