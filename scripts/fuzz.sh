@@ -10,7 +10,7 @@ case "${1-}" in
   ''|*[!0-9]*) echo "Usage: scripts/fuzz.sh SECONDS [TARGET...]" >&2; exit 2 ;;
 esac
 seconds=$1; shift
-all=(TextRules Colouring Converter Defines Levels Words SettingsStore SafeText Drive CommandLine)
+all=(Script TextRules Colouring Converter Defines Levels Words SettingsStore SafeText Drive CommandLine)
 targets=("${@:-${all[@]}}")
 for target in "${targets[@]}"; do
   [ -d "tests/fuzz/corpus/$target" ] || { echo "scripts/fuzz.sh: no target $target; there are ${all[*]}" >&2; exit 2; }

@@ -7,8 +7,6 @@
 namespace tessel::language {
 namespace {
 
-constexpr Position kChunkLength = 4096;
-
 constexpr std::string_view kCommentClose = "*/";
 
 bool IsBreak(char c) { return c == '\r' || c == '\n'; }
@@ -88,22 +86,21 @@ Script::Chunk Script::ReadChunk(std::string_view text, Range range, bool beginsI
   return chunk;
 }
 
-std::vector<Script::Chunk> Script::ReadChunks(std::string_view text, Range range,
-                                              bool beginsInComment) {
+std::vector<Script::Chunk> Script::ReadChunks(Range range, bool beginsInComment) const {
   std::vector<Chunk> chunks;
-  chunks.reserve(static_cast<std::size_t>(range.Length() / kChunkLength + 1));
+  chunks.reserve(static_cast<std::size_t>(range.Length() / chunkLength_ + 1));
   while (!range.IsEmpty()) {
-    const Position full = std::min(range.begin + kChunkLength, range.end);
-    const Position end = EndOfLine(text, full, range.end);
-    chunks.push_back(ReadChunk(text, {range.begin, end}, beginsInComment));
+    const Position full = std::min(range.begin + chunkLength_, range.end);
+    const Position end = EndOfLine(text_, full, range.end);
+    chunks.push_back(ReadChunk(text_, {range.begin, end}, beginsInComment));
     beginsInComment = chunks.back().EndsInComment();
     range.begin = end;
   }
   return chunks;
 }
 
-Script::Script(std::string_view text)
-    : text_(text), chunks_(ReadChunks(text, {0, std::ssize(text)}, false)) {
+Script::Script(std::string_view text, Position chunkLength)
+    : text_(text), chunkLength_(chunkLength), chunks_(ReadChunks({0, Length()}, false)) {
   Renumber(0);
 }
 
@@ -111,7 +108,7 @@ void Script::Update(std::string_view after, Position offset, Position removed, P
   text_ = after;
   const Position grown = inserted - removed;
   if (chunks_.empty()) {
-    chunks_ = ReadChunks(text_, {0, Length()}, false);
+    chunks_ = ReadChunks({0, Length()}, false);
     Renumber(0);
     return;
   }
@@ -120,10 +117,10 @@ void Script::Update(std::string_view after, Position offset, Position removed, P
   const std::size_t first = ChunkIndexOf(std::max<Position>(offset - 1, 0));
   std::size_t last = ChunkIndexOf(offset + removed);
   const auto lengthAfter = [&] { return chunks_[last].end + grown - chunks_[first].begin; };
-  if (lengthAfter() < kChunkLength / 2 && last + 1 < chunks_.size()) ++last;
+  if (lengthAfter() < chunkLength_ / 2 && last + 1 < chunks_.size()) ++last;
 
   const Range range = {chunks_[first].begin, chunks_[last].end + grown};
-  std::vector<Chunk> fresh = ReadChunks(text_, range, chunks_[first].beginsInComment);
+  std::vector<Chunk> fresh = ReadChunks(range, chunks_[first].beginsInComment);
   const auto at = chunks_.begin() + static_cast<std::ptrdiff_t>(first);
   const auto end = chunks_.begin() + static_cast<std::ptrdiff_t>(last) + 1;
   const auto common = std::min(end - at, std::ssize(fresh));

@@ -68,8 +68,11 @@ class Script {
   };
 
  public:
+  static constexpr Position kUsualChunkLength = 4096;
+
   Script() = default;
-  explicit Script(std::string_view text);
+  /// The length of chunks changes no answer; a test that looks at their edges wants short ones.
+  explicit Script(std::string_view text, Position chunkLength = kUsualChunkLength);
 
   /// The text has changed: `removed` bytes at `offset` have become `inserted` bytes. `after` is the
   /// whole text now. The result is that of reading `after` anew, for the price of the lines around
@@ -133,7 +136,7 @@ class Script {
  private:
   static Chunk ReadChunk(std::string_view text, Range range, bool beginsInComment);
   static void ReadStarts(std::string_view text, Chunk& chunk);
-  static std::vector<Chunk> ReadChunks(std::string_view text, Range range, bool beginsInComment);
+  std::vector<Chunk> ReadChunks(Range range, bool beginsInComment) const;
 
   std::size_t ChunkIndexOf(Position offset) const;
   void CarryComment(std::size_t from);
@@ -142,6 +145,7 @@ class Script {
   Comment CommentUpToItsClose(Position begin, std::size_t chunk) const;
 
   std::string_view text_;
+  Position chunkLength_ = kUsualChunkLength;
   std::vector<Chunk> chunks_;  // none is empty
 };
 
