@@ -34,21 +34,32 @@ constexpr std::array<Grammar, 19> kGrammars = {{
 
 constexpr std::size_t kWords = kGrammars.size() - 2;  // without the braces
 
-// Three quarters of all words are ruled out by their length and first letter.
+// By length and first letter there are two candidates at most.
 constexpr std::size_t kLongest = 16;
 constexpr std::size_t kLetters = 32;
+using Candidates = std::array<const Grammar*, 2>;
 
 constexpr std::size_t LetterOf(char c) { return static_cast<unsigned char>(c) % kLetters; }
 
 constexpr auto MakeCandidates() {
-  std::array<std::array<bool, kLetters>, kLongest + 1> candidates{};
+  std::array<std::array<Candidates, kLetters>, kLongest + 1> all{};
   for (std::size_t i = 0; i < kWords; ++i) {
-    candidates[kGrammars[i].word.size()][LetterOf(kGrammars[i].word.front())] = true;
+    Candidates& here = all[kGrammars[i].word.size()][LetterOf(kGrammars[i].word.front())];
+    here[here[0] == nullptr ? 0 : 1] = &kGrammars[i];
   }
-  return candidates;
+  return all;
 }
 
 constexpr auto kCandidates = MakeCandidates();
+
+/// `lower` has small letters of ASCII only, and the word has its length.
+bool IsWord(std::string_view lower, std::string_view word) {
+  constexpr int kCaseBit = 0x20;
+  for (std::size_t i = 0; i < lower.size(); ++i) {
+    if ((word[i] | kCaseBit) != lower[i]) return false;
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -56,9 +67,9 @@ const Grammar& GrammarOf(Keyword keyword) { return kGrammars[static_cast<std::si
 
 std::optional<Keyword> KeywordOf(std::string_view word) {
   if (word.empty() || word.size() > kLongest) return std::nullopt;
-  if (!kCandidates[word.size()][LetterOf(word.front())]) return std::nullopt;
-  for (std::size_t i = 0; i < kWords; ++i) {
-    if (SameName(kGrammars[i].word, word)) return static_cast<Keyword>(i);
+  for (const Grammar* candidate : kCandidates[word.size()][LetterOf(word.front())]) {
+    if (candidate == nullptr) break;
+    if (IsWord(candidate->word, word)) return static_cast<Keyword>(candidate - kGrammars.data());
   }
   return std::nullopt;
 }

@@ -38,9 +38,20 @@ class Reader {
       : start_(text.data()), at_(start_ + from), end_(start_ + to), insideComment_(insideComment) {}
   explicit Reader(std::string_view text) : Reader(text, 0, std::ssize(text)) {}
 
+  /// Passes over all words, braces and blanks that stand in front of the next comment or line
+  /// break.
+  void SkipWords() {
+    if (insideComment_) return;
+    const char* at = at_;
+    for (; at != end_ && ClassOf(*at) != Class::kBreak; ++at) {
+      if (*at == '/' && (OpensComment(at, '/') || OpensComment(at, '*'))) break;
+    }
+    at_ = at;
+  }
+
   Token Next() {
     if (insideComment_) return FinishBlockComment(at_, at_);
-    while (at_ != end_ && ClassOf(*at_) == Class::kBlank) ++at_;
+    at_ = PastAll(Class::kBlank, at_);
     const char* const begin = at_;
     if (at_ == end_) return Made(TokenKind::kEnd, begin);
     switch (ClassOf(*at_)) {
@@ -53,8 +64,8 @@ class Reader {
         ++at_;
         return Made(TokenKind::kCloseBrace, begin);
       case Class::kSlash:
-        if (OpensComment('/')) return LineComment();
-        if (OpensComment('*')) return FinishBlockComment(at_, at_ + 1);
+        if (OpensComment(at_, '/')) return LineComment();
+        if (OpensComment(at_, '*')) return FinishBlockComment(at_, at_ + 1);
         break;
       default:
         break;
@@ -77,7 +88,9 @@ class Reader {
   static const std::array<Class, 256> kClasses;
   static Class ClassOf(char c) { return kClasses[static_cast<unsigned char>(c)]; }
 
-  bool OpensComment(char second) const { return end_ - at_ > 1 && at_[1] == second; }
+  bool OpensComment(const char* slash, char second) const {
+    return end_ - slash > 1 && slash[1] == second;
+  }
 
   Token Made(TokenKind kind, const char* begin) const {
     return {.kind = kind, .range = {begin - start_, at_ - start_}};
@@ -91,16 +104,26 @@ class Reader {
     return token;
   }
 
+  /// The first place from `at` on that has none of this class.
+  const char* PastAll(Class wanted, const char* at) const {
+    const char* const end = end_;  // a local one: bytes might be those of the members
+    while (at != end && ClassOf(*at) == wanted) ++at;
+    return at;
+  }
+
   Token LineComment() {
     const char* const begin = at_;
-    while (at_ != end_ && ClassOf(*at_) != Class::kBreak) ++at_;
+    const char* at = at_;
+    while (at != end_ && ClassOf(*at) != Class::kBreak) ++at;
+    at_ = at;
     return Made(TokenKind::kLineComment, begin);
   }
 
   Token Word() {
-    const char* const begin = at_++;
-    for (; at_ != end_ && ClassOf(*at_) <= Class::kSlash; ++at_) {
-      if (*at_ == '/' && (OpensComment('/') || OpensComment('*'))) break;
+    const char* const begin = at_;
+    at_ = PastAll(Class::kWord, at_ + 1);
+    while (at_ != end_ && *at_ == '/' && !OpensComment(at_, '/') && !OpensComment(at_, '*')) {
+      at_ = PastAll(Class::kWord, at_ + 1);
     }
     return Made(TokenKind::kWord, begin);
   }

@@ -53,6 +53,7 @@ void Script::ReadStarts(std::string_view text, Chunk& chunk) {
     chunk.starts.push_back({.offset = static_cast<std::uint32_t>(token.range.begin - chunk.begin),
                             .keyword = keyword});
     pending = PendingAfter(keyword);
+    if (pending.wholeLine) reader.SkipWords();
   };
   for (Token token = reader.Next(); token.kind != TokenKind::kEnd; token = reader.Next()) {
     chunk.lineBreaks += token.lineBreaks;
