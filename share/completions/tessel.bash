@@ -2,15 +2,15 @@
 
 _tessel_options() {
   case $1 in
-    convert) echo "--output --in-place --report" ;;
-    randomize) echo "--section --lower --upper --keep-below --keep-above --seed --report --output --in-place" ;;
+    convert) echo "--output --force --in-place --report" ;;
+    randomize) echo "--section --lower --upper --keep-below --keep-above --seed --report --output --force --in-place" ;;
     settings) echo "--section --json" ;;
-    set) echo "--output --in-place" ;;
+    set) echo "--output --force --in-place" ;;
     levels) echo "--json" ;;
-    level) echo "--map --title --output --in-place" ;;
+    level) echo "--map --title --output --force --in-place" ;;
     colour) echo "--format" ;;
     words) echo "--store" ;;
-    new) echo "--output" ;;
+    new) echo "--output --force" ;;
   esac
 }
 
@@ -38,7 +38,7 @@ _tessel() {
   fi
   if [[ -z $choices && $current == -* ]]; then
     choices="$(_tessel_options "$command") --help --version"
-    [[ $command == words && ${COMP_WORDS[2]} == export ]] && choices+=" --output"
+    [[ $command == words && ${COMP_WORDS[2]} == export ]] && choices+=" --output --force"
   elif [[ -z $choices && $previous != -o && $previous != --output && $previous != --store ]]; then
     case $command:$COMP_CWORD in
       get:3 | set:3) choices=$(_tessel_items "${COMP_WORDS[2]}") ;;

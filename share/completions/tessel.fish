@@ -16,6 +16,7 @@ complete -c tessel -f -n "not __fish_seen_subcommand_from $commands" -a words -d
 complete -c tessel -f -n "not __fish_seen_subcommand_from $commands" -a new -d 'Start a file from a template'
 
 complete -c tessel -n '__fish_seen_subcommand_from convert randomize set level new export' -s o -l output -r -d 'Write the result to this file'
+complete -c tessel -n '__fish_seen_subcommand_from convert randomize set level new export' -l force -d 'Replace the file that is there'
 complete -c tessel -n '__fish_seen_subcommand_from convert randomize set level' -l in-place -d 'Write the result over the file'
 complete -c tessel -n '__fish_seen_subcommand_from convert randomize' -l report -d 'List what was done'
 complete -c tessel -n '__fish_seen_subcommand_from randomize' -l section -x -a 'All Player Weapon Enemy Misc'

@@ -57,16 +57,18 @@ void TakeDocumentText(CLI::Option& option) {
   option.transform(CLI::Validator(convert, ""));
 }
 
-/// "-o FILE".
-CLI::Option* AddOutput(CLI::App& command, std::string& file) {
-  CLI::Option* option = command.add_option("-o,--output", file, "write the result to this file");
+/// "-o FILE", and "--force".
+CLI::Option* AddOutput(CLI::App& command, Destination& destination) {
+  CLI::Option* option =
+      command.add_option("-o,--output", destination.file, "write the result to this file");
   TakeFileName(*option);
+  command.add_flag("--force", destination.force, "replace the file of -o if it is there");
   return option;
 }
 
 /// "-o FILE" or "--in-place".
 void AddDestination(CLI::App& command, Destination& destination) {
-  auto* output = AddOutput(command, destination.file);
+  auto* output = AddOutput(command, destination);
   command.add_flag("--in-place", destination.inPlace, "write the result over the file itself")
       ->excludes(output);
 }
@@ -200,7 +202,8 @@ void AddWords(CLI::App& program, WordsArguments& arguments, int& status) {
   add("import", "Add the words of a file: one a line, word, tab, parameters", ImportWords)
       ->add_option("FILE", arguments.file, "the file")
       ->required();
-  AddOutput(*add("export", "Print the words as import reads them", ExportWords), arguments.file);
+  AddOutput(*add("export", "Print the words as import reads them", ExportWords),
+            arguments.destination);
 }
 
 void AddNew(CLI::App& program, NewArguments& start, int& status) {
@@ -211,7 +214,7 @@ void AddNew(CLI::App& program, NewArguments& start, int& status) {
   command->add_option("CODE", start.code, "13DU, 15AU (user), 13DD, 15AD (defs), 13DG, 15AG (game)")
       ->required()
       ->check(CLI::IsMember(codes));
-  AddOutput(*command, start.destination.file);
+  AddOutput(*command, start.destination);
   Runs(*command, StartNew, start, status);
 }
 

@@ -10,6 +10,7 @@ namespace tessel::cli {
 struct Destination {
   std::string file;
   bool inPlace = false;
+  bool force = false;  ///< "-o" may replace a file
 };
 
 /// Writes a result byte for byte. `source` is the file it was made from. False when that failed;

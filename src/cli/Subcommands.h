@@ -71,7 +71,8 @@ bool PrintInColours(const ColourArguments& arguments);
 struct WordsArguments {
   std::string store;             ///< the settings file; empty: the user's own
   std::string word, parameters;  ///< single-byte text
-  std::string file;              ///< to be read or written
+  std::string file;              ///< to be read
+  Destination destination;
 };
 bool ListWords(const WordsArguments& arguments);
 bool GetWord(const WordsArguments& arguments);

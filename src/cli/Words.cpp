@@ -105,7 +105,7 @@ bool ImportWords(const WordsArguments& arguments) {
 
 bool ExportWords(const WordsArguments& arguments) {
   return WithStore(arguments, [&](SettingsStore& store) {
-    return WriteResult(FormatWordFile(ReadScriptWords(store)), {arguments.file, false}, {});
+    return WriteResult(FormatWordFile(ReadScriptWords(store)), arguments.destination, {});
   });
 }
 

@@ -17,6 +17,14 @@ TEST_F(CommandLineNew, WritesAFile) {
   EXPECT_EQ(Bytes("User.con"), TemplateText("zmuserp.dat"));
 }
 
+TEST_F(CommandLineNew, ReplacesAFileOnlyWhenForced) {
+  Put("User.con", "mine");
+  ExpectRefusal({"new", "15AU", "-o", "User.con"},
+                "Cannot save User.con: it is there already; --force replaces it.");
+  EXPECT_EQ(OutputOf({"new", "15AU", "-o", "User.con", "--force"}), "");
+  EXPECT_EQ(Bytes("User.con"), TemplateText("zmuserp.dat"));
+}
+
 TEST_F(CommandLineNew, KnowsItsTemplates) {
   ExpectUsageError({"new", "14XX"}, "CODE: 14XX not in {13DU,15AU,13DD,15AD,13DG,15AG}",
                    "tessel new");

@@ -74,8 +74,26 @@ TEST_F(CommandLineValues, SetsAValueIntoAnotherFile) {
   EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "-1", "-o", "new.con"}), "");
   EXPECT_EQ(Bytes("new.con"), With(kValuesText, "64", "-1"));
   EXPECT_EQ(Bytes("User.con"), kValuesText);
-  EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "--output=new.con"}), "");
+  EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "--output=new.con", "--force"}), "");
   EXPECT_EQ(Bytes("new.con"), With(kValuesText, "64", "9"));
+}
+
+TEST_F(CommandLineValues, ReplacesAnotherFileOnlyWhenForced) {
+  Put("new.con", "mine");
+  ExpectRefusal({"set", "User.con", "QSIZE", "9", "-o", "new.con"},
+                "Cannot save new.con: it is there already; --force replaces it.");
+  EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "-o", "new.con", "--force"}), "");
+  EXPECT_EQ(Bytes("new.con"), With(kValuesText, "64", "9"));
+}
+
+TEST_F(CommandLineValues, NamesTheOptionThatWritesOverTheFileItself) {
+  const std::string sentence =
+      "Cannot save User.con: it is the file that was read; --in-place writes over it.";
+  ExpectRefusal({"set", "User.con", "QSIZE", "9", "-o", "User.con"}, sentence);
+  std::filesystem::create_symlink("User.con", PathOf("link.con"));
+  ExpectRefusal({"set", "link.con", "QSIZE", "9", "-o", "User.con"}, sentence);
+  EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "-o", "User.con", "--force"}), "");
+  EXPECT_EQ(Bytes("User.con"), With(kValuesText, "64", "9"));
 }
 
 TEST_F(CommandLineValues, SetsAYesNoSettingInAnyCase) {
@@ -142,7 +160,7 @@ TEST_F(CommandLineValues, ReadsAndWritesEverySettingOfTheTemplate) {
     ASSERT_TRUE(row["value"].is_string()) << item;
     EXPECT_EQ(OutputOf({"get", "whole.con", item}), row["value"].get<std::string>() + "\n");
     const std::string value = row["value"] == "YES" ? "NO" : row["value"] == "NO" ? "YES" : "4321";
-    OutputOf({"set", "whole.con", item, value, "-o", "changed.con"});
+    OutputOf({"set", "whole.con", item, value, "-o", "changed.con", "--force"});
     EXPECT_EQ(OutputOf({"get", "changed.con", item}), value + "\n");
     OutputOf({"set", "changed.con", item, row["value"], "--in-place"});
     EXPECT_EQ(Bytes("changed.con"), Bytes("whole.con")) << item;

@@ -53,6 +53,8 @@ TEST_F(CommandLineWords, ImportsWhatItExports) {
   EXPECT_EQ(OutputOf({"words", "get", "caf\xC3\xA9"}), "[\xE2\x82\xAC] <b>\n");
   OutputOf({"words", "export", "-o", "again.txt"});
   EXPECT_EQ(Bytes("again.txt"), list);
+  ExpectRefusal({"words", "export", "-o", "words.txt"},
+                "Cannot save words.txt: it is there already; --force replaces it.");
 }
 
 TEST_F(CommandLineWords, ImportsAllOrNothing) {
