@@ -5,8 +5,8 @@
 
 namespace tessel {
 
-/// The directory of the templates that was installed with this library; in a build tree that of the
-/// sources.
+/// The directory of the templates that was installed with this library, or else that of the
+/// program.
 std::string InstalledTemplates();
 
 }  // namespace tessel

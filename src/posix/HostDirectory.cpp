@@ -10,8 +10,7 @@ std::string DefaultHostDirectory() {
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
   const fs::path installed = (program.parent_path() / TESSEL_DATA_FROM_PROGRAM).lexically_normal();
-  if (!error && fs::is_directory(installed, error)) return installed.string();
-  return fs::is_directory(TESSEL_SOURCE_DATA_DIR, error) ? TESSEL_SOURCE_DATA_DIR : TESSEL_DATA_DIR;
+  return !error && fs::is_directory(installed, error) ? installed.string() : TESSEL_DATA_DIR;
 }
 
 }  // namespace tessel

@@ -5,8 +5,9 @@
 
 namespace tessel {
 
-/// The host program's directory: the installed one that belongs to the running program, wherever
-/// the whole was installed; for a program run from its build tree, that of the sources.
+/// The host program's directory: the one that belongs to the running program, wherever the whole
+/// was installed or built; where that is missing, the one of the prefix that the program was built
+/// for.
 std::string DefaultHostDirectory();
 
 }  // namespace tessel
