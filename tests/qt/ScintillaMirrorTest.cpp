@@ -129,6 +129,20 @@ TEST_F(MirrorInStep, GivesColoursWhereTheDocumentDrawsAndNoFurther) {
   EXPECT_EQ(State(), kInStep);
 }
 
+// Scintilla forgets the style of the last byte when what is behind it goes.
+TEST_F(MirrorInStep, ColoursAWholeCharacterWhereTheDocumentForgotAPartOfIt) {
+  model.SetText("one \x80");
+  model.SelectByHand(0, 5);
+  model.SetSelColor(kDarkRed);
+  Draw();
+  for (const SciPosition styled : {5, 6}) {
+    document.styledEnd = styled;
+    Draw();
+    EXPECT_EQ(document.styles, std::string(7, document.styles[0])) << styled;
+    ExpectEqualSides();
+  }
+}
+
 TEST_F(MirrorInStep, LetsTheDocumentAskAgainFromWhereTheModelPainted) {
   model.SetText("one two");
   Draw();

@@ -65,13 +65,18 @@ void ScintillaText::BecomeEqualTo(std::string_view bytes) {
                                       wanted.size() - static_cast<std::size_t>(head + tail)));
 }
 
+SciPosition ScintillaText::StartOfCharacterAt(SciPosition at) const {
+  while (at > 0 && at < document_.Size() && !StartsCharacter(Utf8(at, 1).front())) --at;
+  return at;
+}
+
 void ScintillaText::ForgetColours(Position from) {
   const SciPosition start = PositionOf(from);
   if (start < document_.StyledEnd()) document_.ForgetStyles(start);
 }
 
 void ScintillaText::ColourUpTo(SciPosition end, const TextStore& store) {
-  const SciPosition start = document_.StyledEnd();
+  const SciPosition start = StartOfCharacterAt(document_.StyledEnd());
   if (start >= end) return;
   std::array<char, 256> styleOfIndex{};
   std::ranges::transform(store.Palette(), styleOfIndex.begin(), [this](Colour colour) {

@@ -52,6 +52,7 @@ class ScintillaText {
   /// The second style of each of these, at its number.
   std::array<char, 256> TwinsOf(std::string_view someStyles);
   void HideTails(std::string_view whole, Position first, std::string& styles);
+  SciPosition StartOfCharacterAt(SciPosition at) const;
 
   ScintillaDocument& document_;
   ScintillaIndex index_;
