@@ -31,7 +31,7 @@ BackupsDialog::BackupsDialog(std::vector<Backup> backups, const std::string& cur
     : QDialog(parent), backups_(std::move(backups)), list_(new QTreeWidget(this)) {
   setWindowTitle(tr("Backups"));
   const auto isCurrent = [&](const Backup& backup) { return backup.path == currentPath; };
-  std::ranges::stable_partition(backups_, isCurrent);
+  std::stable_partition(backups_.begin(), backups_.end(), isCurrent);
 
   auto* label = new QLabel(tr("&What saving has replaced, the current document's file first:"));
   label->setBuddy(list_);
