@@ -49,6 +49,7 @@ Box BoxOf(MessageButtons buttons) {
   using enum MessageAnswer;
   switch (buttons) {
     case MessageButtons::kYesNo:
+    case MessageButtons::kNoYes:
       return {"YesNo", {kNo, kYes}};
     case MessageButtons::kYesNoCancel:
       return {"YesNoCancel", {kCancel, kNo, kYes}};

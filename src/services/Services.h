@@ -14,7 +14,8 @@ class Control;
 class Form;
 
 enum class MessageIcon { kNone, kInformation, kExclamation, kQuestion };
-enum class MessageButtons { kOk, kYesNo, kYesNoCancel };
+/// With kNoYes the Return key means No: for a box that comes up while a person types.
+enum class MessageButtons { kOk, kYesNo, kYesNoCancel, kNoYes };
 enum class MessageAnswer { kOk, kYes, kNo, kCancel };
 
 /// The title of every message box that has one.

@@ -56,6 +56,7 @@ class FakeMessageBox : public MessageBox {
       case MessageButtons::kOk:
         return MessageAnswer::kOk;
       case MessageButtons::kYesNo:
+      case MessageButtons::kNoYes:
         return MessageAnswer::kNo;
       case MessageButtons::kYesNoCancel:
         break;

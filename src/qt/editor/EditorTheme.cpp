@@ -60,6 +60,7 @@ EditorTheme ThemeOf(const QPalette& palette, QPalette::ColorGroup group) {
   theme.marginBackground = Mixed(theme.background, theme.text, 0.04);
   theme.marginText = ReadableOn(Mixed(theme.text, theme.background, 0.5), theme.marginBackground,
                                 theme.marginBackground);
+  theme.outline = ReadableOn(theme.selection, theme.background, theme.currentLine);
   return theme;
 }
 

@@ -23,6 +23,7 @@ struct EditorTheme {
   QColor selectedText;
   QColor marginBackground;
   QColor marginText;
+  QColor outline;  // of a box that has to be seen
 
   /// What a text colour is painted with: itself where it can be read on the background and on the
   /// current line, else the nearest lighter or darker one that can. Black is the palette's text

@@ -41,7 +41,8 @@ ScintillaView::ScintillaView(RichTextBox& model, Clipboard& clipboard, QWidget* 
       document_(*this),
       mirror_(model, document_),
       commands_(model, mirror_, clipboard),
-      lineNumbers_(*this) {
+      lineNumbers_(*this),
+      outline_(*this) {
   setAccessibleName(tr("Editor"));
   setAccessibleDescription(tr("The text of the document"));
   SetUpEditor(*this);
@@ -58,8 +59,10 @@ void ScintillaView::ListenToScintilla() {
             if ((type & SC_MOD_BEFOREINSERT) != 0) mirror_.BeforeInsertion(position, length);
             if ((type & SC_MOD_BEFOREDELETE) != 0) mirror_.BeforeDeletion(position, length);
           });
-  connect(this, &QsciScintillaBase::SCN_UPDATEUI, this,
-          [this] { mirror_.SelectionMayHaveMoved(); });
+  connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this] {
+    mirror_.SelectionMayHaveMoved();
+    outline_.Follow();
+  });
   connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
           [this](int end) { mirror_.ColoursNeeded(end); });
   connect(this, &QsciScintillaBase::SCN_MODIFYATTEMPTRO, this, [this] {
@@ -279,6 +282,7 @@ QMimeData* ScintillaView::toMimeData(const QByteArray&, bool) const {
 void ScintillaView::ApplyTheme() {
   const EditorTheme theme = ThemeOfWidget(*this);
   PaintEditor(*this, theme);
+  outline_.Paint(theme);
   mirror_.SetTheme(theme);
 }
 

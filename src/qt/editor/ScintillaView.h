@@ -13,6 +13,7 @@
 #include "qt/editor/LineNumberMargin.h"
 #include "qt/editor/ScintillaMirror.h"
 #include "qt/editor/ScintillaViewAccessibility.h"
+#include "qt/editor/SelectionOutline.h"
 #include "qt/editor/WidgetDocument.h"
 #include "services/Services.h"
 
@@ -49,6 +50,12 @@ class ScintillaView : public QsciScintillaBase {
   /// control go on working. Nothing: as usual.
   void SetReading(const std::optional<Reading>& reading);
   const std::optional<Reading>& CurrentReading() const { return reading_; }
+
+  /// Draws a box around the selection until it is called with false, also while the selection is
+  /// hidden. The selection stays what it is.
+  void OutlineSelection(bool outline) { outline_.Want(outline); }
+  /// For reading the screen.
+  const SelectionOutline& Outline() const { return outline_; }
 
   /// For gestures of several keys, and for reading the screen.
   ScintillaMirror& mirror() { return mirror_; }
@@ -94,6 +101,7 @@ class ScintillaView : public QsciScintillaBase {
   ScintillaMirror mirror_;
   EditorCommands commands_;
   LineNumberMargin lineNumbers_;
+  SelectionOutline outline_;
   std::vector<Subscription> subscriptions_;
   QPoint popupPosition_;
   std::optional<Reading> reading_;

@@ -26,6 +26,7 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
 QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
   switch (buttons) {
     case MessageButtons::kYesNo:
+    case MessageButtons::kNoYes:
       return QMessageBox::Yes | QMessageBox::No;
     case MessageButtons::kYesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
@@ -58,6 +59,7 @@ MessageAnswer QtMessageBox::Show(const std::string& text, MessageIcon icon,
   box.setWindowTitle(ShownName(title));
   box.setIcon(IconOf(icon));
   box.setStandardButtons(ButtonsOf(buttons));
+  if (buttons == MessageButtons::kNoYes) box.setDefaultButton(QMessageBox::No);
   return AnswerOf(box.exec());
 }
 
