@@ -68,9 +68,10 @@ ucTessel::ucTessel(const Services& services, const Options& options)
                 .loop = services.loop,
                 .hostDirectory = services.hostDirectory},
       levels_(std::make_unique<Levels>(documentList_, LevelsControls(controls_),
-                                       LevelsServices(services_), conPath_)),
-      settings_(std::make_unique<SettingsPanel>(documentList_, SettingsControls(controls_),
-                                                *levels_, [this] { Layout(controls_); })),
+                                       LevelsServices(services_), conPath_, options.mayPanelWrite)),
+      settings_(std::make_unique<SettingsPanel>(
+          documentList_, SettingsControls(controls_), *levels_, [this] { Layout(controls_); },
+          options.mayPanelWrite)),
       documents_(std::make_unique<Documents>(Documents::Uses{
           .list = documentList_,
           .tbToolBar = controls_.tbToolBar,
@@ -89,7 +90,8 @@ ucTessel::ucTessel(const Services& services, const Options& options)
                                  [this](const auto& text) { SettingTextColor.Raise(text); });
               }})),
       words_(std::make_unique<WordPanel>(documentList_, WordControls(controls_),
-                                         WordServices(services_), *settings_)),
+                                         WordServices(services_), *settings_,
+                                         options.mayPanelWrite)),
       search_(std::make_unique<Search>(documentList_, services_.forms, services_.messages)),
       randomizer_(std::make_unique<Randomizer>(documentList_, RandomizerControls(controls_),
                                                RandomizerServices(services_), *settings_)) {

@@ -9,6 +9,7 @@
 #include "base/Event.h"
 #include "control/Commands.h"
 #include "services/Services.h"
+#include "settings/PanelWrite.h"
 #include "surface/DocumentList.h"
 #include "surface/HostedControls.h"
 
@@ -33,6 +34,8 @@ class ucTessel {
     bool dialogHoldsDocument = false;
     /// Is asked before files are opened and saved; null: nobody is. It outlives the control.
     DocumentHost* host = nullptr;
+    /// Is asked before the settings panel writes into the current document. Never empty.
+    MayPanelWrite mayPanelWrite = MayAlwaysWrite;
   };
 
   /// The services outlive the control.

@@ -32,12 +32,13 @@ void ReplaceValue(RichTextBox& editor, std::string_view newText) {
   SelectTokenBeforeCaret(editor);
 }
 
-void SelectDefineValue(RichTextBox& editor, YesNoWrite mode) {
+void SelectDefineValue(RichTextBox& editor, YesNoWrite mode, const MayReplace& mayReplace) {
   SelectValue(editor);
   editor.SetHideSelection(false);
   if (mode == YesNoWrite::kSelectOnly) return;
   if (mode == YesNoWrite::kYes || mode == YesNoWrite::kNo) {
-    editor.SetSelText(mode == YesNoWrite::kYes ? "YES" : "NO");
+    const std::string_view value = mode == YesNoWrite::kYes ? "YES" : "NO";
+    if (!mayReplace || mayReplace(value)) editor.SetSelText(value);
   }
   SelectTokenBeforeCaret(editor);
   editor.SetHideSelection(false);
@@ -61,8 +62,10 @@ void ShowDefineValue(RichTextBox& editor, Position position, ComboBox& valueBox,
   editor.SetHideSelection(false);
 }
 
-void WriteSelectedValue(RichTextBox& editor, std::string_view newText, bool bSettingValueBox) {
+void WriteSelectedValue(RichTextBox& editor, std::string_view newText, bool bSettingValueBox,
+                        const MayReplace& mayReplace) {
   if (bSettingValueBox || editor.SelLength() < 1) return;
+  if (mayReplace && !mayReplace(newText)) return;
   ReplaceValue(editor, newText);
 }
 

@@ -6,6 +6,7 @@
 // the search leaves is where the value search starts.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -18,13 +19,16 @@ namespace tessel {
 /// the selection left where it was, on a miss.
 Position FindDefine(RichTextBox& editor, std::string_view name, bool wholeWord);
 
+/// Asked before a text takes the place of the selection; false: nothing is written.
+using MayReplace = std::function<bool(std::string_view newText)>;
+
 /// What SelectDefineValue writes, by the program's own numbers.
 enum class YesNoWrite { kYes = 0, kNo = 1, kSelectOnly = 3 };
 
 /// Selects the value that belongs to the selection (a found name) and shows the selection. With
 /// kYes or kNo the value is replaced by "YES" or "NO", which is selected afterwards; with any other
 /// mode than these and kSelectOnly nothing is written.
-void SelectDefineValue(RichTextBox& editor, YesNoWrite mode);
+void SelectDefineValue(RichTextBox& editor, YesNoWrite mode, const MayReplace& mayReplace = {});
 
 /// Reads a setting whose value is YES or NO: true for exactly "YES" on its line.
 bool ReadYesNo(RichTextBox& editor, std::string_view name);
@@ -36,7 +40,8 @@ void ShowDefineValue(RichTextBox& editor, Position position, ComboBox& valueBox,
 
 /// Replaces the selected value and selects the new one. Does nothing while a value box is being set
 /// from the text, or when nothing is selected.
-void WriteSelectedValue(RichTextBox& editor, std::string_view newText, bool bSettingValueBox);
+void WriteSelectedValue(RichTextBox& editor, std::string_view newText, bool bSettingValueBox,
+                        const MayReplace& mayReplace = {});
 
 /// Replaces the selection whatever it holds, and selects the token before the caret.
 void ReplaceValue(RichTextBox& editor, std::string_view newText);

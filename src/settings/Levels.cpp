@@ -37,8 +37,12 @@ std::string TitleOfLevel(std::string_view mapToLineEnd) {
 }
 
 Levels::Levels(const DocumentList& documents, const Controls& controls, const Services& services,
-               const std::string& conPath)
-    : documents_(documents), controls_(controls), services_(services), conPath_(conPath) {}
+               const std::string& conPath, MayPanelWrite mayWrite)
+    : documents_(documents),
+      controls_(controls),
+      services_(services),
+      conPath_(conPath),
+      mayWrite_(std::move(mayWrite)) {}
 
 void Levels::ClearBoxes() {
   controls_.txtMap.SetText("");
@@ -145,7 +149,8 @@ void Levels::cmdMap_Click() {
 void Levels::cmdInsert_Click(int index) {
   RichTextBox& editor = documents_.CurrentEditor();
   if (editor.SelLength() == 0) return;
-  editor.SetSelText(index == 0 ? controls_.txtMap.Text() : controls_.txtTitle.Text());
+  const std::string text = index == 0 ? controls_.txtMap.Text() : controls_.txtTitle.Text();
+  if (mayWrite_(PanelWrite::kLevel, text)) editor.SetSelText(text);
 }
 
 }  // namespace tessel

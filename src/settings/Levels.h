@@ -12,6 +12,7 @@
 #include "models/TabStrip.h"
 #include "models/TextBox.h"
 #include "services/Services.h"
+#include "settings/PanelWrite.h"
 #include "surface/DocumentList.h"
 
 namespace tessel {
@@ -36,7 +37,7 @@ class Levels {
 
   /// `conPath` is where the map dialog starts.
   Levels(const DocumentList& documents, const Controls& controls, const Services& services,
-         const std::string& conPath);
+         const std::string& conPath, MayPanelWrite mayWrite = MayAlwaysWrite);
 
   /// Rebuilds cboEpisode from the current document: one entry per level line, in document order.
   void FillLevelList();
@@ -67,6 +68,7 @@ class Levels {
   Controls controls_;
   Services services_;
   const std::string& conPath_;
+  MayPanelWrite mayWrite_;
 };
 
 /// Episode and level of a level line ("0 7"): what stands between its first and its third blank.

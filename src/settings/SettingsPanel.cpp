@@ -149,7 +149,9 @@ void SettingsPanel::cmbweap_Change(int index) {
   if (text.empty() || text == " ") {
     box.SetText("0");  // comes back here, and is written then
   } else if (text != kIgnoredText) {
-    WriteSelectedValue(editor, text, bSettingValueBox_);
+    WriteSelectedValue(editor, text, bSettingValueBox_, [this](std::string_view newText) {
+      return mayWrite_(PanelWrite::kValue, newText);
+    });
   }
 }
 
@@ -158,7 +160,8 @@ void SettingsPanel::cmbweap_Click(int index) {
   const ComboBox& box = controls_.cmbweap[index];
   // The first preset, "0", writes nothing.
   if (YesOrNoSelected(editor) || box.ListIndex() < 1) return;
-  ReplaceValue(editor, box.List(box.ListIndex()));
+  const std::string value = box.List(box.ListIndex());
+  if (mayWrite_(PanelWrite::kValue, value)) ReplaceValue(editor, value);
 }
 
 void SettingsPanel::WriteYesNo(std::string_view name, bool yes) {
@@ -166,7 +169,9 @@ void SettingsPanel::WriteYesNo(std::string_view name, bool yes) {
   EnableValue(kMiscPage);
   editor.SetHideSelection(true);
   FindDefine(editor, name, true);
-  SelectDefineValue(editor, yes ? YesNoWrite::kYes : YesNoWrite::kNo);
+  SelectDefineValue(
+      editor, yes ? YesNoWrite::kYes : YesNoWrite::kNo,
+      [this](std::string_view value) { return mayWrite_(PanelWrite::kYesNo, value); });
 }
 
 void SettingsPanel::optCamYes_Click() { WriteYesNo(kCamerasDestructable, true); }

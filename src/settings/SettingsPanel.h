@@ -7,6 +7,7 @@
 
 #include "settings/ItemTables.h"
 #include "settings/Levels.h"
+#include "settings/PanelWrite.h"
 #include "surface/DocumentList.h"
 
 namespace tessel {
@@ -34,8 +35,12 @@ class SettingsPanel {
 
   /// `layOut` places all parts of the surface anew.
   SettingsPanel(const DocumentList& documents, const Controls& controls, Levels& levels,
-                std::function<void()> layOut)
-      : documents_(documents), controls_(controls), levels_(levels), layOut_(std::move(layOut)) {}
+                std::function<void()> layOut, MayPanelWrite mayWrite = MayAlwaysWrite)
+      : documents_(documents),
+        controls_(controls),
+        levels_(levels),
+        layOut_(std::move(layOut)),
+        mayWrite_(std::move(mayWrite)) {}
 
   /// Fills the lists and the presets; rows of the newer dialect only for kNewerDialect. Reads the
   /// YES/NO settings and the levels of the current document unless that is empty.
@@ -70,6 +75,7 @@ class SettingsPanel {
   Controls controls_;
   Levels& levels_;
   std::function<void()> layOut_;
+  MayPanelWrite mayWrite_;
   bool bSettingValueBox_ = false;  // a value box is being set from the text: do not write it back
 };
 

@@ -1,5 +1,7 @@
 #include "words/WordPanel.h"
 
+#include <utility>
+
 #include "base/RuntimeError.h"
 #include "base/ScopeGuard.h"
 #include "words/WordList.h"
@@ -12,11 +14,12 @@ constexpr std::string_view kWordDelimiters = "\t\r\n ";
 }  // namespace
 
 WordPanel::WordPanel(const DocumentList& documents, const Controls& controls,
-                     const Services& services, SettingsPanel& settings)
+                     const Services& services, SettingsPanel& settings, MayPanelWrite mayWrite)
     : documents_(documents),
       controls_(controls),
       services_(services),
       settings_(settings),
+      mayWrite_(std::move(mayWrite)),
       editor_(services) {}
 
 void WordPanel::LoadWordList() {
@@ -64,9 +67,9 @@ void WordPanel::lstWords_Click() {
 
 void WordPanel::InsertWord() {
   const int selected = controls_.lstWords.ListIndex();
-  if (selected != kNoSelection) {
-    documents_.CurrentEditor().SetSelText(controls_.lstWords.List(selected));
-  }
+  if (selected == kNoSelection) return;
+  const std::string word = controls_.lstWords.List(selected);
+  if (mayWrite_(PanelWrite::kWord, word)) documents_.CurrentEditor().SetSelText(word);
 }
 
 void WordPanel::cmdAddword_Click() {

@@ -25,7 +25,7 @@ class WordPanel {
   using Services = WordEditor::Services;
 
   WordPanel(const DocumentList& documents, const Controls& controls, const Services& services,
-            SettingsPanel& settings);
+            SettingsPanel& settings, MayPanelWrite mayWrite = MayAlwaysWrite);
 
   /// Fills lstWords from the store. A store that cannot be read leaves the list empty.
   void LoadWordList();
@@ -48,6 +48,7 @@ class WordPanel {
   Controls controls_;
   Services services_;
   SettingsPanel& settings_;
+  MayPanelWrite mayWrite_;
   WordEditor editor_;
   std::vector<std::string> wordParams_;  // parallel to lstWords
   WordSearch search_;
