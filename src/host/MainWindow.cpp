@@ -15,6 +15,7 @@
 #include "host/ReadingNotice.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
+#include "host/ReplacementOutline.h"
 #include "host/RestoredText.h"
 #include "host/Session.h"
 #include "posix/PosixFiles.h"
@@ -81,11 +82,12 @@ Services With(const Services& s, FileDialogs& dialogs) {
 MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
     : dialogs_(services.fileDialogs),
       guard_(files, services.messages, services.settings),
-      control_(new TesselWidget(With(services, dialogs_), widgets, this,
-                                {.dialogHoldsDocument = true, .host = &guard_})),
+      panel_(services.messages),
+      control_(new TesselWidget(With(services, dialogs_), widgets, this, ControlOptions())),
       files_(files),
       messages_(services.messages) {
   guard_.Watch(control_->Tessel().OpenDocuments());
+  panel_.Watch(control_->Tessel());
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
@@ -101,11 +103,25 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   qApp->installEventFilter(this);
   BuildMenu();
   BuildStatusBar();
+  OutlineReplacements();
   connect(control_, &TesselWidget::statusText, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::textRefused, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::documentChanged, this, &MainWindow::ShowDocument);
   connect(control_, &TesselWidget::caretMoved, this, &MainWindow::ShowCaret);
   ShowDocument();
+}
+
+ucTessel::Options MainWindow::ControlOptions() {
+  return {.dialogHoldsDocument = true,
+          .host = &guard_,
+          .mayPanelWrite = [this](PanelWrite write, std::string_view text) {
+            return panel_.MayWrite(write, text);
+          }};
+}
+
+void MainWindow::OutlineReplacements() {
+  auto* outline = new ReplacementOutline(*control_);
+  asking_ = panel_.Asking.Connect([outline](bool asking) { outline->SetAsking(asking); });
 }
 
 void MainWindow::BuildMenu() {

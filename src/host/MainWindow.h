@@ -12,6 +12,8 @@
 #include "host/HostFileDialogs.h"
 #include "host/MainMenu.h"
 #include "host/OrphanedText.h"
+#include "host/PanelGuard.h"
+#include "host/RandomizeEnd.h"
 #include "qt/TesselWidget.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/DiskState.h"
@@ -53,6 +55,8 @@ class MainWindow : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  ucTessel::Options ControlOptions();
+  void OutlineReplacements();
   void BuildMenu();
   void BuildStatusBar();
   void ShowBackups();
@@ -64,14 +68,17 @@ class MainWindow : public QMainWindow {
 
   HostFileDialogs dialogs_;
   DocumentGuard guard_;
+  PanelGuard panel_;
   TesselWidget* control_;
   OrphanedText orphans_{control_->Tessel()};
+  RandomizeEnd randomizeEnd_{control_->Tessel()};
   GuardedFiles& files_;
   MessageBox& messages_;
   MainMenu menu_{};
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
   QTimer session_;
+  Subscription asking_;
   QLabel* caret_ = nullptr;
   QLabel* modified_ = nullptr;
 };

@@ -1,0 +1,47 @@
+// What the settings panel may write over.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "control/ucTessel.h"
+#include "services/Services.h"
+
+namespace tessel {
+
+/// The control writes a value over whatever is selected, also where no define was found. This asks
+/// before a value goes anywhere but into a define's value, a map or a title anywhere but into a
+/// level's line, and a script word over a selection that nobody sees. An answer holds for the next
+/// keys in the same box, as long as they go into the same line.
+class PanelGuard {
+ public:
+  /// It outlives this.
+  explicit PanelGuard(MessageBox& messages) : messages_(messages) {}
+
+  /// The control whose panel this is.
+  void Watch(ucTessel& tessel);
+
+  bool MayWrite(PanelWrite write, std::string_view text);
+
+  /// A question is on the screen, or not any more.
+  Event<bool> Asking;
+
+ private:
+  struct Answer {
+    Slot slot;
+    Position line;  // where it starts
+    bool yes;
+  };
+
+  bool Ask(PanelWrite write, std::string_view text);
+  void OnCommandEnded();
+
+  MessageBox& messages_;
+  const DocumentList* documents_ = nullptr;
+  std::optional<Answer> answer_;
+  bool neededInCommand_ = false;
+  std::vector<Subscription> subscriptions_;
+};
+
+}  // namespace tessel
