@@ -10,15 +10,14 @@ namespace {
 
 constexpr std::size_t kMostQuoted = 60;
 
-TextRange SelectionOf(const RichTextBox& editor) { return {editor.SelStart(), editor.SelLength()}; }
-
 bool Belongs(PanelWrite write, const RichTextBox& editor) {
+  const language::Range selected{editor.SelStart(), editor.SelEnd()};
   switch (write) {
     case PanelWrite::kValue:
     case PanelWrite::kYesNo:
-      return LiesInDefineValue(editor.Bytes(), SelectionOf(editor));
+      return LiesInDefineValue(language::Script(editor.Bytes()), selected);
     case PanelWrite::kLevel:
-      return LiesInLevel(editor.Bytes(), SelectionOf(editor));
+      return LiesInLevel(language::Script(editor.Bytes()), selected);
     case PanelWrite::kWord:
       return editor.SelLength() == 0 || !editor.HideSelection();
   }
@@ -46,7 +45,7 @@ std::string Quoted(std::string_view text) {
 }
 
 std::string Question(PanelWrite write, std::string_view text, const RichTextBox& editor) {
-  const int line = LineNumberAt(editor.Bytes(), editor.SelStart());
+  const Position line = language::Script(editor.Bytes()).PlaceOf(editor.SelStart()).line;
   if (editor.SelLength() == 0) {
     return "Nothing is selected: " + Quoted(text) + " would be inserted into line " +
            std::to_string(line) + ".\nInsert it?";
@@ -67,10 +66,11 @@ bool PanelGuard::MayWrite(PanelWrite write, std::string_view text) {
   if (Belongs(write, editor)) return true;
   neededInCommand_ = true;
   const Slot slot = documents_->Current().Place();
-  const TextRange line = LineAt(editor.Bytes(), editor.SelStart());
-  const bool known = answer_ && answer_->slot == slot && answer_->line == line.start &&
-                     editor.SelEnd() <= line.End();
-  if (!known) answer_ = {slot, line.start, Ask(write, text)};
+  const language::Script script(editor.Bytes());
+  const Position line = script.PlaceOf(editor.SelStart()).line;
+  const bool known = answer_ && answer_->slot == slot && answer_->line == line &&
+                     editor.SelEnd() <= script.Line(line).end;
+  if (!known) answer_ = {slot, line, Ask(write, text)};
   return answer_->yes;
 }
 

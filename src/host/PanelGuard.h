@@ -30,7 +30,7 @@ class PanelGuard {
  private:
   struct Answer {
     Slot slot;
-    Position line;  // where it starts
+    Position line;  // from 1
     bool yes;
   };
 

@@ -7,17 +7,17 @@
 #include "language/SettingLines.h"
 #include "support/SelectionText.h"
 
-namespace tessel::test {
+namespace tessel::language {
 namespace {
 
 bool InDefine(std::string_view marked) {
-  const SelectionText read = ReadSelection(marked);
-  return LiesInDefineValue(read.text, {read.start, read.length});
+  const auto read = test::ReadSelection(marked);
+  return LiesInDefineValue(Script(read.text), {read.start, read.start + read.length});
 }
 
 bool InLevel(std::string_view marked) {
-  const SelectionText read = ReadSelection(marked);
-  return LiesInLevel(read.text, {read.start, read.length});
+  const auto read = test::ReadSelection(marked);
+  return LiesInLevel(Script(read.text), {read.start, read.start + read.length});
 }
 
 TEST(SettingLines, AValueOfADefine) {
@@ -33,11 +33,12 @@ TEST(SettingLines, NoValueOfADefine) {
        {"[// Weapon Strengths]", "define [A] 5", "[define] A 5", "define [A 5]", "define A []5",
         "define A 5 // [x]", "define A 5 /* [x] */", "// define A [5]", "defined A [5]",
         "undefine A [5]", "define A [5\r\ndefine B 6]", "define A\r\n[5]", "definelevelname 0 [0]",
-        "define A [5\r]\n", "define A[ ]", "[x]", "[define]", "define A [5 // x]"}) {
+        "define A [5\r]\n", "define A[ ]", "/* x\r\ndefine A [5]\r\n*/", "[x]", "[define]",
+        "define A [5 // x]"}) {
     EXPECT_FALSE(InDefine(text)) << text;
   }
-  EXPECT_FALSE(LiesInDefineValue("", {0, 0}));
-  EXPECT_FALSE(LiesInDefineValue("define A", {8, 0}));
+  EXPECT_FALSE(InDefine("[]"));
+  EXPECT_FALSE(InDefine("define A[]"));
 }
 
 TEST(SettingLines, WhatStandsInALevelsLine) {
@@ -49,18 +50,5 @@ TEST(SettingLines, WhatStandsInALevelsLine) {
   EXPECT_FALSE(InLevel("definelevelname 0 1 [E1L2.map\r\nx]"));
 }
 
-TEST(SettingLines, LinesEndAtEachKindOfBreak) {
-  const std::string text = "a\r\nbc\rd\n\ne";
-  const TextRange lines[] = {{0, 1}, {0, 1}, {3, 2}, {3, 2}, {3, 2},
-                             {6, 1}, {6, 1}, {8, 0}, {9, 1}};
-  const Position places[] = {0, 1, 3, 4, 5, 6, 7, 8, 9};
-  const int numbers[] = {1, 1, 2, 2, 2, 3, 3, 4, 5};
-  for (std::size_t i = 0; i < std::size(places); ++i) {
-    EXPECT_EQ(LineAt(text, places[i]), lines[i]) << places[i];
-    EXPECT_EQ(LineNumberAt(text, places[i]), numbers[i]) << places[i];
-  }
-  EXPECT_EQ(LineAt(text, 10), (TextRange{9, 1}));
-}
-
 }  // namespace
-}  // namespace tessel::test
+}  // namespace tessel::language
