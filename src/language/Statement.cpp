@@ -57,6 +57,14 @@ Statement ReadStatement(const Script& script, Mark mark) {
   return statement;
 }
 
+Range NameOf(const Script& script, Mark mark) {
+  WordReader reader(script, mark);
+  const Range none = {reader.KeywordRange().end, reader.KeywordRange().end};
+  std::optional<Range> word;
+  for (int i = GrammarOf(mark.keyword).nameWord; i > 0; --i) word = reader.Next();
+  return word.value_or(none);
+}
+
 std::optional<Statement> StatementAt(const Script& script, Position offset) {
   const auto mark = script.LastMarkUpTo(offset);
   if (!mark) return std::nullopt;

@@ -44,6 +44,9 @@ struct Statement {
 
 Statement ReadStatement(const Script& script, Mark mark);
 
+/// Its name alone; empty, at the end of the keyword, where it has none.
+Range NameOf(const Script& script, Mark mark);
+
 /// The statement that a byte belongs to, if any: comments and blanks between its words do, what is
 /// behind the last word does not.
 std::optional<Statement> StatementAt(const Script& script, Position offset);

@@ -1,0 +1,120 @@
+#include "language/Blocks.h"
+
+#include <array>
+#include <utility>
+
+#include "language/Statement.h"
+
+namespace tessel::language {
+namespace {
+
+struct Pair {
+  Keyword opener;
+  Keyword closer;
+};
+constexpr std::array<Pair, 4> kPairs = {{{Keyword::kState, Keyword::kEnds},
+                                         {Keyword::kActor, Keyword::kEndA},
+                                         {Keyword::kUserActor, Keyword::kEndA},
+                                         {Keyword::kOpenBrace, Keyword::kCloseBrace}}};
+
+bool ArePair(Keyword opener, Keyword closer) {
+  for (const Pair& pair : kPairs) {
+    if (pair.opener == opener && pair.closer == closer) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+BlockWalk::BlockWalk(const Script& script)
+    : script_(script), next_(script.Marks().begin()), last_(script.Marks().end()) {}
+
+std::optional<Mark> BlockWalk::Following() const {
+  if (next_ == last_) return std::nullopt;
+  return *next_;
+}
+
+bool BlockWalk::Next() {
+  if (next_ == last_) {
+    while (!open_.empty()) LeaveOpen(script_.Length());
+    return false;
+  }
+  mark_ = *next_;
+  ++next_;
+  role_ = Enter();
+  return true;
+}
+
+Role BlockWalk::Enter() {
+  switch (mark_.keyword) {
+    case Keyword::kAction:
+    case Keyword::kMove:
+    case Keyword::kAi:
+      return IsInScriptBlock() ? Role::kUses : Role::kDefines;
+    case Keyword::kState:
+      return IsInScriptBlock() ? Role::kUses : Open();
+    case Keyword::kActor:
+    case Keyword::kUserActor:
+    case Keyword::kOpenBrace:
+      return Open();
+    case Keyword::kEnds:
+    case Keyword::kEndA:
+    case Keyword::kCloseBrace:
+      return Close();
+    case Keyword::kInclude:
+    case Keyword::kMusic:
+    case Keyword::kGameStartup:
+      return Role::kOther;
+    default:
+      return Role::kDefines;
+  }
+}
+
+/// Braces alone may stand around a block by mistake; they make no statement one of its uses.
+bool BlockWalk::IsInScriptBlock() const {
+  return !open_.empty() && blocks_[open_.front()].opener.keyword != Keyword::kOpenBrace;
+}
+
+Role BlockWalk::Open() {
+  if (mark_.keyword != Keyword::kOpenBrace) {
+    while (!open_.empty()) LeaveOpen(mark_.begin);
+  }
+  Block block;
+  block.opener = mark_;
+  block.name = NameOf(script_, mark_);
+  block.range = {mark_.begin, script_.Length()};
+  if (!open_.empty()) block.parent = open_.back();
+  open_.push_back(blocks_.size());
+  blocks_.push_back(block);
+  return Role::kOpens;
+}
+
+Role BlockWalk::Close() {
+  // "ends" and "enda" reach over braces that are left open, to the outermost block.
+  const bool brace = mark_.keyword == Keyword::kCloseBrace;
+  const auto opener = [&] { return blocks_[brace ? open_.back() : open_.front()].opener.keyword; };
+  if (open_.empty() || !ArePair(opener(), mark_.keyword)) return Role::kClosesNothing;
+  while (!brace && open_.size() > 1) LeaveOpen(mark_.begin);
+  Block& block = blocks_[open_.back()];
+  block.range.end = mark_.begin + static_cast<Position>(GrammarOf(mark_.keyword).word.size());
+  block.terminated = true;
+  open_.pop_back();
+  return Role::kCloses;
+}
+
+void BlockWalk::LeaveOpen(Position end) {
+  blocks_[open_.back()].range.end = end;
+  open_.pop_back();
+}
+
+BlockTree Blocks(const Script& script) {
+  BlockTree tree;
+  BlockWalk walk(script);
+  while (walk.Next()) {
+    if (walk.CurrentRole() == Role::kClosesNothing) tree.strayClosers.push_back(walk.Current());
+  }
+  tree.blocks = walk.TakeBlocks();
+  return tree;
+}
+
+}  // namespace tessel::language
