@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "language/Reader.h"
-
 namespace tessel::language {
 namespace {
 
@@ -239,6 +237,12 @@ Comment Script::CommentUpToItsClose(Position begin, std::size_t index) const {
 std::optional<Comment> Script::UnterminatedComment() const {
   if (chunks_.empty() || !chunks_.back().EndsInComment()) return std::nullopt;
   return CommentAt(Length() - 1);
+}
+
+Reader Script::ReaderBefore(Position offset) const {
+  if (chunks_.empty()) return Reader(text_);
+  const Chunk& chunk = chunks_[ChunkIndexOf(offset)];
+  return {text_, chunk.begin, Length(), chunk.beginsInComment};
 }
 
 Script::MarkRange Script::MarksFrom(Position offset) const {

@@ -15,6 +15,7 @@
 
 #include "language/Keywords.h"
 #include "language/Range.h"
+#include "language/Reader.h"
 
 namespace tessel::language {
 
@@ -126,6 +127,9 @@ class Script {
     MarkIterator begin() const { return first; }
     MarkIterator end() const { return last; }
   };
+
+  /// Reads the tokens from the begin of some line on that is not behind `offset`, but near.
+  Reader ReaderBefore(Position offset) const;
 
   MarkRange Marks() const { return MarksFrom(0); }
   /// Those that begin at `offset` or behind it.
