@@ -3,12 +3,15 @@
 // for each where it is, how much it takes away, and what it writes.
 #include "language/Script.h"
 
+#include <algorithm>
 #include <string>
-#include <vector>
 
 #include "fuzz/Fuzzing.h"
+#include "language/Blocks.h"
 #include "language/Definitions.h"
+#include "language/Entries.h"
 #include "language/Levels.h"
+#include "language/Names.h"
 #include "language/Statement.h"
 #include "support/ReadingChecks.h"
 
@@ -52,6 +55,10 @@ void AskForAll(const Script& script) {
                             definition.rest,
                             {definition.end, definition.end}});
   }
+  for (const auto& sound : language::Sounds(script)) {
+    RequireInOrder(
+        script, {sound.name, sound.file, sound.numbers.front(), sound.numbers.back(), sound.rest});
+  }
   for (const auto& level : language::Levels(script)) {
     RequireInOrder(script, {level.keyword,
                             level.episode,
@@ -61,6 +68,44 @@ void AskForAll(const Script& script) {
                             level.record,
                             level.title,
                             {level.lineEnd, level.lineEnd}});
+  }
+}
+
+/// A block ends where or before the one around it does, and with its closer where it has one.
+void RequireNested(const Script& script) {
+  const language::BlockTree tree = language::Blocks(script);
+  std::size_t terminated = 0;
+  for (const auto& block : tree.blocks) {
+    RequireInOrder(script, {{block.opener.begin, block.opener.begin}, block.range});
+    terminated += static_cast<std::size_t>(block.terminated);
+    if (!block.parent) continue;
+    const Range around = tree.blocks[*block.parent].range;
+    Require(around.begin < block.range.begin && block.range.end <= around.end,
+            "a block stands in its parent");
+  }
+  std::size_t closers = 0;
+  for (const auto mark : script.Marks()) {
+    const std::string_view word = language::GrammarOf(mark.keyword).word;
+    closers += static_cast<std::size_t>(word == "ends" || word == "enda" || word == "}");
+  }
+  Require(closers == terminated + tree.strayClosers.size(), "every closer closes or is stray");
+}
+
+void RequireUses(const Script& script) {
+  for (const auto& symbol : language::Symbols(script)) {
+    RequireInOrder(script, {{symbol.range.begin, symbol.range.begin}, symbol.name, symbol.detail});
+  }
+  std::size_t asked = 0;
+  for (const auto& definition : language::Definitions(script)) {
+    if (!definition.HasName() || ++asked > 10) continue;
+    const auto uses = language::UsesOf(script, script.Text(definition.name));
+    const auto itself = std::ranges::find(uses, definition.name, &language::Use::word);
+    Require(itself != uses.end() && itself->kind == language::UseKind::kDefines,
+            "a definition is a use of its name");
+    for (const auto& use : uses) {
+      Require(!script.IsInComment(use.word.begin), "no use stands in a comment");
+      Require(language::WordAt(script, use.word.begin) == use.word, "a use is a whole word");
+    }
   }
 }
 
@@ -90,6 +135,8 @@ void ReadEdited(std::string& text, Position chunkLength, Input& input) {
     RequireNaive(script);
   }
   AskForAll(script);
+  RequireNested(script);
+  RequireUses(script);
 }
 
 }  // namespace
