@@ -46,7 +46,7 @@ void AskForDefinitions(benchmark::State& state) {
   const std::string& text = UserFile(static_cast<std::size_t>(state.range(0)));
   const language::Script script(text);
   std::size_t count = 0;
-  Measure(state, text, kNoPreparation, [&] { count = Definitions(script).size(); });
+  Measure(state, text, kNoPreparation, [&] { count = language::Definitions(script).size(); });
   state.counters["definitions"] = static_cast<double>(count);
 }
 
@@ -54,7 +54,7 @@ void AskForLevels(benchmark::State& state) {
   const std::string& text = UserFile(static_cast<std::size_t>(state.range(0)));
   const language::Script script(text);
   std::size_t count = 0;
-  Measure(state, text, kNoPreparation, [&] { count = Levels(script).size(); });
+  Measure(state, text, kNoPreparation, [&] { count = language::Levels(script).size(); });
   state.counters["levels"] = static_cast<double>(count);
 }
 

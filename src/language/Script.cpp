@@ -45,11 +45,13 @@ Pending PendingAfter(Keyword keyword) {
 }  // namespace
 
 void Script::ReadStarts(std::string_view text, Chunk& chunk) {
+  std::vector<Chunk::Start> starts;
+  starts.reserve(static_cast<std::size_t>(chunk.end - chunk.begin) / 16 + 1);
   Reader reader(text, chunk.begin, chunk.end, chunk.beginsInComment && chunk.closesComment);
   Pending pending;
   const auto add = [&](const Token& token, Keyword keyword) {
-    chunk.starts.push_back({.offset = static_cast<std::uint32_t>(token.range.begin - chunk.begin),
-                            .keyword = keyword});
+    starts.push_back({.offset = static_cast<std::uint32_t>(token.range.begin - chunk.begin),
+                      .keyword = keyword});
     pending = PendingAfter(keyword);
     if (pending.wholeLine) reader.SkipWords();
   };
@@ -73,6 +75,7 @@ void Script::ReadStarts(std::string_view text, Chunk& chunk) {
         break;
     }
   }
+  chunk.starts.assign(starts.begin(), starts.end());
 }
 
 Script::Chunk Script::ReadChunk(std::string_view text, Range range, bool beginsInComment) {
