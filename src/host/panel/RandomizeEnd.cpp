@@ -1,4 +1,4 @@
-#include "host/RandomizeEnd.h"
+#include "host/panel/RandomizeEnd.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "host/ReplacementOutline.h"
+#include "host/panel/ReplacementOutline.h"
 
 #include <QApplication>
 #include <algorithm>

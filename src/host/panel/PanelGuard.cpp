@@ -1,4 +1,4 @@
-#include "host/PanelGuard.h"
+#include "host/panel/PanelGuard.h"
 
 #include <string>
 
