@@ -156,6 +156,7 @@ bool ucTessel::Convert() {
 
 void ucTessel::ConvertDocument() {
   const Document document = documentList_.Current();
+  Converting.Raise(document);
   ConvertUserCon(document.Editor(), services_.pointer, services_.messages,
                  [&] { documents_->MarkModified(document.Place()); });
 }

@@ -74,6 +74,8 @@ class ucTessel {
   /// The first directory of the file dialogs.
   const std::string& CONPath() const { return conPath_; }
   const SearchState& LastSearch() const;
+  /// A conversion of that document begins; nothing has changed yet, and it may still be refused.
+  Event<const Document&> Converting;
   /// A command has ended, with whatever it had to show; another one may begin in a handler.
   Event<> CommandEnded;
   /// True while a command is on its way (not while a modal form waits). A walk of the randomizer

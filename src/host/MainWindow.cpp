@@ -12,6 +12,7 @@
 #include "base/RuntimeError.h"
 #include "host/BackupsDialog.h"
 #include "host/ChangeNotice.h"
+#include "host/ConversionNotice.h"
 #include "host/ReadingNotice.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
@@ -97,6 +98,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   };
   column->addWidget(new ChangeNotice(*control_, guard_, messages_, keepText, centre));
   column->addWidget(new ReadingNotice(*control_, centre));
+  column->addWidget(new ConversionNotice(control_->Tessel(), centre));
   column->addWidget(control_, 1);
   setCentralWidget(centre);
   setAcceptDrops(true);

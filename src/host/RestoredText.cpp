@@ -17,6 +17,8 @@ bool ShowUnchangedDocument(ucTessel& tessel, Files& files, const std::string& pa
   return documents.Current().HasPath(path) && !documents.Current().Modified();
 }
 
+}  // namespace
+
 void ReplaceText(RichTextBox& editor, const std::string& bytes) {
   if (editor.Bytes() == bytes) return;
   editor.SelectByHand(0, editor.Length());
@@ -24,8 +26,6 @@ void ReplaceText(RichTextBox& editor, const std::string& bytes) {
   editor.Type(bytes);
   editor.SetSelStart(0);
 }
-
-}  // namespace
 
 bool ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
                       const std::string& bytes) {

@@ -14,4 +14,7 @@ namespace tessel {
 bool ShowRestoredText(ucTessel& tessel, Files& files, const std::string& path,
                       const std::string& bytes);
 
+/// Makes the text the editor's, in black, with the caret at 0: one edit, which Undo takes back.
+void ReplaceText(RichTextBox& editor, const std::string& bytes);
+
 }  // namespace tessel
