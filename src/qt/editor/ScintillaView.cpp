@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include "base/RuntimeError.h"
+#include "qt/base/SelectionOwner.h"
 #include "qt/base/Windows1252Qt.h"
 #include "qt/editor/EditorKeys.h"
 #include "qt/editor/EditorSetUp.h"
@@ -211,6 +212,10 @@ void ScintillaView::PasteFromMouse(QPoint at) {
   const QClipboard* system = QGuiApplication::clipboard();
   const auto offset = OffsetAt(at);
   if (!system->supportsSelection() || !offset) return;
+  if (!SelectionOwnerAnswers(QClipboard::Selection)) {
+    emit textRefused(tr("The program that has the selection does not answer. Nothing was pasted."));
+    return;
+  }
   const QMimeData* held = system->mimeData(QClipboard::Selection);
   if (held != nullptr && HoldsText(*held)) commands_.PasteAt(*offset, *held);
 }

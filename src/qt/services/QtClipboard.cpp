@@ -6,6 +6,7 @@
 #include <QMimeData>
 
 #include "base/RuntimeError.h"
+#include "qt/base/SelectionOwner.h"
 #include "qt/base/Windows1252Qt.h"
 
 namespace tessel {
@@ -13,14 +14,19 @@ namespace {
 
 constexpr qint64 kNoAnswer = 1000;  // milliseconds
 
-/// The toolkit waits some seconds for the program that has the clipboard, gives up, and waits anew
-/// at the next question: this is the only one before an answer has come.
+[[noreturn]] void RefuseWithoutAnswer() {
+  throw RuntimeError("The program that has the clipboard does not answer. Nothing was pasted.");
+}
+
+/// Where nobody could tell before, or the program stopped in between, the toolkit waits some
+/// seconds for it, gives up, and waits anew at the next question: this is the only one before an
+/// answer has come.
 bool HoldsNothing(const QMimeData& data) {
   QElapsedTimer asked;
   asked.start();
   if (!data.formats().isEmpty()) return false;
   if (asked.elapsed() < kNoAnswer) return true;
-  throw RuntimeError("The program that has the clipboard does not answer. Nothing was pasted.");
+  RefuseWithoutAnswer();
 }
 
 }  // namespace
@@ -32,6 +38,7 @@ void QtClipboard::SetText(const std::string& text) {
 }
 
 std::string QtClipboard::GetText() {
+  if (!SelectionOwnerAnswers(QClipboard::Clipboard)) RefuseWithoutAnswer();
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   if (data == nullptr || HoldsNothing(*data)) return {};
   if (!HoldsText(*data)) throw RuntimeError("The clipboard holds no text. Nothing was pasted.");
