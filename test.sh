@@ -58,7 +58,7 @@ all() {
   git ls-files 'src/*.cpp' | grep -vE '^src/(qt|automation|embed|designer|host|drive|cli)/' |
     xargs -n 4 -P "$jobs" clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option -p build/asan-ubsan 2>/dev/null
   run_tests asan-ubsan -LE thorough | tail -n 15
-  run_tests asan-ubsan -R '^desktop\.'
+  TESSEL_TYPING_KILLS=3 run_tests asan-ubsan -R '^desktop\.'
   build tsan --target test_safekeeping
   run_tests tsan -R '^safekeeping\.' -E TakesNoTimeOfTheCaller | tail -n 5
   step "Fuzzing, ${FUZZ_SECONDS:=30} s each target"

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # What takes too long for "./test.sh --all": scripts/long.sh [kills] [fuzz] [packages] [mutants]
-# Without arguments all four, in this order. ROUNDS (kills of each kind), FUZZ_SECONDS (for each target) and
-# MUTANTS ask for less or more: ROUNDS=2 FUZZ_SECONDS=2 MUTANTS=2 scripts/long.sh tries it out.
+# Without arguments all four, in this order. ROUNDS (kills of each kind), TYPING_ROUNDS (kills of the window),
+# FUZZ_SECONDS (for each target) and MUTANTS ask for less or more:
+# ROUNDS=2 TYPING_ROUNDS=2 FUZZ_SECONDS=2 MUTANTS=2 scripts/long.sh tries it out.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-: "${ROUNDS:=1000}" "${FUZZ_SECONDS:=600}" "${MUTANTS:=200}"
+: "${ROUNDS:=1000}" "${TYPING_ROUNDS:=100}" "${FUZZ_SECONDS:=600}" "${MUTANTS:=200}"
 
 jobs=$(nproc)
 export QT_QPA_PLATFORM=offscreen
@@ -14,8 +15,10 @@ step() { echo "==> $* ($SECONDS s)"; }
 kills() {
   step "Killing $ROUNDS times each"
   cmake --preset release -DTESSEL_TESTS=ON >/dev/null
-  cmake --build --preset release -j "$jobs" --target test_faults -- --quiet
+  cmake --build --preset release -j "$jobs" --target test_faults zanth-manager -- --quiet
   TESSEL_KILL_ROUNDS=$ROUNDS build/release/tests/test_faults --gtest_filter='KillTest.*'
+  step "Killing the window $TYPING_ROUNDS times while a person types"
+  TESSEL_TYPING_KILLS=$TYPING_ROUNDS tests/desktop/killed-typing-session.sh "$PWD/build/release/src/host/zanth-manager" "$PWD/data"
 }
 
 fuzz() {
