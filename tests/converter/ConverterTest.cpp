@@ -164,9 +164,18 @@ TEST_F(Converting, ConvertsTheCurrentDocument) {
   controls_.rtbCon[1].SetLeft(0);
   controls_.rtbCon[1].SetText(kUserCon);
   Convert();
+  const std::string converted = controls_.rtbCon[1].Text();
   EXPECT_EQ(controls_.rtbCon[0].Text(), "");
   EXPECT_EQ(controls_.tbsRtb.At(2).image, "RedDot");
   EXPECT_EQ(Marker(), "BlackDot");
+
+  controls_.tbsRtb.Select(1);
+  controls_.rtbCon[1].SetLeft(kParkedLeft);
+  controls_.rtbCon[0].SetLeft(0);
+  controls_.rtbCon[0].SetText(kUserCon);
+  Convert();
+  EXPECT_THAT(converted, HasSubstr("RESPAWNITEMTIME"));
+  EXPECT_EQ(controls_.rtbCon[0].Text(), converted);
 }
 
 TEST_F(Converting, RefusesASecondConversionOnceTheMarkIsWritten) {

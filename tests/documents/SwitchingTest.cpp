@@ -1,4 +1,6 @@
 // Document slots, the switch between them, and the modified marker.
+#include <algorithm>
+
 #include "support/EditorTrace.h"
 #include "support/TesselTest.h"
 
@@ -154,7 +156,19 @@ TEST_F(ModifiedMarker, StaysAwayFromParkedEditors) {
   EXPECT_EQ(TabOf(0).image, "BlackDot");
 }
 
-TEST_F(ModifiedMarker, ComesWithPanelChangesAndColoursToo) {
+TEST_F(ModifiedMarker, ComesWithAChangeByThePanel) {
+  Open("/d.con", "define MAXPLAYERHEALTH 100");
+  const auto names = C().lstPlayers.List();
+  C().lstPlayers.Pick(
+      static_cast<int>(std::ranges::find(names, "Max Regular Health") - names.begin()));
+  EXPECT_EQ(TabOf(3).image, "BlackDot");
+  C().cmbweap[0].Type("175");
+  EXPECT_EQ(Current().Text(), "define MAXPLAYERHEALTH 175");
+  EXPECT_EQ(TabOf(3).image, "RedDot");
+  EXPECT_EQ(TabOf(2).image, "BlackDot");
+}
+
+TEST_F(ModifiedMarker, ComesWithColoursToo) {
   Current().SetSelStart(0);
   Current().SetSelLength(1);
   Current().SetSelColor(0x0000FF);

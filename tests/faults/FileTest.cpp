@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 
@@ -85,6 +86,16 @@ class FileTest : public testing::Test {
       const std::string tab = program.DocumentTab().caption;
       return State(program) + (tab.empty() ? "" : " under " + tab);
     });
+  }
+
+  /// What is no file is neither opened nor saved to, both within a second.
+  void ExpectRefusedAtOnce(const std::string& path) {
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(OpenOnly(path),
+              "Cannot open " + path + ": it is not a regular file. [unmodified, empty]");
+    EXPECT_EQ(SaveNewAs(path),
+              "Cannot save " + path + ": it is not a regular file. [modified, new]");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
   }
 
   TempDirectory directory;
@@ -217,10 +228,16 @@ TEST_F(FileTest, APipeIsRefusedAtOnce) {
   const std::string pipe = directory / "pipe.con";
   ASSERT_EQ(::mkfifo(pipe.c_str(), 0666), 0);
   ::chmod(pipe.c_str(), 0666);
-  EXPECT_EQ(OpenOnly(pipe),
-            "Cannot open " + pipe + ": it is not a regular file. [unmodified, empty]");
-  EXPECT_EQ(SaveNewAs(pipe), "Cannot save " + pipe + ": it is not a regular file. [modified, new]");
+  ExpectRefusedAtOnce(pipe);
   EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
+
+TEST_F(FileTest, ASocketIsRefusedAtOnce) {
+  const std::string socket = directory / "socket.con";
+  ASSERT_EQ(::mknod(socket.c_str(), S_IFSOCK | 0666, 0), 0);
+  ::chmod(socket.c_str(), 0666);
+  ExpectRefusedAtOnce(socket);
+  EXPECT_TRUE(std::filesystem::is_socket(socket));
 }
 
 TEST_F(FileTest, AFileThatBecameAPipeMeanwhileDoesNotBlock) {
@@ -236,10 +253,7 @@ TEST_F(FileTest, AFileThatBecameAPipeMeanwhileDoesNotBlock) {
 
 TEST_F(FileTest, ADeviceIsRefusedAtOnce) {
   for (const std::string device : {"/dev/zero", "/dev/null", "/dev/full"}) {
-    EXPECT_EQ(OpenOnly(device),
-              "Cannot open " + device + ": it is not a regular file. [unmodified, empty]");
-    EXPECT_EQ(SaveNewAs(device),
-              "Cannot save " + device + ": it is not a regular file. [modified, new]");
+    ExpectRefusedAtOnce(device);
   }
 }
 
