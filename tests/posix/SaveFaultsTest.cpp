@@ -213,5 +213,21 @@ TEST(SaveThatMeetsAnError, KeepsTheOldBytesOrHasTheNewOnesAndLeavesNothingBehind
   }
 }
 
+class SaveOfOneByteAtATime : public testing::TestWithParam<bool> {};
+
+TEST_P(SaveOfOneByteAtATime, IsWholeAllTheSame) {
+  if (!kCallsCanFail) GTEST_SKIP() << "calls cannot be changed on this processor or in this build";
+  const TempDirectory directory;
+  const std::string path = directory.Put("User.con", "old bytes");
+  if (GetParam()) std::filesystem::create_hard_link(path, directory / "second.con");
+  DisturbedChild child([&] { return Save(path, "the new bytes") == "saved"; });
+  EXPECT_EQ(child.ShortenAll(), DisturbedChild::Outcome::kSucceeded);
+  EXPECT_EQ(BytesOf(path), "the new bytes");
+  DisturbedChild reader([&] { return PosixFiles().Read(path) == "the new bytes"; });
+  EXPECT_EQ(reader.ShortenAll(), DisturbedChild::Outcome::kSucceeded);
+}
+
+INSTANTIATE_TEST_SUITE_P(BesideAndInPlace, SaveOfOneByteAtATime, testing::Bool());
+
 }  // namespace
 }  // namespace tessel::test

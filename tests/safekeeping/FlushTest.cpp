@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "posix/PosixFiles.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/RecoveryStore.h"
 #include "support/TempDirectory.h"
@@ -25,11 +26,16 @@ std::vector<std::string> TakeFlushes() {
   return std::exchange(flushes, {});
 }
 
-/// A file as its size, a folder as the number of whole files in it.
+/// A file as its size and whether it has its name already, a folder as the number of whole files in
+/// it.
 std::string Describe(int file) {
   struct stat status {};
   ::fstat(file, &status);
-  if (!S_ISDIR(status.st_mode)) return "file of " + std::to_string(status.st_size);
+  if (!S_ISDIR(status.st_mode)) {
+    const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file));
+    const bool hidden = path.filename().string().starts_with('.');
+    return (hidden ? "hidden file of " : "file of ") + std::to_string(status.st_size);
+  }
   std::size_t files = 0;
   for (const auto& entry :
        std::filesystem::directory_iterator("/proc/self/fd/" + std::to_string(file))) {
@@ -69,9 +75,9 @@ TEST_F(Flushes, ABackupIsFlushedWholeAndThenItsFolder) {
   BackupStore store(folder_);
   store.Keep("/a", "text");
   const std::string kept = folder_ + "/" + store.List().at(0).name;
-  EXPECT_THAT(TakeFlushes(), ElementsAre("file of " + SizeOf(kept), "folder of 1"));
+  EXPECT_THAT(TakeFlushes(), ElementsAre("hidden file of " + SizeOf(kept), "folder of 1"));
   store.Keep("/a", "another");
-  EXPECT_THAT(TakeFlushes(), ElementsAre(testing::StartsWith("file of "), "folder of 2"));
+  EXPECT_THAT(TakeFlushes(), ElementsAre(testing::StartsWith("hidden file of "), "folder of 2"));
 }
 
 TEST_F(Flushes, AnUnsavedTextIsFlushedWholeAndThenItsFolder) {
@@ -79,7 +85,26 @@ TEST_F(Flushes, AnUnsavedTextIsFlushedWholeAndThenItsFolder) {
   store.Keep(1, "/a", std::string(100'000, 'x'));
   ASSERT_TRUE(store.Flush());
   const std::string run = std::filesystem::directory_iterator(folder_)->path();
-  EXPECT_THAT(TakeFlushes(), ElementsAre("file of " + SizeOf(run + "/text-1"), "folder of 1"));
+  EXPECT_THAT(TakeFlushes(),
+              ElementsAre("hidden file of " + SizeOf(run + "/text-1"), "folder of 1"));
+}
+
+TEST_F(Flushes, ASavedFileIsFlushedWholeAndThenItsFolder) {
+  const std::string path = directory_ / "user.con";
+  PosixFiles().Write(path, std::string(100'000, 'x'));
+  EXPECT_THAT(TakeFlushes(), ElementsAre("hidden file of 100000", "folder of 1"));
+  PosixFiles().Write(path, "shorter");
+  EXPECT_THAT(TakeFlushes(), ElementsAre("hidden file of 7", "folder of 1"));
+}
+
+TEST_F(Flushes, AFileWrittenInPlaceIsFlushedBehindItsBackup) {
+  const std::string path = directory_.Put("user.con", "old");
+  std::filesystem::create_hard_link(path, directory_ / "second.con");
+  PosixFiles files;
+  files.KeepOldBytesBy(KeepAsBackups(folder_));
+  files.Write(path, "new bytes");
+  EXPECT_THAT(TakeFlushes(),
+              ElementsAre(testing::StartsWith("hidden file of "), "folder of 1", "file of 9"));
 }
 
 }  // namespace

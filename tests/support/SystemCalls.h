@@ -41,6 +41,14 @@ class DisturbedChild {
     });
   }
 
+  /// Lets every call that reads or writes bytes move one only.
+  Outcome ShortenAll() {
+    return Trace([&](pid_t child, const Entry& entry) {
+      if (std::ranges::find(kMoveBytes, entry.number) != kMoveBytes.end()) MoveOne(child);
+      return false;
+    });
+  }
+
   /// Lets the call fail with `error` without being made, if it has to do with files. `reached`
   /// tells whether the child made that many calls.
   Outcome FailAt(int call, int error, bool& reached) {
@@ -61,6 +69,9 @@ class DisturbedChild {
   static constexpr std::array<long, 9> kNotOfFiles = {
       SYS_brk,         SYS_mmap,      SYS_munmap,     SYS_mprotect,      SYS_futex,
       SYS_sigaltstack, SYS_getrandom, SYS_exit_group, SYS_rt_sigprocmask};
+
+  static constexpr std::array<long, 4> kMoveBytes = {SYS_read, SYS_write, SYS_pread64,
+                                                     SYS_pwrite64};
 
   template <class OnEntry>
   Outcome Trace(OnEntry onEntry) {
@@ -113,7 +124,14 @@ class DisturbedChild {
     registers.rax = static_cast<unsigned long long>(static_cast<long long>(value));
     ::ptrace(PTRACE_SETREGS, child, nullptr, &registers);
   }
+  static void MoveOne(pid_t child) {
+    user_regs_struct registers{};
+    ::ptrace(PTRACE_GETREGS, child, nullptr, &registers);
+    registers.rdx = std::min(registers.rdx, 1ULL);
+    ::ptrace(PTRACE_SETREGS, child, nullptr, &registers);
+  }
 #else
+  static void MoveOne(pid_t) { throw std::runtime_error("not written for this processor"); }
   static void Skip(pid_t) { throw std::runtime_error("not written for this processor"); }
   static void Return(pid_t, int) {}
 #endif
