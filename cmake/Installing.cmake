@@ -1,7 +1,7 @@
 # What is installed beside the programs: manual pages, completions, and what a desktop wants to know.
 set(share ${CMAKE_CURRENT_SOURCE_DIR}/share)
 
-install(FILES README.md CHANGELOG.md ${share}/copyright
+install(FILES README.md CHANGELOG.md debian/copyright
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/zanth-manager)
 install(FILES docs/man/tessel.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${share}/completions/tessel.bash

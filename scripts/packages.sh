@@ -16,7 +16,8 @@ test_packages=(
 # What "./test.sh --all" takes besides: sanitizers, fuzzing, format, lint, packages, and a display.
 all_packages=(
   clang libclang-rt-14-dev clang-format clang-tidy git
-  desktop-file-utils appstream libxml2-utils shared-mime-info dpkg-dev file
+  desktop-file-utils appstream libxml2-utils shared-mime-info file
+  build-essential dpkg-dev debhelper devscripts lintian
   xvfb xdotool xauth
 )
 
