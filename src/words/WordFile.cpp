@@ -7,17 +7,36 @@
 namespace tessel {
 namespace {
 
+bool IsControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+bool HoldsControl(const std::string& text) { return std::ranges::any_of(text, IsControl); }
+bool HoldsMark(const std::string& text) { return text.find('[') != text.npos; }
+
 ScriptWord ParseLine(std::string_view line, int number) {
+  const std::string name = "Line " + std::to_string(number) + " of the word list";
   const std::size_t tab = line.find('\t');
-  const std::string_view word = line.substr(0, tab);
-  if (tab == line.npos || word.empty() || word.find('[') != word.npos) {
-    throw RuntimeError("Line " + std::to_string(number) +
-                       " of the word list is not a word, a tab and its parameters.");
+  if (tab == line.npos) {
+    throw RuntimeError(name + " is not a word, a tab and its parameters.");
   }
-  return {std::string(word), std::string(line.substr(tab + 1))};
+  ScriptWord word = {std::string(line.substr(0, tab)), std::string(line.substr(tab + 1))};
+  if (const char* refusal = RefusalOf(word)) throw RuntimeError(name + ": " + refusal);
+  return word;
 }
 
 }  // namespace
+
+const char* RefusalOf(const ScriptWord& word) {
+  if (word.word.empty()) return "A word cannot be empty.";
+  if (HoldsControl(word.word) || HoldsControl(word.parameters)) {
+    return "A word and its parameters cannot hold tabs, line breaks or other control characters.";
+  }
+  if (HoldsMark(word.word)) {
+    return "A word cannot hold \"[\": that mark tells parameter texts from words.";
+  }
+  if (!word.parameters.empty() && !HoldsMark(word.parameters)) {
+    return "Parameters need a \"[\", as in \"[amount]\": that mark tells them from words.";
+  }
+  return nullptr;
+}
 
 std::vector<ScriptWord> ParseWordFile(std::string_view text) {
   std::vector<ScriptWord> words;

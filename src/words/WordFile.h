@@ -9,8 +9,12 @@
 
 namespace tessel {
 
-/// Empty lines are skipped. A line without a tab, without a word, or with "[" in its word is a
-/// RuntimeError that names the line.
+/// Why a word list cannot keep a word with these parameters, as a sentence; null when it can. The
+/// list tells words from parameter texts by "[" alone.
+const char* RefusalOf(const ScriptWord& word);
+
+/// Empty lines are skipped. A line without a tab, or with what RefusalOf refuses, is a RuntimeError
+/// that names the line.
 std::vector<ScriptWord> ParseWordFile(std::string_view text);
 
 /// The text that ParseWordFile reads back. Line breaks in parameters become blanks.

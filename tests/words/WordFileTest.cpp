@@ -45,5 +45,17 @@ TEST(WordFile, NamesTheLineThatIsNone) {
   EXPECT_THAT(ErrorOf("a\t\n\nb[\t[x]\n"), HasSubstr("3"));
 }
 
+TEST(WordFile, HoldsNoParametersThatTheListWouldTakeForAWord) {
+  EXPECT_EQ(ErrorOf("a\t[x]\nfoo\tplain\n"),
+            "Line 2 of the word list: Parameters need a \"[\", as in \"[amount]\": that mark tells "
+            "them from words.");
+}
+
+TEST(WordFile, HoldsNoControlCharacters) {
+  for (const std::string line : {"a\x01\t[x]", "a\t[x]\x7F", "a\t[x]\t[y]", "a\rb\t[x]"}) {
+    EXPECT_THAT(ErrorOf(line), HasSubstr("Line 1 of the word list: A word and its")) << line;
+  }
+}
+
 }  // namespace
 }  // namespace tessel
