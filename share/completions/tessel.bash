@@ -1,49 +1,63 @@
 # bash completion for tessel
 
 _tessel_options() {
+  local edit="--output --force --in-place --backup --dry-run --report --json --tsv --quiet"
   case $1 in
-    convert) echo "--output --force --in-place --report" ;;
-    randomize) echo "--section --lower --upper --keep-below --keep-above --seed --report --output --force --in-place" ;;
-    settings) echo "--section --json" ;;
-    set) echo "--output --force --in-place" ;;
-    levels) echo "--json" ;;
-    level) echo "--map --title --output --force --in-place" ;;
+    convert) echo "--line-ends $edit" ;;
+    randomize) echo "--section --lower --upper --bounds --percent --keep-below --keep-above --seed $edit" ;;
+    settings) echo "--section --json --tsv" ;;
+    get) echo "--line --json --tsv" ;;
+    set) echo "--line $edit" ;;
+    levels) echo "--json --tsv" ;;
+    level) echo "--map --title --line $edit" ;;
     colour) echo "--format" ;;
     words) echo "--store" ;;
     new) echo "--output --force" ;;
+  esac
+  case $1:$2 in
+    words:list | words:get) echo "--json --tsv" ;;
+    words:export) echo "--output --force" ;;
   esac
 }
 
 # The define names of a file's settings, for "get" and "set".
 _tessel_items() {
-  tessel settings --json -- "$1" 2>/dev/null | sed -n 's/.*"define": "\([^"]*\)".*/\1/p'
+  tessel settings --tsv -- "$1" 2>/dev/null | sed 1d | cut -f 4
+}
+
+# The levels of a file, for "level".
+_tessel_levels() {
+  tessel levels --tsv -- "$1" 2>/dev/null | sed 1d | cut -f 2 | tr ' ' /
 }
 
 _tessel() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
   local command=${COMP_WORDS[1]} choices=
+  local commands="convert randomize settings get set levels level colour words new help"
   compopt +o filenames 2>/dev/null
   COMPREPLY=()
 
   if ((COMP_CWORD == 1)); then
-    choices="convert randomize settings get set levels level colour words new --help --version"
+    choices="$commands --help --version"
   else
     case $previous in
       --section)
         choices="Player Weapon Enemy Misc"
         [[ $command == randomize ]] && choices="All $choices" ;;
       --format) choices="ansi html json" ;;
-      --lower | --upper | --seed | --map | --title) return ;;
+      --line-ends) choices="control keep" ;;
+      --lower | --upper | --bounds | --percent | --seed | --map | --title | --line) return ;;
     esac
   fi
-  if [[ -z $choices && $current == -* ]]; then
-    choices="$(_tessel_options "$command") --help --version"
-    [[ $command == words && ${COMP_WORDS[2]} == export ]] && choices+=" --output --force"
+  if [[ -z $choices && $current == -?* ]]; then
+    choices="$(_tessel_options "$command" "${COMP_WORDS[2]}") --help --version"
   elif [[ -z $choices && $previous != -o && $previous != --output && $previous != --store ]]; then
     case $command:$COMP_CWORD in
       get:3 | set:3) choices=$(_tessel_items "${COMP_WORDS[2]}") ;;
+      level:3) choices=$(_tessel_levels "${COMP_WORDS[2]}") ;;
       words:2) choices="list get set remove import export" ;;
       new:2) choices="13DU 15AU 13DD 15AD 13DG 15AG" ;;
+      help:2) choices=$commands ;;
     esac
   fi
 

@@ -1,11 +1,10 @@
-#include <unistd.h>
-
-#include <cstdlib>
 #include <iostream>
 
 #include "cli/DocumentSession.h"
-#include "cli/Json.h"
 #include "cli/Subcommands.h"
+#include "cli/files/Input.h"
+#include "cli/report/Json.h"
+#include "cli/report/Terminal.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
@@ -55,18 +54,12 @@ void PrintJson(const RichTextBox& editor) {
   std::cout << JsonText(runs) << '\n';
 }
 
-// Colours go to a terminal unless NO_COLOR is set; elsewhere only when asked for.
-bool TerminalWantsColour() {
-  const char* noColour = std::getenv("NO_COLOR");
-  return isatty(STDOUT_FILENO) != 0 && (noColour == nullptr || *noColour == '\0');
-}
-
 }  // namespace
 
 bool PrintInColours(const ColourArguments& arguments) {
   DocumentSession session;
-  if (!session.Open(arguments.file)) return false;
-  if (!session.Run([&] { session.Controls().tbToolBar.Press("Colorize"); })) return false;
+  session.Show(ReadInput(arguments.file));
+  session.Run([&] { session.Controls().tbToolBar.Press("Colorize"); });
   const RichTextBox& editor = session.Editor();
   if (arguments.format == "json") {
     PrintJson(editor);

@@ -9,10 +9,9 @@ namespace tessel::cli {
 
 void Complain(const std::string& text) { std::cerr << "tessel: " << ForTerminal(text) << '\n'; }
 
-MessageAnswer StderrMessages::Show(const std::string& text, MessageIcon, const std::string&,
-                                   MessageButtons buttons) {
-  shown_ = true;
-  Complain(prefix + text);
+MessageAnswer HeardMessages::Show(const std::string& text, MessageIcon, const std::string&,
+                                  MessageButtons buttons) {
+  if (!heard_) heard_ = text;
   return buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kNo;
 }
 

@@ -1,25 +1,25 @@
-// The world as a command line shows it: messages go to standard error, nobody answers.
+// The world as a command line shows it: nobody answers.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "services/Services.h"
 
 namespace tessel::cli {
 
-/// Prints each message to standard error and remembers that there was one.
-class StderrMessages : public MessageBox {
+/// Remembers the first message, for who asked for the command.
+class HeardMessages : public MessageBox {
  public:
   MessageAnswer Show(const std::string& text, MessageIcon icon, const std::string& title,
                      MessageButtons buttons) override;
 
-  bool Shown() const { return shown_; }
-
-  std::string prefix;  ///< put before each message: which of several files it is about
+  const std::optional<std::string>& Heard() const { return heard_; }
 
  private:
-  bool shown_ = false;
+  std::optional<std::string> heard_;
 };
 
 /// There is nobody to choose a file.

@@ -1,51 +1,85 @@
-#include <iostream>
-#include <vector>
+#include <algorithm>
+#include <utility>
 
+#include "base/RuntimeError.h"
 #include "cli/DocumentSession.h"
 #include "cli/Subcommands.h"
+#include "cli/files/LineEnds.h"
 #include "converter/Converter.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {
 
-const char* Describe(const StepResult& result) {
-  if (result.changed) return "changed";
-  return result.found ? "found, nothing to change" : "not found";
-}
-
-void Report(const std::string& file, const std::vector<StepResult>& results) {
-  std::cerr << ForTerminal(file) << ":\n";
-  for (const StepResult& result : results) {
-    std::cerr << "  step " << result.step << "  " << Describe(result) << "  \""
-              << ForTerminal(result.sought) << "\"\n";
-  }
-}
-
-bool ConvertFile(const std::string& file, const ConvertArguments& arguments) {
-  DocumentSession session;
-  if (!session.Open(file)) return false;
-  session.Messages().prefix = file + ": ";
+std::vector<StepResult> ConvertDocument(DocumentSession& session, const std::string& name) try {
   std::vector<StepResult> results;
-  const bool converted = session.Run([&] {
+  session.Run([&] {
     session.Control().Run([&] {
       results = ConvertUserCon(session.Editor(), session.World().pointer, session.World().messages,
                                [] {});
     });
   });
-  if (!converted) return false;
-  if (arguments.report) Report(file, results);
-  return WriteResult(session.Editor().Bytes(), arguments.destination, file);
+  return results;
+} catch (const RuntimeError& error) {
+  throw RuntimeError(name + ": " + error.what());
+}
+
+/// The control inserts CR LF, whatever the file has.
+std::string InLineEndsOf(const LineEnds& own, std::string converted, const std::string& name) {
+  if (own.Mixed()) {
+    throw RuntimeError(name + ": its own line ends are mixed, so there are none to keep.");
+  }
+  return own.Only() ? WithLineEnds(converted, *own.Only()) : converted;
+}
+
+void NoteMixture(const LineEnds& own, std::string_view converted, FileReport& report) {
+  if (!own.Only() || !LineEndsOf(converted).Mixed()) return;
+  const std::string kind = NameOf(*own.Only());
+  report.notes.push_back("its lines end with " + kind +
+                         ", and those that the conversion inserted with CR LF; \"--line-ends "
+                         "keep\" writes " +
+                         kind + " everywhere.");
+}
+
+void ReportSteps(const std::vector<StepResult>& results, FileReport& report) {
+  for (const StepResult& result : results) {
+    report.rows.push_back(
+        {std::int64_t{result.step}, ToUtf8(result.sought), result.found, result.changed});
+  }
+  report.facts.emplace_back(kChanged, std::ranges::count_if(results, &StepResult::changed));
+}
+
+const char* Describe(bool found, bool changed) {
+  if (changed) return "changed";
+  return found ? "found, nothing to change" : "not found";
+}
+
+std::string StepsAsText(const FileReport& report) {
+  std::string text = ForTerminal(report.file) + ":\n";
+  for (const Row& row : report.rows) {
+    text += "  step " + std::to_string(std::get<std::int64_t>(row[0])) + "  " +
+            Describe(std::get<bool>(row[2]), std::get<bool>(row[3])) + "  \"" +
+            ForTerminal(std::get<std::string>(row[1])) + "\"\n";
+  }
+  return text;
 }
 
 }  // namespace
 
 bool Convert(const ConvertArguments& arguments) {
-  bool good = true;
-  for (const std::string& file : arguments.files) {
-    if (!ConvertFile(file, arguments)) good = false;
-  }
-  return good;
+  const auto convert = [&](std::string bytes, FileReport& report) {
+    const LineEnds own = LineEndsOf(bytes);
+    DocumentSession session;
+    session.Show(std::move(bytes));
+    ReportSteps(ConvertDocument(session, report.file), report);
+    std::string converted = session.Editor().Text();
+    if (arguments.keepLineEnds) return InLineEndsOf(own, std::move(converted), report.file);
+    NoteMixture(own, converted, report);
+    return converted;
+  };
+  return EditFiles(arguments,
+                   {.command = "convert", .columns = {"step", "sought", "found", "changed"}},
+                   convert, StepsAsText);
 }
 
 }  // namespace tessel::cli

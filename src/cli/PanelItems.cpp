@@ -14,8 +14,11 @@ constexpr std::string_view kDefineWord = "define ";
 // The panel never writes this text of a value box, so it marks "nothing found".
 constexpr const char* kNothingFound = "  ";
 
+/// Of a key that begins with the keyword, the panel searches for the beginning of a define line.
+bool IsBeginning(const std::string& key) { return key.starts_with(kDefineWord); }
+
 std::string DefineName(const std::string& key) {
-  return key.starts_with(kDefineWord) ? key.substr(kDefineWord.size()) : key;
+  return IsBeginning(key) ? key.substr(kDefineWord.size()) : key;
 }
 
 void AddWeapons(std::vector<PanelItem>& items) {
@@ -23,8 +26,9 @@ void AddWeapons(std::vector<PanelItem>& items) {
     const WeaponCategory& rules = WeaponCategoryTable[static_cast<std::size_t>(category)];
     for (int i = 0; i < std::ssize(rules.weapons); ++i) {
       const std::string weapon(rules.weapons[static_cast<std::size_t>(i)].name);
-      items.push_back({"Weapon", std::string(rules.name) + "/" + weapon,
-                       DefineName(WeaponKey(category, weapon, i)), category, i});
+      const std::string key = WeaponKey(category, weapon, i);
+      items.push_back({"Weapon", std::string(rules.name) + "/" + weapon, DefineName(key), category,
+                       i, IsBeginning(key)});
     }
   }
 }
@@ -32,7 +36,7 @@ void AddWeapons(std::vector<PanelItem>& items) {
 void AddItems(std::vector<PanelItem>& items, const char* section, std::span<const Item> table) {
   for (int i = 0; i < std::ssize(table); ++i) {
     const Item& row = table[static_cast<std::size_t>(i)];
-    items.push_back({section, std::string(row.name), std::string(row.key), -1, i});
+    items.push_back({section, std::string(row.name), std::string(row.key), -1, i, false});
   }
 }
 
@@ -48,8 +52,6 @@ Place PlaceOf(HostedControls& c, const PanelItem& item) {
   return {c.lstConMisc, c.cmbweap[kMiscPage]};
 }
 
-bool IsYesNo(const PanelItem& item) { return item.entry < 0; }
-
 }  // namespace
 
 std::vector<PanelItem> PanelItems() {
@@ -58,8 +60,9 @@ std::vector<PanelItem> PanelItems() {
   AddWeapons(items);
   AddItems(items, "Enemy", EnemyItemTable);
   AddItems(items, "Misc", MiscItemTable);
-  items.push_back({"Misc", "Cameras Destructable", std::string(kCamerasDestructable), -1, -1});
-  items.push_back({"Misc", "Freeze Hurt Owner", std::string(kFreezerHurtOwner), -1, -1});
+  items.push_back(
+      {"Misc", "Cameras Destructable", std::string(kCamerasDestructable), -1, -1, false});
+  items.push_back({"Misc", "Freeze Hurt Owner", std::string(kFreezerHurtOwner), -1, -1, false});
   return items;
 }
 
@@ -74,7 +77,7 @@ std::optional<PanelItem> FindPanelItem(const std::string& name) {
 
 std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& item) {
   HostedControls& c = session.Controls();
-  if (IsYesNo(item)) {
+  if (item.entry < 0) {
     RichTextBox& editor = session.Editor();
     if (FindDefine(editor, item.define, true) == kNotFound) return std::nullopt;
     return ReadYesNo(editor, item.define) ? "YES" : "NO";
@@ -85,18 +88,6 @@ std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& i
   place.list.Pick(item.entry);
   if (place.box.Text() == kNothingFound) return std::nullopt;
   return place.box.Text();
-}
-
-bool IsSameValue(const PanelItem& item, const std::string& a, const std::string& b) {
-  return IsYesNo(item) ? EqualIgnoringAsciiCase(a, b) : a == b;
-}
-
-void WriteItem(DocumentSession& session, const PanelItem& item, const std::string& value) {
-  HostedControls& c = session.Controls();
-  if (!IsYesNo(item)) return PlaceOf(c, item).box.Type(value);
-  const bool yes = EqualIgnoringAsciiCase(value, "YES");
-  const bool cameras = item.define == kCamerasDestructable;
-  (cameras ? (yes ? c.optCamYes : c.optCamNo) : (yes ? c.optFreezYes : c.optFreezNo)).Press();
 }
 
 }  // namespace tessel::cli

@@ -1,75 +1,59 @@
 #include <iomanip>
-#include <iostream>
+#include <sstream>
 
-#include "cli/DocumentSession.h"
-#include "cli/Json.h"
-#include "cli/PanelItems.h"
+#include "cli/ItemRows.h"
 #include "cli/Subcommands.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {
 
-/// The item and its value in the session's document; complains when either is not there.
-std::optional<std::pair<PanelItem, std::string>> Look(DocumentSession& session,
-                                                      const SettingArguments& arguments) {
-  const auto item = FindPanelItem(arguments.item);
-  if (!item) {
-    Complain("There is no setting \"" + arguments.item +
-             "\". \"tessel settings FILE\" lists them.");
-    return std::nullopt;
+// Places in kValueColumns.
+constexpr std::size_t kSection = 0, kItem = 1, kValue = 3, kProblem = 5;
+
+std::string ShownIn(const Row& row, std::size_t column) {
+  const auto* text = std::get_if<std::string>(&row[column]);
+  return text == nullptr ? std::string() : ForTerminal(*text);
+}
+
+std::string ListAsText(const FileReport& report) {
+  std::ostringstream text;
+  for (const Row& row : report.rows) {
+    const std::string value = ShownIn(row, kValue);
+    const std::string problem = ShownIn(row, kProblem);
+    text << std::left << std::setw(8) << ShownIn(row, kSection) << std::setw(34)
+         << ShownIn(row, kItem) << (value.empty() ? "-" : value);
+    if (!problem.empty()) text << "  (" << problem << ')';
+    text << '\n';
   }
-  if (!session.Open(arguments.file)) return std::nullopt;
-  const auto value = ReadItem(session, *item);
-  if (!value) {
-    Complain(arguments.file + " does not define " + item->define + ".");
-    return std::nullopt;
-  }
-  return std::pair{*item, *value};
+  return text.str();
+}
+
+std::string ValueAsText(const FileReport& report) {
+  return ShownIn(report.rows.front(), kValue) + '\n';
 }
 
 }  // namespace
 
 bool ListSettings(const SettingsArguments& arguments) {
-  DocumentSession session;
-  if (!session.Open(arguments.file)) return false;
-  std::vector<JsonObject> list;
-  for (const PanelItem& item : PanelItems()) {
-    if (!arguments.section.empty() && item.section != arguments.section) continue;
-    const auto value = ReadItem(session, item);
-    if (arguments.json) {
-      list.push_back({{"section", item.section},
-                      {"item", item.name},
-                      {"define", item.define},
-                      {"value", value ? std::optional(ToUtf8(*value)) : std::nullopt}});
-    } else {
-      std::cout << std::left << std::setw(8) << item.section << std::setw(34) << item.name
-                << (value ? DocumentForTerminal(*value) : "-") << '\n';
+  const std::vector<WantedItem> items = ItemsOf(arguments.section);
+  const auto list = [&](const std::string& bytes, FileReport& report) {
+    ValueLook look(bytes);
+    for (const WantedItem& item : items) {
+      report.rows.push_back(ValueRow(look, item, look.LookAt(item)));
     }
-  }
-  if (arguments.json) std::cout << JsonText(list) << '\n';
-  return true;
+  };
+  return LookAtFiles(arguments, {.command = "settings", .columns = kValueColumns}, list,
+                     ListAsText);
 }
 
-bool GetSetting(const SettingArguments& arguments) {
-  DocumentSession session;
-  const auto found = Look(session, arguments);
-  if (found) std::cout << DocumentForTerminal(found->second) << '\n';
-  return found.has_value();
-}
-
-bool SetSetting(const SettingArguments& arguments) {
-  DocumentSession session;
-  const auto found = Look(session, arguments);
-  if (!found) return false;
-  WriteItem(session, found->first, arguments.value);
-  const auto now = ReadItem(session, found->first);
-  if (!now || !IsSameValue(found->first, *now, arguments.value)) {
-    Complain("\"" + ToUtf8(arguments.value) + "\" cannot be the value of " + found->first.name +
-             ".");
-    return false;
-  }
-  return WriteResult(session.Editor().Bytes(), arguments.destination, arguments.file);
+bool GetSetting(const GetArguments& arguments) {
+  const auto get = [&](const std::string& bytes, FileReport& report) {
+    ValueLook look(bytes);
+    const WantedItem item = ItemNamed(look, report.file, arguments.item);
+    report.rows.push_back(ValueRow(look, item, ValueOf(look, report.file, item, arguments.line)));
+  };
+  return LookAtFiles(arguments, {.command = "get", .columns = kValueColumns}, get, ValueAsText);
 }
 
 }  // namespace tessel::cli

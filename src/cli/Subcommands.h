@@ -1,6 +1,6 @@
 // The subcommands of tessel: what each is asked for, and its work. Each function returns false when
-// it refused or failed: the user has been told, and nothing was written. `file` is the CON file
-// that a command works on.
+// it refused or failed, at least for one of its files: the user has been told, and of these nothing
+// was written. What it cannot work with at all is a RuntimeError.
 #pragma once
 
 #include <cstdint>
@@ -8,59 +8,60 @@
 #include <string>
 #include <vector>
 
-#include "cli/Output.h"
+#include "cli/Batch.h"
+#include "cli/files/Output.h"
 #include "services/LinearCongruentialRandom.h"
 
 namespace tessel::cli {
 
-struct ConvertArguments {
-  std::vector<std::string> files;
-  Destination destination;
-  bool report = false;  ///< list on standard error what each step did
+struct ConvertArguments : EditArguments {
+  bool keepLineEnds = false;  ///< those of the file, instead of CR LF in what is inserted
 };
-/// Of several files, those before and after one that fails are converted all the same.
 bool Convert(const ConvertArguments& arguments);
 
-struct RandomizeArguments {
-  std::string file;
+/// Which values of a section are drawn between which bounds.
+struct SectionBounds {
   std::string section;  ///< "All", "Player", "Weapon", "Enemy" or "Misc"
   std::string lower, upper;
+};
+struct RandomizeArguments : EditArguments {
+  std::vector<SectionBounds> bounds;
   bool keepBelow = false, keepAbove = false;
-  bool report = false;  ///< list old and new values on standard error
+  std::optional<int> percent;  ///< of the present values, in the first of `bounds`' section
   std::uint32_t seed = LinearCongruentialRandom::kStart;
-  Destination destination;
 };
 bool Randomize(const RandomizeArguments& arguments);
 
-struct SettingsArguments {
-  std::string file;
+struct SettingsArguments : LookArguments {
   std::string section;  ///< empty: all
-  bool json = false;
 };
 bool ListSettings(const SettingsArguments& arguments);
 
-struct SettingArguments {
-  std::string file;
-  std::string item;   ///< its name in the list, or its define
-  std::string value;  ///< single-byte text
-  Destination destination;
+struct GetArguments : LookArguments {
+  std::string item;  ///< its name in the list, or any define's
+  std::optional<std::int64_t> line;
 };
-bool GetSetting(const SettingArguments& arguments);
-bool SetSetting(const SettingArguments& arguments);
+bool GetSetting(const GetArguments& arguments);
 
-struct LevelsArguments {
-  std::string file;
-  bool json = false;
+/// A value for an item, in single-byte text.
+struct Assignment {
+  std::string item, value;
 };
-bool ListLevels(const LevelsArguments& arguments);
+struct SetArguments : EditArguments {
+  std::vector<Assignment> values;
+  std::optional<std::int64_t> line;
+};
+bool SetSettings(const SetArguments& arguments);
 
-struct LevelArguments {
-  std::string file;
-  std::string level;                      ///< episode and level, such as "0 7"
-  std::optional<std::string> map, title;  ///< single-byte text; with neither, both are shown
-  Destination destination;
+bool ListLevels(const LookArguments& arguments);
+
+struct LevelArguments : EditArguments {
+  std::string level;  ///< as ParseLevelName reads it
+  std::optional<std::int64_t> line;
+  std::optional<std::string> map, title;  ///< single-byte text
 };
-bool ShowOrChangeLevel(const LevelArguments& arguments);
+bool ShowLevel(const LevelArguments& arguments);
+bool ChangeLevel(const LevelArguments& arguments);
 
 struct ColourArguments {
   std::string file;
@@ -73,6 +74,7 @@ struct WordsArguments {
   std::string word, parameters;  ///< single-byte text
   std::string file;              ///< to be read
   Destination destination;
+  Format format = Format::kText;
 };
 bool ListWords(const WordsArguments& arguments);
 bool GetWord(const WordsArguments& arguments);

@@ -1,5 +1,6 @@
 #include "cli/Usage.h"
 
+#include "cli/Suggestion.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
@@ -12,14 +13,23 @@ std::string Reason(const Misuse& misuse) {
     return "there is no option \"" + word + "\" here; a file of that name is written \"./" + word +
            "\"";
   }
-  return misuse.wantsCommand ? "there is no subcommand \"" + word + "\""
-                             : "\"" + word + "\" is one argument too many";
+  return !misuse.commands.empty() ? "there is no subcommand \"" + word + "\""
+                                  : "\"" + word + "\" is one argument too many";
+}
+
+std::string Guess(const Misuse& misuse) {
+  const std::string& word = misuse.unexpected;
+  if (!misuse.miscounted) return {};
+  const bool isOption = word.starts_with('-');
+  const std::string guess = DidYouMean(isOption ? word.substr(0, word.find('=')) : word,
+                                       isOption ? misuse.options : misuse.commands);
+  return guess.empty() ? guess : guess + "\n";
 }
 
 }  // namespace
 
 std::string UsageMessage(const Misuse& misuse) {
-  return "tessel: " + ForTerminal(Reason(misuse)) + "\n\"" + misuse.command +
+  return "tessel: " + ForTerminal(Reason(misuse)) + "\n" + Guess(misuse) + "\"" + misuse.command +
          " --help\" tells more.\n";
 }
 

@@ -1,13 +1,15 @@
 #include <algorithm>
 #include <functional>
 #include <iostream>
-#include <sstream>
 
 #include "base/RuntimeError.h"
 #include "cli/CommandLineServices.h"
 #include "cli/Subcommands.h"
-#include "posix/FallbackSettingsStore.h"
-#include "posix/PosixFiles.h"
+#include "cli/Suggestion.h"
+#include "cli/files/Input.h"
+#include "cli/report/Json.h"
+#include "posix/HostDirectory.h"
+#include "posix/Posix.h"
 #include "posix/SqliteSettingsStore.h"
 #include "text/SafeText.h"
 #include "text/Text.h"
@@ -17,96 +19,98 @@
 namespace tessel::cli {
 namespace {
 
-/// Opens the user's store and runs the function on it; errors are told to the user. Nothing is kept
-/// in memory here: a store that cannot be used is a failure.
-bool WithStore(const WordsArguments& arguments, const std::function<bool(SettingsStore&)>& use) {
-  try {
-    SqliteSettingsStore store(arguments.store.empty() ? DefaultSettingsPath() : arguments.store);
-    return use(store);
-  } catch (const RuntimeError& error) {
-    Complain(error.what());
-    return false;
-  }
+std::string StoreOf(const WordsArguments& arguments) {
+  return arguments.store.empty() ? DefaultSettingsPath() : arguments.store;
 }
 
-std::optional<ScriptWord> FindWord(SettingsStore& store, const std::string& word) {
-  const auto words = ReadScriptWords(store);
-  const auto it = std::ranges::find_if(
-      words, [&](const ScriptWord& entry) { return EqualIgnoringAsciiCase(entry.word, word); });
-  if (it != words.end()) return *it;
-  Complain("\"" + ToUtf8(word) + "\" is not in the word list.");
-  return std::nullopt;
+/// Runs the function on the user's store, which it may write to and which is made where there is
+/// none. A store that cannot be used is a RuntimeError: nothing is kept in memory here.
+void ChangeStore(const WordsArguments& arguments, const std::function<void(SettingsStore&)>& use) {
+  SqliteSettingsStore store(StoreOf(arguments));
+  use(store);
 }
 
-/// Why a word and its parameters cannot be kept, or null.
-const char* Refusal(const WordsArguments& arguments) {
-  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
-  const auto holdsControl = [&](const std::string& text) {
-    return std::ranges::any_of(text, isControl);
-  };
-  const auto holdsMark = [](const std::string& text) { return text.find('[') != text.npos; };
-  if (arguments.word.empty()) return "A word cannot be empty.";
-  if (holdsControl(arguments.word) || holdsControl(arguments.parameters)) {
-    return "A word and its parameters cannot hold tabs, line breaks or other control characters.";
+/// The words of the user's store; none where there is no store.
+std::vector<ScriptWord> ReadWords(const WordsArguments& arguments) {
+  const std::string path = StoreOf(arguments);
+  if (!posix::StatusOf(path) && errno == ENOENT) return {};
+  SqliteSettingsStore store(path);
+  return ReadScriptWords(store);
+}
+
+ScriptWord FindWord(const std::vector<ScriptWord>& words, const std::string& wanted) {
+  std::vector<std::string> names;
+  for (const ScriptWord& word : words) {
+    if (EqualIgnoringAsciiCase(word.word, wanted)) return word;
+    names.push_back(ToUtf8(word.word));
   }
-  if (holdsMark(arguments.word)) {
-    return "A word cannot hold \"[\": that mark tells parameter texts from words.";
+  const std::string guess = DidYouMean(ToUtf8(wanted), names);
+  throw RuntimeError("\"" + ToUtf8(wanted) + "\" is not in the word list." +
+                     (guess.empty() ? "" : " " + guess));
+}
+
+void Print(const WordsArguments& arguments, const char* command,
+           const std::vector<ScriptWord>& words) {
+  FileReport store;
+  store.file = StoreOf(arguments);
+  for (const ScriptWord& word : words) {
+    store.rows.push_back({ToUtf8(word.word), ToUtf8(word.parameters)});
   }
-  if (!arguments.parameters.empty() && !holdsMark(arguments.parameters)) {
-    return "Parameters need a \"[\", as in \"[amount]\": that mark tells them from words.";
-  }
-  return nullptr;
+  const Report report = {command, {"word", "parameters"}, {store}};
+  std::cout << (arguments.format == Format::kJson ? ReportAsJson(report) + '\n'
+                                                  : ReportAsTsv(report));
+}
+
+void SayWhereTheStarterWordsAre() {
+  Complain("The word list is empty. \"tessel words import " + DefaultHostDirectory() +
+           "/words.txt\" adds the starter words.");
 }
 
 }  // namespace
 
 bool ListWords(const WordsArguments& arguments) {
-  return WithStore(arguments, [](SettingsStore& store) {
-    for (const ScriptWord& word : ReadScriptWords(store)) {
-      std::cout << DocumentForTerminal(word.word) << '\n';
-    }
+  const std::vector<ScriptWord> words = ReadWords(arguments);
+  if (words.empty()) SayWhereTheStarterWordsAre();
+  if (arguments.format != Format::kText) {
+    Print(arguments, "words list", words);
     return true;
-  });
+  }
+  for (const ScriptWord& word : words) std::cout << DocumentForTerminal(word.word) << '\n';
+  return true;
 }
 
 bool GetWord(const WordsArguments& arguments) {
-  return WithStore(arguments, [&](SettingsStore& store) {
-    const auto word = FindWord(store, arguments.word);
-    if (word) std::cout << DocumentForTerminal(word->parameters) << '\n';
-    return word.has_value();
-  });
+  const ScriptWord word = FindWord(ReadWords(arguments), arguments.word);
+  if (arguments.format != Format::kText) {
+    Print(arguments, "words get", {word});
+  } else {
+    std::cout << DocumentForTerminal(word.parameters) << '\n';
+  }
+  return true;
 }
 
 bool SetWord(const WordsArguments& arguments) {
-  return WithStore(arguments, [&](SettingsStore& store) {
-    if (const char* refusal = Refusal(arguments)) {
-      Complain(refusal);
-      return false;
-    }
-    WriteScriptWord(store, {arguments.word, arguments.parameters});
-    return true;
-  });
+  const ScriptWord word = {arguments.word, arguments.parameters};
+  if (const char* refusal = RefusalOf(word)) throw RuntimeError(refusal);
+  ChangeStore(arguments, [&](SettingsStore& store) { WriteScriptWord(store, word); });
+  return true;
 }
 
 bool RemoveWord(const WordsArguments& arguments) {
-  return WithStore(arguments, [&](SettingsStore& store) {
-    const auto word = FindWord(store, arguments.word);
-    if (word) DeleteScriptWord(store, word->word);
-    return word.has_value();
-  });
+  const ScriptWord word = FindWord(ReadWords(arguments), arguments.word);
+  ChangeStore(arguments, [&](SettingsStore& store) { DeleteScriptWord(store, word.word); });
+  return true;
 }
 
 bool ImportWords(const WordsArguments& arguments) {
-  return WithStore(arguments, [&](SettingsStore& store) {
-    WriteScriptWords(store, ParseWordFile(PosixFiles().Read(arguments.file)));
-    return true;
-  });
+  const std::vector<ScriptWord> words = ParseWordFile(ReadInput(arguments.file));
+  ChangeStore(arguments, [&](SettingsStore& store) { WriteScriptWords(store, words); });
+  return true;
 }
 
 bool ExportWords(const WordsArguments& arguments) {
-  return WithStore(arguments, [&](SettingsStore& store) {
-    return WriteResult(FormatWordFile(ReadScriptWords(store)), arguments.destination, {});
-  });
+  WriteResult(FormatWordFile(ReadWords(arguments)), arguments.destination, {});
+  return true;
 }
 
 }  // namespace tessel::cli

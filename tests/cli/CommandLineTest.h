@@ -7,6 +7,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <stdexcept>
 #include <string>
@@ -30,40 +32,34 @@ class CommandLineTest : public testing::Test {
 
   /// Runs `tessel` with these arguments in the test's directory.
   Outcome Tessel(const std::vector<std::string>& arguments, const BeforeStart& before = {}) {
-    const std::string out = home_ / "stdout";
-    const std::string err = home_ / "stderr";
-    const pid_t child = ::fork();
-    if (child == 0) {
-      Redirect(out, STDOUT_FILENO);
-      Redirect(err, STDERR_FILENO);
-      if (::chdir(Directory().c_str()) != 0) ::_exit(126);
-      ::setenv("ZANTHMAN_STORE", store_.c_str(), 1);
-      ::setenv("XDG_STATE_HOME", state_.c_str(), 1);
-      // Opened first: another user may not reach it.
-      const int program = ::open(TESSEL_PROGRAM, O_RDONLY | O_CLOEXEC);
-      if (before) before();
-      std::vector<char*> argv = {const_cast<char*>("tessel")};
-      for (const std::string& argument : arguments) {
-        argv.push_back(const_cast<char*>(argument.c_str()));
-      }
-      argv.push_back(nullptr);
-      ::fexecve(program, argv.data(), environ);
-      ::_exit(127);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), BytesOf(out),
-            BytesOf(err)};
+    return Run(TESSEL_PROGRAM, "tessel", arguments, before);
   }
 
-  /// What the program prints on success, which must come without a complaint.
-  std::string OutputOf(const std::vector<std::string>& arguments) {
-    const Outcome outcome = Tessel(arguments);
+  /// Runs a line of bash there, for which `tessel` is the program under test.
+  Outcome Shell(const std::string& line) {
+    return Run("/bin/bash", "bash", {"-c", line}, [] {
+      const std::string folder = std::filesystem::path(TESSEL_PROGRAM).parent_path();
+      ::setenv("PATH", (folder + ":" + std::getenv("PATH")).c_str(), 1);
+    });
+  }
+
+  /// What a line prints that ends well and without a complaint.
+  std::string ShellOutputOf(const std::string& line) {
+    const Outcome outcome = Shell(line);
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_EQ(outcome.err, "");
     return outcome.out;
   }
 
+  /// What the program prints on success, which must come without a complaint; or with that status
+  /// and these words on standard error.
+  std::string OutputOf(const std::vector<std::string>& arguments, int status = 0,
+                       const std::string& err = "") {
+    const Outcome outcome = Tessel(arguments);
+    EXPECT_EQ(outcome.status, status) << outcome.err;
+    EXPECT_EQ(outcome.err, err);
+    return outcome.out;
+  }
   /// Expects a refusal: status 1, this sentence, no output, and no file changed, new or gone.
   void ExpectRefusal(const std::vector<std::string>& arguments, const std::string& sentence,
                      const BeforeStart& before = {}) {
@@ -104,6 +100,34 @@ class CommandLineTest : public testing::Test {
   const std::string state_;  ///< where the programs of this user keep backups
 
  private:
+  Outcome Run(const char* path, const char* name, const std::vector<std::string>& arguments,
+              const BeforeStart& before) {
+    const std::string out = home_ / "stdout";
+    const std::string err = home_ / "stderr";
+    const pid_t child = ::fork();
+    if (child == 0) {
+      Redirect(out, STDOUT_FILENO);
+      Redirect(err, STDERR_FILENO);
+      if (::chdir(Directory().c_str()) != 0) ::_exit(126);
+      ::setenv("ZANTHMAN_STORE", store_.c_str(), 1);
+      ::setenv("XDG_STATE_HOME", state_.c_str(), 1);
+      // Opened first: another user may not reach it.
+      const int program = ::open(path, O_RDONLY | O_CLOEXEC);
+      if (before) before();
+      std::vector<char*> argv = {const_cast<char*>(name)};
+      for (const std::string& argument : arguments) {
+        argv.push_back(const_cast<char*>(argument.c_str()));
+      }
+      argv.push_back(nullptr);
+      ::fexecve(program, argv.data(), environ);
+      ::_exit(127);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), BytesOf(out),
+            BytesOf(err)};
+  }
+
   static void Redirect(const std::string& path, int descriptor) {
     const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
     if (file == -1 || ::dup2(file, descriptor) == -1) ::_exit(125);

@@ -1,5 +1,6 @@
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 
 #include "cli/CommandLineTest.h"
 #include "converter/VersionEdits.h"
@@ -70,7 +71,8 @@ TEST_F(CommandLineConvert, RefusesAFileWithASecondNameWhenItsOldBytesCannotBeKep
 
 TEST_F(CommandLineConvert, ConvertsSeveralFilesInPlace) {
   Put("Two.con", old_ + "// two");
-  EXPECT_EQ(OutputOf({"convert", "User.con", "Two.con", "--in-place"}), "");
+  EXPECT_EQ(OutputOf({"convert", "User.con", "Two.con", "--in-place"}),
+            "User.con: 51 changes\nTwo.con: 51 changes\n");
   EXPECT_EQ(Bytes("User.con"), TheControl().Converts(old_));
   EXPECT_EQ(Bytes("Two.con"), TheControl().Converts(old_ + "// two"));
 }
@@ -81,14 +83,13 @@ TEST_F(CommandLineConvert, ConvertsTheOthersWhenOneIsRefused) {
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.err,
             "tessel: new.con: This con appears to already be version 1.4/1.5 compatible.\n"
-            "tessel: File " +
-                PathOf("none.con") + " not found.\n");
+            "tessel: Cannot open none.con: No such file or directory.\n");
   EXPECT_EQ(Bytes("new.con"), TemplateText("zmuserp.dat"));
   EXPECT_EQ(Bytes("User.con"), TheControl().Converts(old_));
 }
 
 TEST_F(CommandLineConvert, NeedsInPlaceForSeveralFiles) {
-  const std::string sentence = "convert: several files need --in-place";
+  const std::string sentence = "convert: several files need --in-place or --dry-run";
   ExpectUsageError({"convert", "User.con", "User.con"}, sentence, "tessel convert");
   ExpectUsageError({"convert", "User.con", "User.con", "-o", "x"}, sentence, "tessel convert");
   EXPECT_EQ(Bytes("User.con"), old_);
@@ -118,6 +119,47 @@ TEST_F(CommandLineConvert, ReportsEveryStep) {
   EXPECT_THAT(outcome.err, testing::HasSubstr("\n  step 18  not found  \"define GOTTASMART\"\n"));
   const int last = VersionEdits().back().step;
   EXPECT_THAT(outcome.err, testing::HasSubstr("\n  step " + std::to_string(last) + "  "));
+}
+
+/// A text with LF in the place of each CR LF.
+std::string WithLf(std::string text) {
+  std::erase(text, '\r');
+  return text;
+}
+
+TEST_F(CommandLineConvert, SaysThatAFileGetsMixedLineEnds) {
+  Put("lf.con", WithLf(old_));
+  const Outcome outcome = Tessel({"convert", "lf.con"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out, TheControl().Converts(WithLf(old_)));
+  EXPECT_EQ(outcome.err,
+            "tessel: lf.con: its lines end with LF, and those that the conversion inserted with "
+            "CR LF; \"--line-ends keep\" writes LF everywhere.\n");
+  EXPECT_EQ(OutputOf({"convert", "lf.con", "--quiet"}), outcome.out);
+  EXPECT_EQ(OutputOf({"convert", "User.con"}), TheControl().Converts(old_));
+}
+
+TEST_F(CommandLineConvert, KeepsTheLineEndsOfTheFileWhenAsked) {
+  Put("lf.con", WithLf(old_));
+  EXPECT_EQ(OutputOf({"convert", "lf.con", "--line-ends", "keep"}),
+            WithLf(TheControl().Converts(WithLf(old_))));
+  EXPECT_EQ(OutputOf({"convert", "User.con", "--line-ends", "keep"}), TheControl().Converts(old_));
+}
+
+TEST_F(CommandLineConvert, KeepsNoLineEndsThatAreMixed) {
+  Put("mixed.con", With(old_, "\r\n", "\n"));
+  ExpectRefusal({"convert", "mixed.con", "--line-ends", "keep"},
+                "mixed.con: its own line ends are mixed, so there are none to keep.");
+  ExpectUsageError({"convert", "User.con", "--line-ends", "lf"},
+                   "--line-ends: \"lf\" is none of control, keep", "tessel convert");
+}
+
+TEST_F(CommandLineConvert, ReportsForPrograms) {
+  const auto report =
+      nlohmann::json::parse(OutputOf({"convert", "User.con", "--dry-run", "--json"}));
+  EXPECT_EQ(report["files"][0]["rows"][0],
+            (nlohmann::json{{"step", 1}, {"sought", "/*"}, {"found", true}, {"changed", true}}));
+  EXPECT_EQ(report["files"][0]["changed"], 51);
 }
 
 }  // namespace

@@ -17,6 +17,10 @@ TEST_F(CommandLineNew, WritesAFile) {
   EXPECT_EQ(Bytes("User.con"), TemplateText("zmuserp.dat"));
 }
 
+TEST_F(CommandLineNew, TakesACodeInAnyCase) {
+  EXPECT_EQ(OutputOf({"new", "15au"}), TemplateText("zmuserp.dat"));
+}
+
 TEST_F(CommandLineNew, ReplacesAFileOnlyWhenForced) {
   Put("User.con", "mine");
   ExpectRefusal({"new", "15AU", "-o", "User.con"},
@@ -26,7 +30,7 @@ TEST_F(CommandLineNew, ReplacesAFileOnlyWhenForced) {
 }
 
 TEST_F(CommandLineNew, KnowsItsTemplates) {
-  ExpectUsageError({"new", "14XX"}, "CODE: 14XX not in {13DU,15AU,13DD,15AD,13DG,15AG}",
+  ExpectUsageError({"new", "14XX"}, "CODE: \"14XX\" is none of 13DU, 15AU, 13DD, 15AD, 13DG, 15AG",
                    "tessel new");
   EXPECT_EQ(Tessel({"new", ""}).status, 2);
 }

@@ -50,7 +50,7 @@ TEST_F(CommandLineValues, FindsAFileWithoutRegardToCase) {
 
 TEST_F(CommandLineValues, RefusesAnItemThatDoesNotExist) {
   ExpectRefusal({"get", "User.con", "Max Happiness"},
-                "There is no setting \"Max Happiness\". \"tessel settings FILE\" lists them.");
+                "There is no setting \"Max Happiness\", and User.con defines no such name.");
 }
 
 TEST_F(CommandLineValues, RefusesADefineThatTheFileLacks) {
@@ -113,7 +113,7 @@ TEST_F(CommandLineValues, RefusesWhatCannotBeAValue) {
     }
   }
   ExpectRefusal({"set", "User.con", "Cameras Destructable", "maybe", "--in-place"},
-                "\"maybe\" cannot be the value of Cameras Destructable.");
+                "\"maybe\" cannot be the value of Cameras Destructable: it takes YES or NO.");
 }
 
 TEST_F(CommandLineValues, ListsEverySettingAndADashForWhatIsMissing) {
@@ -132,18 +132,28 @@ TEST_F(CommandLineValues, ListsOneSection) {
 }
 
 TEST_F(CommandLineValues, ListsAsJson) {
-  const json list = json::parse(OutputOf({"settings", "User.con", "--json"}));
+  const json report = json::parse(OutputOf({"settings", "User.con", "--json"}));
+  EXPECT_EQ(report["schema"], "tessel-report");
+  EXPECT_EQ(report["version"], 1);
+  EXPECT_EQ(report["command"], "settings");
+  ASSERT_EQ(std::ssize(report["files"]), 1);
+  EXPECT_EQ(report["files"][0]["file"], "User.con");
+  EXPECT_EQ(report["files"][0]["error"], nullptr);
+  const json list = report["files"][0]["rows"];
   ASSERT_EQ(std::ssize(list), kSettings);
   EXPECT_EQ(list[0], (json{{"section", "Player"},
                            {"item", "Max Regular Health"},
                            {"define", "MAXPLAYERHEALTH"},
-                           {"value", "100"}}));
+                           {"value", "100"},
+                           {"line", 1},
+                           {"problem", nullptr}}));
   EXPECT_EQ(list[1]["value"], nullptr);
 }
 
 TEST_F(CommandLineValues, KeepsJsonValidWhateverTheValue) {
   Put("odd.con", "define MAXPLAYERHEALTH \xE9\"\\\x1B[31m<b>&' // odd\r\n");
-  const json list = json::parse(OutputOf({"settings", "odd.con", "--json", "--section", "Player"}));
+  const json list = json::parse(
+      OutputOf({"settings", "odd.con", "--json", "--section", "Player"}))["files"][0]["rows"];
   EXPECT_EQ(list[0]["value"], "\xC3\xA9\"\\\x1B[31m<b>&'");
 }
 
@@ -155,7 +165,8 @@ TEST_F(CommandLineValues, PrintsNoEscapeSequences) {
 
 TEST_F(CommandLineValues, ReadsAndWritesEverySettingOfTheTemplate) {
   Put("whole.con", TemplateText("zmuserp.dat"));
-  for (const json& row : json::parse(OutputOf({"settings", "whole.con", "--json"}))) {
+  const json report = json::parse(OutputOf({"settings", "whole.con", "--json"}));
+  for (const json& row : report["files"][0]["rows"]) {
     const std::string item = row["item"];
     ASSERT_TRUE(row["value"].is_string()) << item;
     EXPECT_EQ(OutputOf({"get", "whole.con", item}), row["value"].get<std::string>() + "\n");

@@ -1,13 +1,69 @@
+#include <nlohmann/json.hpp>
+
 #include "cli/CommandLineTest.h"
 
 namespace tessel::test {
 namespace {
 
-class CommandLineWords : public CommandLineTest {};
+class CommandLineWords : public CommandLineTest {
+ protected:
+  void ExpectEmptyList() {
+    const Outcome outcome = Tessel({"words", "list"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "tessel: The word list is empty. \"tessel words import " +
+                               std::string(TESSEL_TEST_DATA_DIR) +
+                               "/words.txt\" adds the starter words.\n");
+  }
+};
 
-TEST_F(CommandLineWords, StartsWithAnEmptyList) {
-  EXPECT_EQ(OutputOf({"words", "list"}), "");
+TEST_F(CommandLineWords, StartsWithAnEmptyListAndSaysWhereTheStarterWordsAre) {
+  ExpectEmptyList();
   EXPECT_EQ(OutputOf({"words", "export"}), "");
+  OutputOf({"words", "import", std::string(TESSEL_TEST_DATA_DIR) + "/words.txt"});
+  EXPECT_EQ(OutputOf({"words", "export"}), TemplateText("words.txt"));
+}
+
+TEST_F(CommandLineWords, ReadingMakesNoStoreAndNoFolder) {
+  store_ = home_ / "none/settings.db";
+  ExpectEmptyList();
+  OutputOf({"words", "export"});
+  Tessel({"words", "get", "sound"});
+  Tessel({"words", "remove", "sound"});
+  Tessel({"words", "set", "sound", "plain"});
+  Put("words.txt", "no tab\n");
+  Tessel({"words", "import", "words.txt"});
+  EXPECT_FALSE(std::filesystem::exists(home_ / "none"));
+  Tessel({"words", "list", "--store", PathOf("mistyped/words.db")});
+  EXPECT_FALSE(std::filesystem::exists(PathOf("mistyped")));
+}
+
+TEST_F(CommandLineWords, ImportRefusesWhatSetRefuses) {
+  Put("words.txt", "sound\t[name]\nfoo\tplain\n");
+  ExpectRefusal({"words", "import", "words.txt"},
+                "Line 2 of the word list: Parameters need a \"[\", as in \"[amount]\": that mark "
+                "tells them from words.");
+  Put("words.txt", "sound\t[\x01]\n");
+  ExpectRefusal({"words", "import", "words.txt"},
+                "Line 1 of the word list: A word and its parameters cannot hold tabs, line breaks "
+                "or other control characters.");
+  ExpectEmptyList();
+}
+
+TEST_F(CommandLineWords, GuessesAMistypedWord) {
+  OutputOf({"words", "set", "soundonce", "[name]"});
+  ExpectRefusal({"words", "get", "sondonce"},
+                "\"sondonce\" is not in the word list. Did you mean \"soundonce\"?");
+}
+
+TEST_F(CommandLineWords, ListsForPrograms) {
+  OutputOf({"words", "set", "sound", "[name]"});
+  EXPECT_EQ(OutputOf({"words", "list", "--tsv"}),
+            "file\tword\tparameters\n" + store_ + "\tsound\t[name]\n");
+  const auto report = nlohmann::json::parse(OutputOf({"words", "get", "SOUND", "--json"}));
+  EXPECT_EQ(report["command"], "words get");
+  EXPECT_EQ(report["files"][0]["rows"][0],
+            (nlohmann::json{{"word", "sound"}, {"parameters", "[name]"}}));
 }
 
 TEST_F(CommandLineWords, KeepsWordsInTheOrderInWhichTheyCame) {
@@ -23,7 +79,7 @@ TEST_F(CommandLineWords, ChangesAndRemovesWords) {
   OutputOf({"words", "set", "sound", "[other]"});
   EXPECT_EQ(OutputOf({"words", "export"}), "sound\t[other]\n");
   OutputOf({"words", "remove", "Sound"});
-  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  ExpectEmptyList();
 }
 
 TEST_F(CommandLineWords, RefusesWordsThatAreNotListed) {
@@ -41,7 +97,7 @@ TEST_F(CommandLineWords, RefusesWhatTheListCannotTellApart) {
       "A word and its parameters cannot hold tabs, line breaks or other control characters.";
   ExpectRefusal({"words", "set", "a\tb", "[x]"}, control);
   ExpectRefusal({"words", "set", "a", "[x\ny]"}, control);
-  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  ExpectEmptyList();
 }
 
 TEST_F(CommandLineWords, ImportsWhatItExports) {
@@ -61,14 +117,14 @@ TEST_F(CommandLineWords, ImportsAllOrNothing) {
   Put("words.txt", "sound\t[name]\nno tab\n");
   ExpectRefusal({"words", "import", "words.txt"},
                 "Line 2 of the word list is not a word, a tab and its parameters.");
-  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  ExpectEmptyList();
   ExpectRefusal({"words", "import", "none.txt"},
                 "Cannot open none.txt: No such file or directory.");
 }
 
 TEST_F(CommandLineWords, UsesTheStoreThatItIsTold) {
   OutputOf({"words", "--store", "other.db", "set", "sound", "[name]"});
-  EXPECT_EQ(OutputOf({"words", "list"}), "");
+  ExpectEmptyList();
   EXPECT_EQ(OutputOf({"words", "list", "--store", "other.db"}), "sound\n");
 }
 

@@ -33,6 +33,9 @@ struct Place {
   posix::Descriptor start{::open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
 
   Place() {
+    // "-" has an end at once.
+    Require(::dup2(::open("/dev/null", O_RDWR | O_CLOEXEC), STDIN_FILENO) == STDIN_FILENO,
+            "standard input is there");
     ::setenv("ZANTHMAN_STORE", (home / "settings.db").c_str(), 1);
     ::setenv("HOME", home.Path().c_str(), 1);
   }
@@ -106,9 +109,19 @@ std::string WithoutColours(const std::string& text) {
   return std::regex_replace(text, kColour, "");
 }
 
+/// Is there the option? Behind "--" there is none, and what follows an option may be its value.
+bool HasFlag(const Arguments& arguments, std::string_view flag) {
+  const auto end = std::ranges::find(arguments, "--");
+  for (auto at = arguments.begin(); at != end; ++at) {
+    if (*at == flag && at != arguments.begin() && !std::prev(at)->starts_with('-')) return true;
+  }
+  return false;
+}
+
 /// Does the command print the document's bytes as they are?
 bool PrintsBytes(const Arguments& arguments) {
   const std::string& command = arguments.front();
+  if (HasFlag(arguments, "--json") || HasFlag(arguments, "--tsv")) return false;
   return command == "convert" || command == "randomize" || command == "set" || command == "new" ||
          command == "level" || HasPair(arguments, "words", "export");
 }
@@ -120,9 +133,11 @@ bool HasFormat(const Arguments& arguments, const std::string& format) {
           Has(arguments, "--format=" + format));
 }
 
+/// Only what surely does: other lines may, too.
 bool PrintsJson(const Arguments& arguments) {
-  const bool lists = arguments.front() == "settings" || arguments.front() == "levels";
-  return HasFormat(arguments, "json") || (lists && std::ranges::count(arguments, "--json") != 0);
+  const bool lists = arguments.front() == "settings" || arguments.front() == "levels" ||
+                     arguments.front() == "get" || HasPair(arguments, "words", "list");
+  return HasFormat(arguments, "json") || (lists && HasFlag(arguments, "--json"));
 }
 
 void RequireFilesKept(const Arguments& arguments, const Outcome& outcome,
@@ -131,9 +146,10 @@ void RequireFilesKept(const Arguments& arguments, const Outcome& outcome,
   const bool mayWrite =
       Has(arguments, "-o") || Has(arguments, "--output") || Has(arguments, "--in-place");
   if (!mayWrite) Require(before == after, "without -o and --in-place no file changes");
-  // Of several files those that were converted stay so.
-  const bool several = arguments.front() == "convert";
+  // Of several files those that were changed stay so.
+  const bool several = Has(arguments, "--in-place");
   if (outcome.status != 0 && !several) Require(before == after, "a failure writes nothing");
+  if (HasFlag(arguments, "--dry-run")) Require(before == after, "a dry run writes nothing");
   for (const auto& [name, bytes] : before) {
     Require(after.contains(name), "no file goes");
   }

@@ -42,7 +42,19 @@ check_convert() {
   what_is "$(cat again)" ""
 }
 
-check_set() { what_is "$(tessel get "$(output "$@")" "$2")" "$3"; }
+# set FILE ITEM VALUE, or FILE ITEM=VALUE...
+check_set() {
+  local file=$1 word
+  if [[ $2 != *=* ]]; then
+    what_is "$(tessel get "$(output "$@")" "$2")" "$3"
+    return
+  fi
+  for word in "${@:2}"; do
+    [[ $word != --* ]] || break
+    what_is "$(tessel get "$file" "${word%%=*}")" "${word#*=}"
+  done
+  cmp -s before.con "$file~" || complain "keeps no backup"
+}
 
 check_get() {
   local row
@@ -62,8 +74,7 @@ check_randomize() {
 }
 
 check_level() {
-  what_is "$(tessel levels "$(output "$@")" | grep -F -- "$2"$'\t')" \
-    "$2"$'\t'"$(option --map "$@")"$'\t'"$(option --title "$@")"
+  what_is "$(tessel level "$(output "$@")" "$2")" "$(option --map "$@")"$'\t'"$(option --title "$@")"
 }
 
 check_new() {

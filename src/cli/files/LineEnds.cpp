@@ -1,0 +1,72 @@
+#include "cli/files/LineEnds.h"
+
+namespace tessel::cli {
+namespace {
+
+struct Break {
+  std::size_t at = 0, length = 0;
+};
+
+/// The first break from `from` on; at the end of the text when there is none.
+Break NextBreak(std::string_view text, std::size_t from) {
+  const std::size_t at = text.find_first_of("\r\n", from);
+  if (at == text.npos) return {text.size(), 0};
+  return {at, text.substr(at, 2) == "\r\n" ? std::size_t{2} : std::size_t{1}};
+}
+
+std::string_view BytesOf(LineEnd lineEnd) {
+  switch (lineEnd) {
+    case LineEnd::kCrLf:
+      return "\r\n";
+    case LineEnd::kLf:
+      return "\n";
+    case LineEnd::kCr:
+      return "\r";
+  }
+  return {};
+}
+
+}  // namespace
+
+std::optional<LineEnd> LineEnds::Only() const {
+  if (Mixed()) return std::nullopt;
+  if (crLf != 0) return LineEnd::kCrLf;
+  if (lf != 0) return LineEnd::kLf;
+  if (cr != 0) return LineEnd::kCr;
+  return std::nullopt;
+}
+
+LineEnds LineEndsOf(std::string_view text) {
+  LineEnds ends;
+  for (Break found = NextBreak(text, 0); found.length != 0;
+       found = NextBreak(text, found.at + found.length)) {
+    ++(found.length == 2 ? ends.crLf : text[found.at] == '\n' ? ends.lf : ends.cr);
+  }
+  return ends;
+}
+
+const char* NameOf(LineEnd lineEnd) {
+  switch (lineEnd) {
+    case LineEnd::kCrLf:
+      return "CR LF";
+    case LineEnd::kLf:
+      return "LF";
+    case LineEnd::kCr:
+      return "CR";
+  }
+  return "";
+}
+
+std::string WithLineEnds(std::string_view text, LineEnd lineEnd) {
+  std::string result;
+  result.reserve(text.size());
+  std::size_t from = 0;
+  for (Break found = NextBreak(text, 0); found.length != 0; found = NextBreak(text, from)) {
+    result += text.substr(from, found.at - from);
+    result += BytesOf(lineEnd);
+    from = found.at + found.length;
+  }
+  return result.append(text.substr(from));
+}
+
+}  // namespace tessel::cli

@@ -1,0 +1,30 @@
+// The line breaks of a text.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tessel::cli {
+
+enum class LineEnd { kCrLf, kLf, kCr };
+
+/// How many of each there are; a CR LF is one break.
+struct LineEnds {
+  std::size_t crLf = 0, lf = 0, cr = 0;
+
+  bool Mixed() const { return (crLf != 0) + (lf != 0) + (cr != 0) > 1; }
+  /// The only kind; nothing where there are several, or none at all.
+  std::optional<LineEnd> Only() const;
+};
+
+LineEnds LineEndsOf(std::string_view text);
+
+/// "CR LF", "LF" or "CR".
+const char* NameOf(LineEnd lineEnd);
+
+/// The text with each of its breaks written as this one.
+std::string WithLineEnds(std::string_view text, LineEnd lineEnd);
+
+}  // namespace tessel::cli

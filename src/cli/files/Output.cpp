@@ -1,0 +1,84 @@
+#include "cli/files/Output.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "base/RuntimeError.h"
+#include "cli/files/Streams.h"
+#include "posix/PathResolution.h"
+#include "posix/Posix.h"
+#include "posix/PosixFiles.h"
+#include "safekeeping/BackupStore.h"
+
+namespace tessel::cli {
+namespace {
+
+using posix::Checked;
+
+bool IsSameFile(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+/// A result takes no other file's place unless it is told to.
+void RefuseToReplace(const std::string& file, const std::string& source) {
+  const auto there = posix::StatusOf(file);
+  if (!there || !S_ISREG(there->st_mode)) return;
+  const auto read = posix::StatusOf(source);
+  const bool isSource = read && IsSameFile(*there, *read);
+  throw RuntimeError("Cannot save " + file + ": " +
+                     (isSource ? "it is the file that was read; --in-place writes over it."
+                               : "it is there already; --force replaces it."));
+}
+
+void WriteNew(const std::string& file, std::string_view bytes, mode_t mode) {
+  posix::Descriptor copy(
+      Checked([&] { return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); }));
+  try {
+    posix::WriteAll(copy.Number(), bytes);
+    Checked([&] { return ::fsync(copy.Number()); });
+    copy.Close();
+  } catch (const posix::FileProblem&) {
+    ::unlink(file.c_str());
+    throw;
+  }
+}
+
+/// Copies a file to a new one beside it that the same people may read.
+void BackUp(const std::string& named, const std::string& suffix, bool force) {
+  const std::string file = posix::ResolveIgnoringCase(named);
+  const std::string backup = file + suffix;
+  const std::string old = PosixFiles().Read(file);
+  try {
+    const auto status = posix::StatusOf(file);
+    if (!status) throw posix::FileProblem(errno);
+    if (force && ::unlink(backup.c_str()) == -1 && errno != ENOENT) throw posix::FileProblem(errno);
+    WriteNew(backup, old, status->st_mode & 0777);
+  } catch (const posix::FileProblem& problem) {
+    const bool isThere = problem.Code() == EEXIST;
+    throw RuntimeError("Cannot back up " + named + " as " + backup + ": " +
+                       (isThere ? "it is there already; --force replaces it" : problem.what()) +
+                       ".");
+  }
+}
+
+void WriteOver(const std::string& file, std::string_view bytes, const Destination& destination,
+               PosixFiles& files) {
+  if (IsStream(file)) throw RuntimeError("Cannot save " + file + ": it is a stream.");
+  if (destination.backup) BackUp(file, *destination.backup, destination.force);
+  files.Write(file, bytes);
+}
+
+}  // namespace
+
+void WriteResult(std::string_view bytes, const Destination& destination,
+                 const std::string& source) {
+  PosixFiles files;
+  files.KeepOldBytesBy(KeepAsBackups(DefaultBackupFolder()));
+  if (destination.inPlace) return WriteOver(source, bytes, destination, files);
+  if (destination.file.empty()) return WriteStream("-", bytes);
+  if (IsStream(destination.file)) return WriteStream(destination.file, bytes);
+  if (!destination.force) RefuseToReplace(destination.file, source);
+  files.WriteAs(destination.file, bytes);
+}
+
+}  // namespace tessel::cli

@@ -1,0 +1,27 @@
+// Where a command's result goes.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tessel::cli {
+
+/// "-o FILE", "--in-place", or neither: standard output.
+struct Destination {
+  std::string file;  ///< may be a stream (see Streams.h)
+  bool inPlace = false;
+  bool force = false;                 ///< "-o" and "--backup" may replace a file
+  bool dryRun = false;                ///< nothing is written, the difference is shown
+  std::optional<std::string> backup;  ///< what a backup's name has behind the file's
+
+  /// Is standard output free for something else?
+  bool LeavesStandardOutput() const { return inPlace || dryRun || (!file.empty() && file != "-"); }
+};
+
+/// Writes a result byte for byte. `source` is the file it was made from, empty where there is none.
+/// What cannot be written is a RuntimeError, and the file is as it was. (Failures of standard
+/// output are told when the program ends.)
+void WriteResult(std::string_view bytes, const Destination& destination, const std::string& source);
+
+}  // namespace tessel::cli

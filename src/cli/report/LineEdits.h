@@ -1,0 +1,26 @@
+// Which lines of a text gave way to which of another.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace tessel::cli {
+
+/// The lines of a text, each with its LF; the last one may have none.
+std::vector<std::string_view> LinesOf(std::string_view text);
+
+/// `removed` lines from the line `before` of the one text on gave way to `added` lines from the
+/// line `after` of the other one on. Lines count from 0.
+struct LineEdit {
+  std::size_t before = 0, removed = 0;
+  std::size_t after = 0, added = 0;
+};
+
+/// The edits from one text to another, in order, with lines that stay between them. They are the
+/// fewest, unless the texts differ so much that finding those would take long: then one edit has
+/// everything between the first and the last line that differ.
+std::vector<LineEdit> LineEditsBetween(const std::vector<std::string_view>& before,
+                                       const std::vector<std::string_view>& after);
+
+}  // namespace tessel::cli
