@@ -19,6 +19,7 @@ all_packages=(
   desktop-file-utils appstream libxml2-utils shared-mime-info file
   build-essential dpkg-dev debhelper devscripts lintian
   xvfb xdotool xauth
+  zsh fish patch
 )
 
 install_missing() {
