@@ -113,9 +113,10 @@ TEST_P(TemplateEntries, AreAllComplete) {
 }
 
 TEST_P(TemplateEntries, AreAsManyAsItsLinesThatBeginWithTheirKeywords) {
+  const auto lines = test::Lines(test::WithoutComments(text_), "\r\n");
   const auto linesOf = [&](const std::string& keyword) {
     std::size_t count = 0;
-    for (const auto& line : test::Lines(test::WithoutComments(text_), "\r\n")) {
+    for (const auto& line : lines) {
       count += static_cast<std::size_t>(line.starts_with(keyword + " "));
     }
     return count;
