@@ -21,7 +21,7 @@ namespace {
 using language::Range;
 using language::Script;
 
-constexpr std::size_t kLongest = 3000;
+constexpr std::size_t kLongest = 800;
 
 void RequireNaive(const Script& script) {
   const std::string difference = test::ReadingDifference(script);
