@@ -1,8 +1,10 @@
 // Reading what a script says: whole, after an edit, and when it is asked.
 #include "ConText.h"
 #include "Measure.h"
+#include "language/Blocks.h"
 #include "language/Definitions.h"
 #include "language/Levels.h"
+#include "language/Names.h"
 #include "language/Script.h"
 
 namespace tessel::bench {
@@ -42,21 +44,34 @@ void EditScript(benchmark::State& state, double part, std::string_view written) 
   state.counters["worst_ms"] = 1000 * worst;
 }
 
-void AskForDefinitions(benchmark::State& state) {
-  const std::string& text = UserFile(static_cast<std::size_t>(state.range(0)));
+/// `ask` gives how many there are.
+template <class Ask>
+void AskScript(benchmark::State& state, MakeText make, Ask ask) {
+  const std::string& text = ScriptText(make, state);
   const language::Script script(text);
   std::size_t count = 0;
-  Measure(state, text, kNoPreparation, [&] { count = language::Definitions(script).size(); });
-  state.counters["definitions"] = static_cast<double>(count);
+  Measure(state, text, kNoPreparation, [&] { count = ask(script); });
+  state.counters["found"] = static_cast<double>(count);
 }
 
-void AskForLevels(benchmark::State& state) {
-  const std::string& text = UserFile(static_cast<std::size_t>(state.range(0)));
-  const language::Script script(text);
-  std::size_t count = 0;
-  Measure(state, text, kNoPreparation, [&] { count = language::Levels(script).size(); });
-  state.counters["levels"] = static_cast<double>(count);
-}
+constexpr auto kDefinitions = [](const language::Script& script) {
+  return language::Definitions(script).size();
+};
+constexpr auto kLevels = [](const language::Script& script) {
+  return language::Levels(script).size();
+};
+constexpr auto kBlocks = [](const language::Script& script) {
+  return language::Blocks(script).blocks.size();
+};
+constexpr auto kSymbols = [](const language::Script& script) {
+  return language::Symbols(script).size();
+};
+constexpr auto kUsesOfAName = [](const language::Script& script) {
+  return language::UsesOf(script, "MAXTRIPBOMBAMMO").size();
+};
+constexpr auto kUsesOfACommand = [](const language::Script& script) {
+  return language::UsesOf(script, "cactor").size();
+};
 
 BENCHMARK_CAPTURE(ReadScript, UserFile, UserFile)->Apply(AllSizes);
 BENCHMARK_CAPTURE(ReadScript, GameFile, GameFile)->Apply(AllSizes);
@@ -64,8 +79,13 @@ BENCHMARK_CAPTURE(EditScript, AtItsStart, 0.0, "xy")->Apply(SizesUpTo10MB);
 BENCHMARK_CAPTURE(EditScript, InItsMiddle, 0.5, "xy")->Apply(SizesUpTo10MB);
 BENCHMARK_CAPTURE(EditScript, AtItsEnd, 1.0, "xy")->Apply(SizesUpTo10MB);
 BENCHMARK_CAPTURE(EditScript, OpeningACommentAtItsStart, 0.0, "/*")->Apply(SizesUpTo10MB);
-BENCHMARK(AskForDefinitions)->Apply(SizesUpTo10MB);
-BENCHMARK(AskForLevels)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, Definitions, UserFile, kDefinitions)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, Levels, UserFile, kLevels)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, UsesOfAName, UserFile, kUsesOfAName)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, UsesOfACommand, GameFile, kUsesOfACommand)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, SymbolsOfAUserFile, UserFile, kSymbols)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, SymbolsOfAGameFile, GameFile, kSymbols)->Apply(SizesUpTo10MB);
+BENCHMARK_CAPTURE(AskScript, Blocks, GameFile, kBlocks)->Apply(SizesUpTo10MB);
 
 }  // namespace
 }  // namespace tessel::bench

@@ -49,18 +49,62 @@ bool CanBeName(Keyword keyword, int word) {
   }
 }
 
-/// The use that a word is within a statement: nothing where it cannot be a name.
-std::optional<Use> UseIn(const Script& script, Mark mark, Role role, Range word) {
-  if (word.begin == mark.begin) return std::nullopt;
-  const Statement statement = ReadStatement(script, mark);
-  const auto found = std::ranges::find(statement.words, word);
-  if (found == statement.words.end()) return Use{word, UseKind::kUses, std::nullopt};
-  const auto number = static_cast<int>(found - statement.words.begin()) + 1;
-  if (!CanBeName(mark.keyword, number)) return std::nullopt;
-  const bool gives = role == Role::kDefines || role == Role::kOpens;
-  return Use{word, gives && word == statement.name ? UseKind::kDefines : UseKind::kUses,
-             mark.keyword};
-}
+/// Goes through the words of a script from front to back; leaps over what nobody asks for.
+class WordCursor {
+ public:
+  explicit WordCursor(const Script& script) : script_(script), reader_(script.ReaderBefore(0)) {}
+
+  /// True when a word is exactly [begin, end). `begin` grows from call to call.
+  bool IsWord(Range range) {
+    if (range.begin - token_.range.end > Script::kUsualChunkLength) {
+      reader_ = script_.ReaderBefore(range.begin);
+      token_ = reader_.Next();
+    }
+    while (token_.range.end <= range.begin) token_ = reader_.Next();
+    return token_.kind == TokenKind::kWord && token_.range == range;
+  }
+
+ private:
+  const Script& script_;
+  Reader reader_;
+  Token token_;
+};
+
+/// Tells what the words of a script are in their statements, from front to back.
+class UseReader {
+ public:
+  explicit UseReader(const Script& script) : script_(script), walk_(script) {}
+
+  /// Nothing where the word cannot be a name.
+  std::optional<Use> UseOf(Range word) {
+    GoTo(word.begin);
+    if (!inStatement_) return Use{word, UseKind::kUses, std::nullopt};
+    if (word == statement_.keywordRange) return std::nullopt;
+    const auto found = std::ranges::lower_bound(statement_.words, word.begin, {}, &Range::begin);
+    if (found == statement_.words.end()) return Use{word, UseKind::kUses, std::nullopt};
+    const Keyword keyword = statement_.keyword;
+    const auto number = static_cast<int>(found - statement_.words.begin()) + 1;
+    if (!CanBeName(keyword, number)) return std::nullopt;
+    const Role role = walk_.CurrentRole();
+    const bool gives = role == Role::kDefines || role == Role::kOpens;
+    return Use{word, gives && word == statement_.name ? UseKind::kDefines : UseKind::kUses,
+               keyword};
+  }
+
+ private:
+  void GoTo(Position offset) {
+    bool moved = false;
+    while (walk_.Following() && walk_.Following()->begin <= offset) moved = walk_.Next();
+    if (!moved) return;
+    inStatement_ = true;
+    statement_ = ReadStatement(script_, walk_.Current());
+  }
+
+  const Script& script_;
+  BlockWalk walk_;
+  bool inStatement_ = false;
+  Statement statement_;
+};
 
 }  // namespace
 
@@ -85,17 +129,13 @@ std::vector<Symbol> Symbols(const Script& script) {
 std::vector<Use> UsesOf(const Script& script, std::string_view name) {
   std::vector<Use> uses;
   const TextPattern pattern(name, kFindDefault);
-  const std::string_view text = script.Text();
-  BlockWalk walk(script);
-  bool inStatement = false;
-  for (Position at = pattern.FindIn(text, 0, script.Length()); at != kNotFound;
-       at = pattern.FindIn(text, at + 1, script.Length())) {
-    const auto word = WordAt(script, at);
-    if (!word || *word != Range{at, at + std::ssize(name)}) continue;
-    while (walk.Following() && walk.Following()->begin <= at) inStatement = walk.Next();
-    const auto use = inStatement ? UseIn(script, walk.Current(), walk.CurrentRole(), *word)
-                                 : Use{*word, UseKind::kUses, std::nullopt};
-    if (use) uses.push_back(*use);
+  WordCursor words(script);
+  UseReader statements(script);
+  for (Position at = pattern.FindIn(script.Text(), 0, script.Length()); at != kNotFound;
+       at = pattern.FindIn(script.Text(), at + 1, script.Length())) {
+    const Range word = {at, at + pattern.Length()};
+    if (!words.IsWord(word)) continue;
+    if (const auto use = statements.UseOf(word)) uses.push_back(*use);
   }
   return uses;
 }

@@ -112,6 +112,13 @@ TEST(Uses, AreFoundInFrontOfTheFirstStatement) {
   EXPECT_EQ(UsesIn("A x A\nends", "A"), "[A] x [A]\nends");
 }
 
+TEST(Uses, AreFoundFarApart) {
+  std::string far;
+  for (int i = 0; i < 2000; ++i) far += "// xA\r\n  word\r\n";
+  EXPECT_EQ(UsesIn("A" + far + "A /* A" + far + "A */ A", "A"),
+            "[A]" + far + "[A] /* A" + far + "A */ [A]");
+}
+
 TEST(Uses, OfNothingAreNone) { EXPECT_EQ(UsesIn("define A 1", ""), "define A 1"); }
 
 TEST(WordAt, HoldsTheByteOrEndsInFrontOfIt) {
