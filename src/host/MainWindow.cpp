@@ -261,6 +261,11 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
   static_cast<QVBoxLayout*>(centralWidget()->layout())->insertWidget(0, offer);
 }
 
+void MainWindow::LogTo(KeepingLog& log) {
+  log_ = &log;
+  if (keeper_ != nullptr) keeper_->LogTo(&log);
+}
+
 void MainWindow::KeepEverything() {
   if (keeper_ != nullptr) keeper_->KeepNow();
   RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments()));
@@ -288,6 +293,8 @@ void MainWindow::StartSession() {
 // --- Files dropped anywhere in the window are opened, on the editor too
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool key = event->type() == QEvent::KeyPress && watched == QApplication::focusWidget();
+  if (key && log_ != nullptr) log_->Key();
   const bool drag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
                     event->type() == QEvent::Drop;
   if (!drag || !watched->isWidgetType()) return false;

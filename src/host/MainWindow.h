@@ -20,6 +20,7 @@
 
 namespace tessel {
 
+class KeepingLog;
 class RecoveryKeeper;
 
 /// A window that the control fills, with a status bar for what the control has to say.
@@ -43,6 +44,8 @@ class MainWindow : public QMainWindow {
   /// Keeps unsaved text in that folder until the window is closed, and offers what is there of runs
   /// that ended otherwise.
   void KeepUnsavedText(const std::string& folder);
+  /// Notes when keys come and, once unsaved text is kept, when. It outlives the window.
+  void LogTo(KeepingLog& log);
   /// The program is about to end without asking: keeps every unsaved text and what is open.
   void KeepEverything();
   /// Opens the documents of the last run, if the user wants that, and remembers those of this run.
@@ -77,6 +80,7 @@ class MainWindow : public QMainWindow {
   MainMenu menu_{};
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
+  KeepingLog* log_ = nullptr;
   QTimer session_;
   Subscription asking_;
   QLabel* caret_ = nullptr;

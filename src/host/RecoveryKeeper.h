@@ -25,6 +25,8 @@ class RecoveryKeeper : public QObject {
   /// `folder` is that of all runs.
   RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent);
 
+  /// Notes when texts are kept; null: nothing. It outlives this.
+  void LogTo(KeepingLog* log) { store_.LogTo(log); }
   /// Waits until every modified text is on the disk. Returns false when one could not be kept.
   bool KeepNow();
   /// The program ends normally.

@@ -1,6 +1,8 @@
 // Zanth Manager: a window around the control.
 #include <QApplication>
 #include <QIcon>
+#include <cstdlib>
+#include <memory>
 #include <optional>
 
 #include "automation/BusAddress.h"
@@ -16,6 +18,7 @@
 #include "qt/services/QtMessageBox.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/DiskState.h"
+#include "safekeeping/KeepingLog.h"
 #include "words/StarterWords.h"
 
 namespace tessel {
@@ -48,6 +51,16 @@ bool TakePicture(MainWindow& window, const std::string& file) {
   return false;
 }
 
+/// The log that $ZANTHMAN_LOG names, or null.
+std::unique_ptr<KeepingLog> WantedLog() try {
+  const char* path = std::getenv("ZANTHMAN_LOG");
+  if (path == nullptr || *path == '\0') return nullptr;
+  return std::make_unique<KeepingLog>(path);
+} catch (const posix::FileProblem& problem) {
+  TellOnStandardError(std::string("no log is written: ") + problem.what());
+  return nullptr;
+}
+
 int Run(const Options& options) {
   const bool picture = !options.screenshot.empty();
   FallbackSettingsStore settings(options.store, [picture](const std::string& problem) {
@@ -64,6 +77,7 @@ int Run(const Options& options) {
   GuardedFiles files(keptFiles);
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);
 
+  const std::unique_ptr<KeepingLog> log = WantedLog();
   OfferStarterWords(settings, files, options.hostDirectory + "/words.txt");
   MainWindow window(services, desktop.widgets, files);
   window.resize(options.size.value_or(kDefaultSize));
@@ -83,6 +97,7 @@ int Run(const Options& options) {
   if (!picture) {
     window.StartSession();
     window.KeepUnsavedText(state + "/recovery");
+    if (log) window.LogTo(*log);
     abruptEnd.emplace([&window] { window.KeepEverything(); });
   }
   window.OpenFiles(options.files);

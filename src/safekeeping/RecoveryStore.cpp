@@ -131,7 +131,9 @@ RecoveryStore::~RecoveryStore() {
 
 void RecoveryStore::Keep(Id id, std::string path, std::string bytes) {
   const std::size_t size = bytes.size();
-  Give(id, {true, {std::move(path), SecondsNow(), size}, std::move(bytes)});
+  Order order{true, {std::move(path), SecondsNow(), size}, std::move(bytes)};
+  if (KeepingLog* log = log_) order.logged = log->Taken();
+  Give(id, std::move(order));
 }
 
 void RecoveryStore::Drop(Id id) { Give(id, {}); }
@@ -263,6 +265,7 @@ void RecoveryStore::Carry(Id id, const Order& order) {
   UseFolder();
   if (!order.keep) return folder_->Remove(NameOf(id));
   WriteKeptText(*folder_, NameOf(id), order.text, order.bytes);
+  if (KeepingLog* log = log_) log->Kept(order.logged);
 }
 
 // --- Runs that ended without asking

@@ -1,6 +1,7 @@
 // Unsaved texts, kept on disk for the case that the program ends without asking.
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <functional>
@@ -13,6 +14,7 @@
 #include <thread>
 #include <vector>
 
+#include "safekeeping/KeepingLog.h"
 #include "safekeeping/KeptText.h"
 
 namespace tessel {
@@ -40,6 +42,9 @@ class RecoveryStore {
   /// The same, but not before the text with the number `by`, which holds what this one held, is on
   /// the disk.
   void DropReplaced(Id id, Id by);
+  /// Notes from now on when texts are taken and when they are kept; null: nothing. It outlives
+  /// this.
+  void LogTo(KeepingLog* log) { log_ = log; }
   /// Waits until everything is on the disk. Returns false when something could not be kept.
   bool Flush();
   /// The program ends normally: nothing that is kept here is needed any more, but for these.
@@ -55,6 +60,7 @@ class RecoveryStore {
     KeptText text;
     std::string bytes;
     std::optional<Id> after = {};  // the order that is to be carried out first
+    int logged = 0;                // its number in the log
   };
 
   void MakeFolder();
@@ -68,6 +74,7 @@ class RecoveryStore {
 
   std::string parent_;
   std::chrono::milliseconds patience_;
+  std::atomic<KeepingLog*> log_ = nullptr;
 
   // Of the thread, while there is one.
   std::string path_;
