@@ -6,6 +6,7 @@
 #include "base/RuntimeError.h"
 #include "documents/RecentFiles.h"
 #include "documents/Templates.h"
+#include "documents/UnfinishedDocument.h"
 #include "services/Paths.h"
 #include "surface/Parked.h"
 #include "text/Text.h"
@@ -86,9 +87,11 @@ void Documents::NewFromTemplate(const std::string& code) {
   if (ReportMissing(path)) return;
   PreparedText text = ReadDocument(uses_.files, path);
 
+  UnfinishedDocument unfinished(uses_.list);
   const Document document = PrepareSlot(kUntitled);
   document.BecomeUntitled();
   document.Editor().LoadFile(path, std::move(text));
+  unfinished.Finish();
   {
     const Parked parked(document.Editor(), Parked::Left::kParked);
     uses_.applyColourMode();  // of the document that is still the current one
@@ -112,11 +115,13 @@ void Documents::OpenFile(const std::string& named) {
   }
   PreparedText text = ReadDocument(uses_.files, path);
 
+  UnfinishedDocument unfinished(uses_.list);
   const Document document = PrepareSlot(name);
   document.BelongTo(path, name);
   {
     const Parked parked(document.Editor(), Parked::Left::kParked);
     document.Editor().LoadFile(path, std::move(text));
+    unfinished.Finish();
     SetColourMode(document.Editor(), ColourMode::kPlain);
     uses_.applyColourMode();  // of the document that is still the current one
     AddRecentFile(uses_.tbToolBar, uses_.settings, name, path);
@@ -203,10 +208,12 @@ void Documents::ShowAsUntitled(const std::string& text) {
   const Document start = uses_.list.At(Slot{0});
   const bool unused = uses_.list.Count() == 1 && start.IsFree() && !start.Modified() &&
                       start.Editor().Length() == 0;
+  UnfinishedDocument unfinished(uses_.list);
   const Document document = unused ? start : uses_.list.At(uses_.list.LoadNewEditor());
   if (!unused) uses_.list.AddDocumentTab(kUntitled);
   document.BecomeUntitled();
   document.Editor().LoadFile(kUntitled, text);
+  unfinished.Finish();
   SetColourMode(document.Editor(), ColourMode::kPlain);
   uses_.list.Select(document.Place());
   document.SetModified(true);

@@ -37,12 +37,13 @@ void Document::BecomeFree() const {
   controls_->tbsRtb.SetTabTag(tab, "");
 }
 
-void Document::TakeTabOf(const Document& other) const {
-  const int tab = Number(TabOf(slot_));
-  const Tab& next = other.TabAt();
-  controls_->tbsRtb.SetTabCaption(tab, next.caption);
-  controls_->tbsRtb.SetTabImage(tab, next.image);
-  controls_->tbsRtb.SetTabTag(tab, next.tag);
+void Document::TakeTabOf(const Document& other) const { PutTab(other.TabAt()); }
+
+void Document::PutTab(const Tab& tab) const {
+  const int number = Number(TabOf(slot_));
+  controls_->tbsRtb.SetTabCaption(number, tab.caption);
+  controls_->tbsRtb.SetTabImage(number, tab.image);
+  controls_->tbsRtb.SetTabTag(number, tab.tag);
 }
 
 void Document::BringToFront() const {

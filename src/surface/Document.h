@@ -58,6 +58,9 @@ class Document {
   void SetModified(bool modified) const;
   /// Nobody's any more: no name, no path, no marker.
   void BecomeFree() const;
+  /// What its tab says, and puts it there again.
+  Tab TabNow() const { return TabAt(); }
+  void PutTab(const Tab& tab) const;
   /// Takes name, path and marker over from another document.
   void TakeTabOf(const Document& other) const;
   /// Puts its editor into the host of the editors, or out of sight.

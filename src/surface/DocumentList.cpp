@@ -44,4 +44,9 @@ void DocumentList::RemoveLast() const {
   controls_.tbsRtb.Remove(Count());
 }
 
+void DocumentList::RemoveBeyond(int count) const {
+  while (controls_.rtbCon.Count() > count) controls_.rtbCon.UnloadLast();
+  while (Count() > count) controls_.tbsRtb.Remove(Count());
+}
+
 }  // namespace tessel

@@ -59,6 +59,8 @@ class DocumentList {
   void AddDocumentTab(const std::string& name) const;
   /// Takes the last document's editor and tab away.
   void RemoveLast() const;
+  /// Takes editors and tabs away of which there are more than that: a new document that failed.
+  void RemoveBeyond(int count) const;
 
  private:
   HostedControls& controls_;

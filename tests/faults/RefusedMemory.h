@@ -1,0 +1,18 @@
+// Memory that is refused, to one allocation of this program.
+#pragma once
+
+namespace tessel::test {
+
+/// The sanitizers have a memory of their own.
+#ifdef TESSEL_SANITIZED
+inline constexpr bool kMemoryCanBeRefused = false;
+#else
+inline constexpr bool kMemoryCanBeRefused = true;
+#endif
+
+/// The allocation of that number from now on, counted from 1, gets nothing; later ones do.
+void RefuseMemoryOnce(long allocation);
+/// Whether it came to that. There is memory for all from here on.
+bool MemoryWasRefused();
+
+}  // namespace tessel::test
