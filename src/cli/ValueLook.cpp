@@ -4,6 +4,7 @@
 
 #include "language/Statement.h"
 #include "text/SafeText.h"
+#include "text/TextSearch.h"
 
 namespace tessel::cli {
 namespace {
@@ -16,55 +17,46 @@ std::string UseLine(std::int64_t line) { return "use --line " + std::to_string(l
 
 }  // namespace
 
-ValueLook::ValueLook(std::string_view bytes)
-    : script_(bytes), definitions_(language::Definitions(script_)) {}
+ValueLook::ValueLook(std::string_view bytes) : script_(bytes), index_(script_) {}
 
 ValueLook::~ValueLook() = default;
 
 std::optional<WantedItem> ValueLook::Find(const std::string& name) const {
   if (auto item = FindPanelItem(name)) return WantedItem{item, item->name, item->define};
   const auto bytes = FromTerminal(name);
-  const auto defined = bytes ? DefinitionsOf(*bytes) : std::vector<Definition>();
+  const auto defined = bytes ? index_.Of(*bytes) : std::vector<Definition>();
   if (defined.empty()) return std::nullopt;
   const std::string define(TextOf(defined.front().name));
   return WantedItem{std::nullopt, ToUtf8(define), define};
 }
 
 std::vector<std::string> ValueLook::Names() const {
-  std::vector<std::string> names;
+  std::vector<std::string> names = index_.Names();
   for (const PanelItem& item : PanelItems()) {
     names.push_back(item.name);
     names.push_back(item.define);
   }
-  for (const Definition& definition : definitions_)
-    names.push_back(ToUtf8(TextOf(definition.name)));
   std::ranges::sort(names);
   const auto repeated = std::ranges::unique(names);
   names.erase(repeated.begin(), repeated.end());
   return names;
 }
 
-std::vector<Definition> ValueLook::DefinitionsOf(const std::string& name) const {
-  std::vector<Definition> found;
-  std::ranges::copy_if(definitions_, std::back_inserter(found), [&](const Definition& definition) {
-    return language::SameName(TextOf(definition.name), name);
-  });
-  return found;
-}
-
 std::vector<Definition> ValueLook::DefinitionsOf(const WantedItem& item) const {
-  std::vector<Definition> found = DefinitionsOf(item.define);
-  if (!found.empty() || !item.panel || !item.panel->byBeginning) return found;
-  std::ranges::copy_if(definitions_, std::back_inserter(found), [&](const Definition& definition) {
-    return language::SameName(TextOf(definition.name).substr(0, item.define.size()), item.define);
-  });
-  return found;
+  std::vector<Definition> found = index_.Of(item.define);
+  const bool byBeginning = item.panel && item.panel->byBeginning;
+  return found.empty() && byBeginning ? index_.Beginning(item.define) : found;
 }
 
-std::optional<Range> ValueLook::ShownByPanel(const PanelItem& item) {
-  if (!panel_) {
-    panel_ = std::make_unique<DocumentSession>();
-    panel_->Show(std::string(script_.Text()));
+std::optional<Range> ValueLook::ShownByPanel(const PanelItem& item, Position end) {
+  if (!panel_) panel_ = std::make_unique<DocumentSession>();
+  if (end > panelEnd_) {
+    // Lines end with LF for the panel. So much more each time keeps the whole work small.
+    const std::string_view text = script_.Text();
+    const auto wanted = std::min(text.size(), static_cast<std::size_t>(end + panelEnd_));
+    const std::size_t length = std::min(text.find('\n', wanted), text.size() - 1) + 1;
+    panel_->Show(std::string(text.substr(0, length)));
+    panelEnd_ = static_cast<Position>(length);
   }
   if (!ReadItem(*panel_, item)) return std::nullopt;
   const RichTextBox& editor = panel_->Editor();
@@ -94,34 +86,35 @@ LookedAt ValueLook::OnlyComplete(const Definition& definition) const {
   return {definition.value, line, name, {}};
 }
 
-/// Why the panel's hit is no value.
-LookedAt ValueLook::NotShown(const std::vector<Definition>& definitions,
+/// What stands at a name that is nowhere defined.
+LookedAt ValueLook::OnlyMentioned(const std::string& name) const {
+  const Position at = FindText(script_.Text(), name, 0, script_.Length(), kFindWholeWord);
+  if (at == kNotFound) return {};
+  const std::int64_t line = LineOf(at);
+  return {{}, line, {}, InLine(line) + WhatIsAt(at) + "; there is no define line"};
+}
+
+/// Why the panel's hit is not the define's value.
+LookedAt ValueLook::NotShown(const Definition& definition,
                              const std::optional<Range>& shown) const {
-  if (definitions.empty()) {
-    if (!shown) return {};
-    const std::int64_t line = LineOf(shown->begin);
-    return {{}, line, {}, InLine(line) + WhatIsAt(shown->begin) + "; there is no define line"};
-  }
-  const Definition& definition = definitions.front();
   const std::int64_t line = LineOf(definition.keyword.begin);
-  if (!shown)
-    return {{}, line, {}, InLine(line) + " is one that the panel does not find: " + UseLine(line)};
-  const std::int64_t hit = LineOf(shown->begin);
-  if (hit != line) {
-    return {{},
-            line,
-            {},
-            InLine(hit) + WhatIsAt(shown->begin) + "; the define is in " + InLine(line) + ": " +
-                UseLine(line)};
+  const std::int64_t hit = shown ? LineOf(shown->begin) : line;
+  std::string reason;
+  if (!shown) {
+    reason = InLine(line) + " is one that the panel does not find: ";
+  } else if (hit != line) {
+    reason = InLine(hit) + WhatIsAt(shown->begin) + "; the define is in " + InLine(line) + ": ";
+  } else if (definition.hasTab) {
+    reason = InLine(line) + " has a tab, which the panel takes for part of the value: ";
+  } else {
+    reason = InLine(line) + " is read by the panel otherwise: ";
   }
-  const char* reason = definition.hasTab
-                           ? " has a tab, which the panel takes for part of the value: "
-                           : " is read by the panel otherwise: ";
-  return {{}, line, {}, InLine(line) + reason + UseLine(line)};
+  return {{}, line, {}, reason + UseLine(line)};
 }
 
 LookedAt ValueLook::LookAt(const WantedItem& item) {
   const std::vector<Definition> definitions = DefinitionsOf(item);
+  if (definitions.empty()) return OnlyMentioned(item.define);
   if (definitions.size() > 1) {
     const std::int64_t first = LineOf(definitions[0].keyword.begin);
     const std::int64_t second = LineOf(definitions[1].keyword.begin);
@@ -131,13 +124,11 @@ LookedAt ValueLook::LookAt(const WantedItem& item) {
             "it is defined in " + InLine(first) + " and again in " + InLine(second) +
                 ": say which, with --line"};
   }
-  if (!item.panel) return OnlyComplete(definitions.front());
-  const auto shown = ShownByPanel(*item.panel);
-  if (definitions.size() == 1) {
-    LookedAt looked = OnlyComplete(definitions.front());
-    if (!looked.value || looked.value == shown) return looked;
-  }
-  return NotShown(definitions, shown);
+  const Definition& definition = definitions.front();
+  LookedAt looked = OnlyComplete(definition);
+  if (!looked.value || !item.panel) return looked;
+  const auto shown = ShownByPanel(*item.panel, definition.end);
+  return looked.value == shown ? looked : NotShown(definition, shown);
 }
 
 LookedAt ValueLook::LookAtLine(const WantedItem& item, std::int64_t line) const {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/DefineIndex.h"
 #include "cli/PanelItems.h"
 #include "language/Definitions.h"
 #include "language/Script.h"
@@ -31,7 +32,8 @@ struct LookedAt {
 };
 
 /// One text with all its define lines. For items of the panel it asks the panel itself what it
-/// would show: the first hit in the text, which may stand in a comment or in a list.
+/// would show: the first hit in the text, which may stand in a comment or in a list. The panel is
+/// shown the text as far as the define line: what stands behind it cannot be the first hit.
 class ValueLook {
  public:
   /// The bytes outlive it.
@@ -52,18 +54,19 @@ class ValueLook {
   std::string_view TextOf(language::Range range) const { return script_.Text(range); }
 
  private:
-  std::vector<language::Definition> DefinitionsOf(const std::string& name) const;
   std::vector<language::Definition> DefinitionsOf(const WantedItem& item) const;
-  std::optional<language::Range> ShownByPanel(const PanelItem& item);
+  std::optional<language::Range> ShownByPanel(const PanelItem& item, Position end);
   std::int64_t LineOf(Position offset) const { return script_.PlaceOf(offset).line; }
   std::string WhatIsAt(Position offset) const;
   LookedAt OnlyComplete(const language::Definition& definition) const;
-  LookedAt NotShown(const std::vector<language::Definition>& definitions,
+  LookedAt OnlyMentioned(const std::string& name) const;
+  LookedAt NotShown(const language::Definition& definition,
                     const std::optional<language::Range>& shown) const;
 
   language::Script script_;
-  std::vector<language::Definition> definitions_;
+  DefineIndex index_;
   std::unique_ptr<DocumentSession> panel_;  // as soon as it is asked
+  Position panelEnd_ = 0;                   // how far the text is that it shows
 };
 
 }  // namespace tessel::cli

@@ -137,9 +137,18 @@ TEST_F(CommandLineAnyDefine, IsNotTakenFromALineThatHasAnother) {
 
 TEST_F(CommandLineAnyDefine, IsNotTakenForAnItemWhoseNameItOnlyContains) {
   Put("User.con", "define MYQSIZE 5\r\ndefine QSIZES 6\r\n");
-  ExpectRefusal({"get", "User.con", "QSIZE"},
-                "User.con: Bullet Holes, Blood, Money: line 1 defines MYQSIZE; there is no define "
-                "line.");
+  ExpectRefusal({"get", "User.con", "QSIZE"}, "User.con does not define QSIZE.");
+}
+
+TEST_F(CommandLineAnyDefine, IsFoundBehindMuchText) {
+  std::string text = "define MAXPLAYERHEALTH 1\r\n";
+  for (int i = 0; i < 5000; ++i) text += "define FILLER" + std::to_string(i) + " 0 // define\r\n";
+  text += "define QSIZE 64\r\ndefine THAWTIME 5";
+  Put("User.con", text);
+  EXPECT_EQ(OutputOf({"get", "User.con", "QSIZE"}), "64\n");
+  EXPECT_EQ(
+      OutputOf({"set", "User.con", "THAWTIME=6", "MAXPLAYERHEALTH=2", "QSIZE=7"}),
+      With(With(With(text, "HEALTH 1", "HEALTH 2"), "QSIZE 64", "QSIZE 7"), "TIME 5", "TIME 6"));
 }
 
 class CommandLineNumbers : public CommandLineTest {};

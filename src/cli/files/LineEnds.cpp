@@ -66,7 +66,8 @@ std::string WithLineEnds(std::string_view text, LineEnd lineEnd) {
     result += BytesOf(lineEnd);
     from = found.at + found.length;
   }
-  return result.append(text.substr(from));
+  result += text.substr(from);
+  return result;
 }
 
 }  // namespace tessel::cli

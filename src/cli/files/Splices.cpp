@@ -16,7 +16,8 @@ std::string Spliced(std::string_view text, std::vector<Splice> splices) {
     result += splice.text;
     from = splice.range.end;
   }
-  return result.append(language::Slice(text, {from, std::ssize(text)}));
+  result += language::Slice(text, {from, std::ssize(text)});
+  return result;
 }
 
 }  // namespace tessel::cli
