@@ -37,12 +37,17 @@ std::optional<LineEnd> LineEnds::Only() const {
 }
 
 LineEnds LineEndsOf(std::string_view text) {
-  LineEnds ends;
-  for (Break found = NextBreak(text, 0); found.length != 0;
-       found = NextBreak(text, found.at + found.length)) {
-    ++(found.length == 2 ? ends.crLf : text[found.at] == '\n' ? ends.lf : ends.cr);
+  std::size_t crs = 0;
+  std::size_t lfs = 0;
+  std::size_t pairs = 0;
+  char before = '\0';
+  for (const char c : text) {
+    crs += c == '\r' ? 1U : 0U;
+    lfs += c == '\n' ? 1U : 0U;
+    pairs += c == '\n' && before == '\r' ? 1U : 0U;
+    before = c;
   }
-  return ends;
+  return {.crLf = pairs, .lf = lfs - pairs, .cr = crs - pairs};
 }
 
 const char* NameOf(LineEnd lineEnd) {
@@ -66,8 +71,7 @@ std::string WithLineEnds(std::string_view text, LineEnd lineEnd) {
     result += BytesOf(lineEnd);
     from = found.at + found.length;
   }
-  result += text.substr(from);
-  return result;
+  return result.append(text.substr(from));
 }
 
 }  // namespace tessel::cli

@@ -1,0 +1,34 @@
+#include <gtest/gtest.h>
+
+#include "cli/files/LineEnds.h"
+
+namespace tessel::cli {
+namespace {
+
+TEST(LineEnds, AreCountedByKind) {
+  const LineEnds ends = LineEndsOf("a\r\nb\nc\r\rd\r\n\n");
+  EXPECT_EQ(ends.crLf, 2U);
+  EXPECT_EQ(ends.lf, 2U);
+  EXPECT_EQ(ends.cr, 2U);
+  EXPECT_TRUE(ends.Mixed());
+  EXPECT_EQ(ends.Only(), std::nullopt);
+}
+
+TEST(LineEnds, AreOfOneKindOrOfNone) {
+  EXPECT_EQ(LineEndsOf("a\r\nb\r\n").Only(), LineEnd::kCrLf);
+  EXPECT_EQ(LineEndsOf("\n").Only(), LineEnd::kLf);
+  EXPECT_EQ(LineEndsOf("a\rb").Only(), LineEnd::kCr);
+  EXPECT_EQ(LineEndsOf("abc").Only(), std::nullopt);
+  EXPECT_FALSE(LineEndsOf("abc").Mixed());
+}
+
+TEST(LineEnds, AreWrittenAsOneKind) {
+  const std::string text = "a\r\nb\nc\r\rd\r\n\n";
+  EXPECT_EQ(WithLineEnds(text, LineEnd::kLf), "a\nb\nc\n\nd\n\n");
+  EXPECT_EQ(WithLineEnds(text, LineEnd::kCr), "a\rb\rc\r\rd\r\r");
+  EXPECT_EQ(WithLineEnds(text, LineEnd::kCrLf), "a\r\nb\r\nc\r\n\r\nd\r\n\r\n");
+  EXPECT_EQ(WithLineEnds("", LineEnd::kLf), "");
+}
+
+}  // namespace
+}  // namespace tessel::cli
