@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/ChildProcess.h"
 #include "support/RunProgram.h"
 #include "support/TempDirectory.h"
 
@@ -53,6 +54,43 @@ TEST_F(HostProgram, WritesDownWhatABoxWouldHaveSaid) {
   EXPECT_EQ(Start({"--screenshot", picture, directory / "none.con"}), 1);
   EXPECT_TRUE(Said("zanth-manager: File " + directory / "none.con" + " not found."))
       << BytesOf(errors);
+}
+
+// As an ordinary user, from a folder that this user could write to.
+TEST_F(HostProgram, WritesNothingIntoTheWorkingFolderWhateverTheHome) {
+  const TempDirectory work;
+  const std::string locked = directory / "locked";
+  std::filesystem::create_directory(locked);
+  ::chmod(locked.c_str(), 0555);
+  for (const auto& folder : {directory.Path(), work.Path()}) GiveToOrdinaryUser(folder);
+  using Variables = std::vector<std::pair<const char*, const char*>>;
+  const std::vector<Variables> homes = {
+      {{"HOME", nullptr}},
+      {{"HOME", ""}},
+      {{"HOME", "home"}},
+      {{"HOME", "/no/such/home"}},
+      {{"HOME", locked.c_str()}},
+      {{"HOME", nullptr}, {"XDG_STATE_HOME", "state"}, {"XDG_CONFIG_HOME", "config"}},
+      {{"HOME", "/"}, {"XDG_STATE_HOME", "/proc/none"}, {"XDG_CONFIG_HOME", "./config"}},
+  };
+  for (const Variables& home : homes) {
+    SCOPED_TRACE(home[0].second == nullptr ? "no HOME" : home[0].second);
+    const int status = RunProgram(TESSEL_HOST_PROGRAM, {"--screenshot", picture, user}, [&] {
+      for (const char* name : {"HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME", "ZANTHMAN_STORE"}) {
+        ::unsetenv(name);
+      }
+      for (const auto& [name, value] : home) {
+        if (value != nullptr) ::setenv(name, value, 1);
+      }
+      ::setenv("XDG_RUNTIME_DIR", directory.Path().c_str(), 1);
+      ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+      BecomeOrdinaryUser();
+      return ::chdir(work.Path().c_str()) == 0 && std::freopen("/dev/null", "w", stderr) != nullptr;
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(std::filesystem::remove(picture));
+    EXPECT_TRUE(work.Names().empty()) << work.Names()[0];
+  }
 }
 
 TEST_F(HostProgram, SaysThatTheSettingsStoreCannotBeUsed) {
