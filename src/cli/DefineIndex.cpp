@@ -45,8 +45,10 @@ Definition DefineIndex::At(const Entry& entry) const {
 
 std::vector<Definition> DefineIndex::Of(std::string_view name) const {
   std::vector<Definition> found;
-  for (const Entry& entry : std::ranges::equal_range(entries_, HashOf(name), {}, &Entry::hash)) {
-    const Definition definition = At(entry);
+  const std::uint64_t hash = HashOf(name);
+  const auto first = std::ranges::lower_bound(entries_, hash, {}, &Entry::hash);
+  for (auto entry = first; entry != entries_.end() && entry->hash == hash; ++entry) {
+    const Definition definition = At(*entry);
     if (language::SameName(script_.Text(definition.name), name)) found.push_back(definition);
   }
   return found;
@@ -68,8 +70,7 @@ std::vector<std::string> DefineIndex::Names() const {
   names.reserve(entries_.size());
   for (const Entry& entry : entries_) names.push_back(ToUtf8(script_.Text(At(entry).name)));
   std::ranges::sort(names);
-  const auto repeated = std::ranges::unique(names);
-  names.erase(repeated.begin(), repeated.end());
+  names.erase(std::unique(names.begin(), names.end()), names.end());
   return names;
 }
 

@@ -37,8 +37,7 @@ std::vector<std::string> ValueLook::Names() const {
     names.push_back(item.define);
   }
   std::ranges::sort(names);
-  const auto repeated = std::ranges::unique(names);
-  names.erase(repeated.begin(), repeated.end());
+  names.erase(std::unique(names.begin(), names.end()), names.end());
   return names;
 }
 
