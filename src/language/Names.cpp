@@ -49,6 +49,11 @@ bool CanBeName(Keyword keyword, int word) {
   }
 }
 
+bool IsWordOrBrace(const Token& token) {
+  return token.kind == TokenKind::kWord || token.kind == TokenKind::kOpenBrace ||
+         token.kind == TokenKind::kCloseBrace;
+}
+
 /// Goes through the words of a script from front to back; leaps over what nobody asks for.
 class WordCursor {
  public:
@@ -61,7 +66,7 @@ class WordCursor {
       token_ = reader_.Next();
     }
     while (token_.range.end <= range.begin) token_ = reader_.Next();
-    return token_.kind == TokenKind::kWord && token_.range == range;
+    return IsWordOrBrace(token_) && token_.range == range;
   }
 
  private:
@@ -145,10 +150,7 @@ std::optional<Range> WordAt(const Script& script, Position offset) {
   std::optional<Range> before;
   for (Token token = reader.Next(); token.kind != TokenKind::kEnd && token.range.begin <= offset;
        token = reader.Next()) {
-    if (token.kind != TokenKind::kWord && token.kind != TokenKind::kOpenBrace &&
-        token.kind != TokenKind::kCloseBrace) {
-      continue;
-    }
+    if (!IsWordOrBrace(token)) continue;
     if (token.range.Contains(offset)) return token.range;
     if (token.range.end == offset) before = token.range;
   }

@@ -108,6 +108,10 @@ TEST(Uses, AreNoKeywords) {
   EXPECT_EQ(UsesIn("state a {}\nends", "{"), "state a {}\nends");
 }
 
+TEST(Uses, MayBeABraceThatADefineTakesForItsName) {
+  EXPECT_EQ(UsesIn("define } 1\n}", "}"), "define [}=] 1\n}");
+}
+
 TEST(Uses, AreFoundInFrontOfTheFirstStatement) {
   EXPECT_EQ(UsesIn("A x A\nends", "A"), "[A] x [A]\nends");
 }
