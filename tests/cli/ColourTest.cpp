@@ -48,7 +48,8 @@ TEST_F(CommandLineColour, KnowsItsFormats) {
 }
 
 /// What the program writes to a terminal.
-std::string OnTerminal(const std::string& directory, bool noColour) {
+std::string OnTerminal(const std::string& directory, std::vector<const char*> arguments,
+                       bool noColour) {
   const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY);
   if (terminal == -1 || ::grantpt(terminal) != 0 || ::unlockpt(terminal) != 0) return "no terminal";
   const int line = ::open(::ptsname(terminal), O_RDWR | O_NOCTTY);
@@ -61,7 +62,9 @@ std::string OnTerminal(const std::string& directory, bool noColour) {
       ::unsetenv("NO_COLOR");
     }
     if (::chdir(directory.c_str()) != 0) ::_exit(126);
-    ::execl(TESSEL_PROGRAM, "tessel", "colour", "short.con", nullptr);
+    arguments.insert(arguments.begin(), "tessel");
+    arguments.push_back(nullptr);
+    ::execv(TESSEL_PROGRAM, const_cast<char* const*>(arguments.data()));
     ::_exit(127);
   }
   ::waitpid(child, nullptr, 0);
@@ -74,8 +77,21 @@ std::string OnTerminal(const std::string& directory, bool noColour) {
 
 TEST_F(CommandLineColour, ColoursATerminalUnlessNoColorIsSet) {
   Put("short.con", "define A");
-  EXPECT_EQ(OnTerminal(Directory(), false), "\x1B[38;2;200;0;0mdefine\x1B[0m A");
-  EXPECT_EQ(OnTerminal(Directory(), true), "define A");
+  EXPECT_EQ(OnTerminal(Directory(), {"colour", "short.con"}, false),
+            "\x1B[38;2;200;0;0mdefine\x1B[0m A");
+  EXPECT_EQ(OnTerminal(Directory(), {"colour", "short.con"}, true), "define A");
+}
+
+TEST_F(CommandLineColour, ColoursDifferencesOnATerminalUnlessNoColorIsSet) {
+  Put("short.con", "define A 1 // \x1B[2J\r\n");
+  const std::vector<const char*> set = {"set", "short.con", "A=2", "--dry-run"};
+  // The terminal makes CR LF of each line feed.
+  const std::string coloured = OnTerminal(Directory(), set, false);
+  EXPECT_THAT(coloured, testing::HasSubstr("\x1B[31m-define A 1 // ?[2J\x1B[0m\r\n"
+                                           "\x1B[32m+define A 2 // ?[2J\x1B[0m\r\n"));
+  const std::string plain = OnTerminal(Directory(), set, true);
+  EXPECT_THAT(plain, testing::HasSubstr("-define A 1 // ?[2J\r\n+define A 2 // ?[2J\r\n"));
+  EXPECT_EQ(plain.find('\x1B'), std::string::npos);
 }
 
 }  // namespace
