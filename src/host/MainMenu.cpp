@@ -16,6 +16,8 @@ MainMenu BuildMainMenu(QMainWindow& window) {
   file->addSeparator();
   menu.reopen = file->addAction(QMainWindow::tr("&Reopen Documents at Start"));
   menu.reopen->setCheckable(true);
+  menu.automate = file->addAction(QMainWindow::tr("&Allow Automation by Other Programs"));
+  menu.automate->setCheckable(true);
   file->addSeparator();
   menu.quit = file->addAction(QMainWindow::tr("&Quit"));
   menu.quit->setShortcut(Qt::CTRL | Qt::Key_Q);

@@ -9,8 +9,9 @@ namespace tessel {
 /// The actions of the menu bar; the window connects them.
 struct MainMenu {
   QAction* open;
-  QAction* backups;  ///< disabled until there is a place for backups
-  QAction* reopen;   ///< checkable
+  QAction* backups;   ///< disabled until there is a place for backups
+  QAction* reopen;    ///< checkable
+  QAction* automate;  ///< checkable
   QAction* quit;
   QAction* about;
 };

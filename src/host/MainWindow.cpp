@@ -13,6 +13,7 @@
 #include "host/BackupsDialog.h"
 #include "host/ChangeNotice.h"
 #include "host/ConversionNotice.h"
+#include "host/HostAutomation.h"
 #include "host/ReadingNotice.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
@@ -136,6 +137,11 @@ void MainWindow::BuildMenu() {
   });
   connect(menu_.quit, &QAction::triggered, this, &QWidget::close);
   connect(menu_.about, &QAction::triggered, this, [this] { ShowAbout(this); });
+  menu_.automate->setChecked(AutomationWanted());
+  connect(menu_.automate, &QAction::toggled, this, [this](bool wanted) {
+    SetAutomationWanted(wanted);
+    emit automationWanted(wanted);
+  });
   const QSignalBlocker quietly(menu_.reopen);
   menu_.reopen->setChecked(ReopeningWanted());
 }

@@ -51,6 +51,10 @@ class MainWindow : public QMainWindow {
   /// Opens the documents of the last run, if the user wants that, and remembers those of this run.
   void StartSession();
 
+ signals:
+  /// The user wants other programs to use the control, or does not any more.
+  void automationWanted(bool wanted);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;

@@ -98,7 +98,8 @@ class Arguments {
         Absolute(parser_.isSet(hostDirectory_) ? Value(hostDirectory_) : DefaultHostDirectory());
     if (parser_.isSet(dark_)) options.scheme = ColourScheme::kDark;
     if (parser_.isSet(light_)) options.scheme = ColourScheme::kLight;
-    options.automation = parser_.isSet(automation_);
+    if (parser_.isSet(automation_)) options.automation = true;
+    if (parser_.isSet(noAutomation_)) options.automation = false;
     options.screenshot = Value(screenshot_);
     options.size = ReadSize(Value(size_));
     return options;
@@ -149,8 +150,7 @@ class Arguments {
                                  "FILE"};
   QCommandLineOption automation_{
       "automation", "let other programs use the editor, and say so when that cannot be"};
-  QCommandLineOption noAutomation_{"no-automation",
-                                   "let no other program use the editor, as without any option"};
+  QCommandLineOption noAutomation_{"no-automation", "let no other program use the editor"};
   QCommandLineOption size_{"size", "size of the window in pixels", "WxH"};
   QCommandLineParser parser_;
 };

@@ -89,10 +89,16 @@ int Run(const Options& options) {
   window.OfferBackups(backups);
   window.show();
   std::optional<HostAutomation> automation;
-  if (options.automation) {
-    automation.emplace(window.Control(),
-                       [](const QString& problem) { TellOnStandardError(problem.toStdString()); });
-  }
+  const auto automate = [&](bool wanted) {
+    automation.reset();
+    if (!wanted) return;
+    automation.emplace(window.Control(), [&window](const QString& problem) {
+      TellOnStandardError(problem.toStdString());
+      window.ShowNotice(problem);
+    });
+  };
+  automate(!picture && options.automation.value_or(AutomationWanted()));
+  QObject::connect(&window, &MainWindow::automationWanted, &window, automate);
   std::optional<AbruptEnd> abruptEnd;
   if (!picture) {
     window.StartSession();

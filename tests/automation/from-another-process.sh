@@ -151,9 +151,25 @@ for option in "" --no-automation; do
   [ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus, with \"$option\""
   kill $!
 done
+say "Offering what the user wants without an option"
+mkdir -p "$XDG_CONFIG_HOME/ZanthMan"
+wish=$XDG_CONFIG_HOME/ZanthMan/zanth-manager.conf
+printf '[automation]\nwanted=true\n' >"$wish"
+start "$work/x.con"
+wanted=$!
+await "the name of the program that was wanted" owned_by $name.instance$wanted $wanted
+kill $wanted
+before=$(clients)
+start --no-automation "$work/x.con"
+await "the program" runs_now $!
+[ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus against its option"
+kill $!
+
+say "Offering nothing for a picture"
 before=$(clients)
 "$program" --host-dir "$data" --screenshot "$work/picture.png" "$work/x.con" 2>"$work/picture.errors" || fail "no picture"
 [ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus for a picture"
+rm "$wish"
 grep '^zanth-manager:' "$work"/*.errors && fail "it complains"
 
 say "Asking for what cannot be"

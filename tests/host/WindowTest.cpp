@@ -3,12 +3,14 @@
 #include <QDropEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTreeWidget>
 #include <set>
 
 #include "HostFixture.h"
 #include "host/BackupsDialog.h"
+#include "host/HostAutomation.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
 #include "qt/editor/ScintillaView.h"
@@ -71,6 +73,20 @@ TEST_F(Window, TellsWhatItIs) {
 TEST_F(Window, QuitsFromTheMenu) {
   Run().MenuItem("&Quit")->trigger();
   EXPECT_FALSE(Run().window->isVisible());
+}
+
+TEST_F(Window, RemembersThatOtherProgramsMayUseIt) {
+  const auto item = [&] { return Run().MenuItem("&Allow Automation by Other Programs"); };
+  EXPECT_FALSE(AutomationWanted());
+  EXPECT_FALSE(item()->isChecked());
+  QSignalSpy wanted(Run().window.get(), &MainWindow::automationWanted);
+  item()->trigger();
+  EXPECT_EQ(wanted.takeFirst().at(0).toBool(), true);
+  Restart();
+  EXPECT_TRUE(AutomationWanted());
+  EXPECT_TRUE(item()->isChecked());
+  item()->trigger();
+  EXPECT_FALSE(AutomationWanted());
 }
 
 // --- Save writes into the document's own file, and its tab keeps its name
