@@ -405,6 +405,27 @@ TEST_F(ScintillaViewSystemClipboard, KeepsTheSelectionWhenThereIsAPictureAndNoTe
   EXPECT_EQ(model.Text(), "");
 }
 
+TEST_F(ScintillaViewSystemClipboard, KeepsTheSelectionWhenThereAreFilesOrAPageAndNoText) {
+  model.SetText("kept");
+  model.SetSelLength(4);
+  for (const char* format : {"x-special/gnome-copied-files", "text/html", "application/x-other"}) {
+    auto* data = new QMimeData;
+    data->setData(format, "copy\nfile:///etc/passwd");
+    QApplication::clipboard()->setMimeData(data);
+    EXPECT_THROW(Paste(model, clipboard), RuntimeError) << format;
+    EXPECT_EQ(model.Text(), "kept") << format;
+  }
+}
+
+TEST_F(ScintillaViewSystemClipboard, TakesTheTextThatIsBesideAPage) {
+  auto* data = new QMimeData;
+  data->setHtml("<b>two</b>");
+  data->setText("two\n");
+  QApplication::clipboard()->setMimeData(data);
+  Paste(model, clipboard);
+  EXPECT_EQ(model.Text(), "two\n");
+}
+
 /// What a program offers that takes its time to say that it has nothing.
 class SlowData : public QMimeData {
  public:
