@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Changes one line of the logic at a time and looks whether a test notices: scripts/mutate.py [COUNT [SEED]]
+"""Changes one line of the logic at a time and looks whether a test notices: scripts/mutate.py [COUNT [SEED [FOLDER...]]]
 
 The sources stay as they are: a mutant is a file of its own, compiled and linked in front of the library, first into
 the tests of its folder, then into those that use it. Prints every survivor, and the score at the end. MUTATE_BUILD
@@ -18,7 +18,8 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = pathlib.Path(os.environ.get("MUTATE_BUILD", ROOT / "build" / "mutate")).resolve()
-FOLDERS = ["control", "documents", "colouring", "tools", "words", "settings", "randomizer", "converter"]
+FOLDERS = ["control", "documents", "colouring", "tools", "words", "settings", "randomizer", "converter",
+           "safekeeping"]
 # After the tests of the folder itself come those that use it.
 NEIGHBOURS = {"control": ["documents", "settings"], "documents": ["control", "colouring"], "colouring": ["documents"],
               "settings": ["randomizer", "data"], "converter": ["data"]}
@@ -60,11 +61,11 @@ def programs_for(folder):
     return [f"test_{name}" for name in [folder, *NEIGHBOURS.get(folder, [])]]
 
 
-def prepare():
+def prepare(folders):
     if "MUTATE_BUILD" in os.environ:
         return
     BUILD.mkdir(parents=True, exist_ok=True)
-    programs = [f"test_{folder}" for folder in [*FOLDERS, "data"]]
+    programs = sorted({program for folder in folders for program in programs_for(folder)})
     if not run(["cmake", "-S", str(ROOT), "-B", str(BUILD), "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Debug",
                 "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DTESSEL_QT=OFF"]):
         sys.exit("The build cannot be configured.")
@@ -125,14 +126,15 @@ def judge(compiler, path, folder, number, line):
 def main():
     count = int(sys.argv[1]) if len(sys.argv) > 1 else 80
     seed = int(sys.argv[2]) if len(sys.argv) > 2 else 1
-    prepare()
+    folders = sys.argv[3:] or FOLDERS
+    prepare(folders)
     built = compile_commands()
-    everything = [(path, folder, *mutant) for folder in FOLDERS for path in sorted((ROOT / "src" / folder).glob("*.cpp"))
+    everything = [(path, folder, *mutant) for folder in folders for path in sorted((ROOT / "src" / folder).glob("*.cpp"))
                   if str(path) in built for mutant in mutants_of(path)]
     results = {"killed": 0, "survived": 0, "does not build": 0}
     with tempfile.TemporaryDirectory() as place, contextlib.suppress(KeyboardInterrupt):
         compiler = Compiler(place)
-        for program in {program for folder in FOLDERS for program in programs_for(folder)}:
+        for program in {program for folder in folders for program in programs_for(folder)}:
             if not compiler.link(program, mutated=False) or not compiler.passes(program):
                 sys.exit(f"{program} fails as it is.")
         print(f"{len(everything)} mutants, of which {count} are tried", flush=True)
