@@ -1,6 +1,6 @@
 #include "host/ConversionNotice.h"
 
-#include <ranges>
+#include <algorithm>
 #include <utility>
 
 #include "host/RestoredText.h"
@@ -79,11 +79,11 @@ void ConversionNotice::PutBack(RichTextBox& editor, const Before& before) {
   {
     const Parked parked(editor, Parked::Left::kInFront);
     // From the back: a selection cannot start between CR and LF, and starts too early there.
-    for (const ColourRun& run : before.colours | std::views::reverse) {
+    std::for_each(before.colours.rbegin(), before.colours.rend(), [&](const ColourRun& run) {
       editor.SetSelStart(run.start);
       editor.SetSelLength(run.start + run.length - editor.SelStart());
       editor.SetSelColor(run.colour);
-    }
+    });
   }
   editor.SetSelStart(before.caret);
 }

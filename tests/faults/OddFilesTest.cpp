@@ -10,6 +10,7 @@
 #include <string>
 #include <thread>
 
+#include "posix/Posix.h"
 #include "support/ChildProcess.h"
 #include "support/RealWorld.h"
 #include "support/TinyDisk.h"

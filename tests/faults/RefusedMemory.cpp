@@ -8,11 +8,11 @@ namespace {
 /// None while this is 0.
 long untilRefused = 0;
 
-bool Refused() { return untilRefused > 0 && --untilRefused == 0; }
-
 }  // namespace
 
 #ifndef TESSEL_SANITIZED
+
+static bool Refused() { return untilRefused > 0 && --untilRefused == 0; }
 
 void* operator new(std::size_t size) {
   if (Refused()) throw std::bad_alloc();
