@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <chrono>
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -42,13 +42,13 @@ class HostileStore : public testing::Test {
   /// A program starts with it: it says so at once and goes on in memory; the file stays.
   void ExpectRefusal(const std::string& reason) {
     const std::string before = BytesOf(path);
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     FallbackSettingsStore store(path, [&](const std::string& text) { reports.push_back(text); });
     EXPECT_THAT(store.GetAllSettings("s"), IsEmpty());
     store.SaveSetting("s", "other", "1");
     store.DeleteSetting("s", "key");
     EXPECT_EQ(store.GetSetting("s", "other"), "1");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+    EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
     EXPECT_THAT(reports, ElementsAre("Cannot use the settings store " + path + ": " + reason +
                                      ". Settings are kept in memory for now."));
     EXPECT_TRUE(BytesOf(path) == before);
@@ -128,10 +128,10 @@ TEST_F(HostileStore, ReadsNoViewThatComesLater) {
   RunSql(path, "DROP TABLE settings; CREATE VIEW settings AS " + std::string(kEndless) +
                    " SELECT n AS place, x'73' AS section, n AS key, n AS value, x'73' AS"
                    " section_folded, n AS key_folded FROM endless");
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   EXPECT_THROW(store.GetSetting("s", "key"), RuntimeError);
   EXPECT_THROW(store.GetAllSettings("s"), RuntimeError);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
 }
 
 // --- What is no harm
