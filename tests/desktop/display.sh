@@ -30,3 +30,12 @@ find_window() {
   xdotool windowfocus --sync "$window"
 }
 shows() { xdotool getwindowname "$window"; }
+
+# For sessions that set $program and $data: the window with these arguments, and what its title says.
+open_window() {
+  "$program" --light --size 1000x760 --host-dir "$data" "$@" 2>"$work/errors" &
+  pid=$!
+  find_window
+}
+modified() { [[ $(shows) == *'*'* ]]; }
+saved() { ! modified; }

@@ -13,13 +13,6 @@ file=$work/User.con
 cp "$data/zmuserp.dat" "$file"
 fail() { echo "$*" >&2; cat "$work/errors" >&2; exit 1; }
 wait_for() { for _ in $(seq 100); do "$@" && return; sleep 0.1; done; return 1; }
-open_window() {
-  "$program" --light --size 1000x760 --host-dir "$data" "$@" 2>"$work/errors" &
-  pid=$!
-  find_window
-}
-modified() { [[ $(shows) == *'*'* ]]; }
-saved() { ! modified; }
 kept() { grep -qrs 'every letter of it' "$work/state/ZanthMan/recovery"; }
 gone() { ! kill -0 "$pid" 2>/dev/null; }
 

@@ -17,14 +17,7 @@ cp "$data/zmuserp.dat" "$file"
 cp "$file" "$wanted"
 fail() { echo "round $round of $rounds, seed $seed: $*" >&2; cat "$work/errors" >&2; exit 1; }
 wait_for() { for _ in $(seq 200); do "$@" && return; sleep 0.05; done; return 1; }
-open_window() {
-  "$program" --light --size 1000x760 --host-dir "$data" "$@" 2>"$work/errors" &
-  pid=$!
-  find_window
-}
 open() { [[ $(shows) == user.con* || $(shows) == User.con* ]]; }
-modified() { [[ $(shows) == *'*'* ]]; }
-saved() { ! modified; }
 kept() { compgen -G "$work/state/ZanthMan/recovery/run-*/text-*" >/dev/null; }
 word() { printf '%d.%d ' "$round" "$1"; }
 
