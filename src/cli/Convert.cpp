@@ -11,12 +11,24 @@
 namespace tessel::cli {
 namespace {
 
+/// Bytes, more than a conversion inserts: so the text is never moved to a larger place.
+constexpr std::size_t kRoomForConversion = 65536;
+
+/// A string that has to grow takes twice its room; a new one takes what it is asked for.
+std::string WithRoom(std::string_view bytes) {
+  std::string roomy;
+  roomy.reserve(bytes.size() + kRoomForConversion);
+  roomy.append(bytes);
+  return roomy;
+}
+
 std::vector<StepResult> ConvertDocument(DocumentSession& session, const std::string& name) try {
   std::vector<StepResult> results;
   session.Run([&] {
     session.Control().Run([&] {
-      results = ConvertUserCon(session.Editor(), session.World().pointer, session.World().messages,
-                               [] {});
+      results = ConvertUserCon(
+          session.Editor(), session.World().pointer, session.World().messages, [] {},
+          AfterFailure::kAnything);
     });
   });
   return results;
@@ -70,9 +82,10 @@ bool Convert(const ConvertArguments& arguments) {
   const auto convert = [&](std::string bytes, FileReport& report) {
     const LineEnds own = LineEndsOf(bytes);
     DocumentSession session;
+    bytes = WithRoom(bytes);
     session.Show(std::move(bytes));
     ReportSteps(ConvertDocument(session, report.file), report);
-    std::string converted = session.Editor().Text();
+    std::string converted = session.Editor().TakeText();
     if (arguments.keepLineEnds) return InLineEndsOf(own, std::move(converted), report.file);
     NoteMixture(own, converted, report);
     return converted;

@@ -1,5 +1,6 @@
 #include "converter/Converter.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -36,8 +37,8 @@ std::vector<StepResult> Convert(RichTextBox& editor) {
 }  // namespace
 
 std::vector<StepResult> ConvertUserCon(RichTextBox& editor, ScreenPointer& pointer,
-                                       MessageBox& messages,
-                                       const std::function<void()>& converted) {
+                                       MessageBox& messages, const std::function<void()>& converted,
+                                       AfterFailure afterFailure) {
   const Hourglass hourglass(pointer);
   const ScopeGuard show([&] { editor.SetVisible(true); });
   const Position savedStart = editor.SelStart();
@@ -49,16 +50,19 @@ std::vector<StepResult> ConvertUserCon(RichTextBox& editor, ScreenPointer& point
     return {};
   }
 
-  RichTextBox::Snapshot before = editor.TakeSnapshot();
-  before.selStart = savedStart;
-  before.selLength = savedLength;
+  std::optional<RichTextBox::Snapshot> before;
+  if (afterFailure == AfterFailure::kTextFromBefore) {
+    before = editor.TakeSnapshot();
+    before->selStart = savedStart;
+    before->selLength = savedLength;
+  }
   std::vector<StepResult> results;
   {
     const Parked parked(editor, Parked::Left::kInFront);
     try {
       results = Convert(editor);
     } catch (...) {
-      editor.Restore(std::move(before));
+      if (before) editor.Restore(std::move(*before));
       throw;
     }
   }

@@ -10,15 +10,21 @@
 
 namespace tessel {
 
+/// What a document holds when its conversion has failed.
+enum class AfterFailure {
+  kTextFromBefore,  // a copy is kept meanwhile: text, colours, undo
+  kAnything,        // for a document that is thrown away then
+};
+
 /// Converts a document, a user file of the 1.3D dialect, into one of the 1.4/1.5 dialect
 /// and returns what each step did. Everything written is red; afterwards the caret is at 0, the
 /// editor is in front, and there is nothing to undo. `converted` runs then, to mark the document.
 ///
 /// A file that is converted already, or is no user file, is refused with a message; nothing but the
-/// selection changes, the caret stays, and the result is empty. A conversion that fails leaves the
-/// document exactly as it was and passes its RuntimeError on.
+/// selection changes, the caret stays, and the result is empty. A conversion that fails passes
+/// its RuntimeError on and leaves the document as `afterFailure` says.
 std::vector<StepResult> ConvertUserCon(RichTextBox& editor, ScreenPointer& pointer,
-                                       MessageBox& messages,
-                                       const std::function<void()>& converted);
+                                       MessageBox& messages, const std::function<void()>& converted,
+                                       AfterFailure afterFailure = AfterFailure::kTextFromBefore);
 
 }  // namespace tessel

@@ -37,6 +37,12 @@ void RichTextBox::SetText(PreparedText text) {
   Change.Raise();
 }
 
+std::string RichTextBox::TakeText() {
+  std::string text = store_.TakeBytes();
+  SetText("");
+  return text;
+}
+
 void RichTextBox::LoadFile(std::string fileName, PreparedText text) {
   Assign(fileName_, std::move(fileName));
   SetText(std::move(text));

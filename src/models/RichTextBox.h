@@ -84,6 +84,8 @@ class RichTextBox : public Control {
     Position selStart = 0;
     Position selLength = 0;
   };
+  /// Gives the text to the caller, without a copy, and leaves an empty one, as SetText does.
+  std::string TakeText();
   Snapshot TakeSnapshot() const { return {store_.TakeSnapshot(), selStart_, selLength_}; }
   /// Raises no Change.
   void Restore(Snapshot snapshot);

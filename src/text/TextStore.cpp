@@ -22,6 +22,18 @@ void TextStore::Assign(PreparedText text) {
   if (view_ != nullptr) view_->Replaced(0, before, Length());
 }
 
+std::string TextStore::TakeBytes() {
+  std::string bytes = std::move(bytes_);
+  const Position before = std::ssize(bytes);
+  bytes_ = {};
+  colours_ = {};
+  ++revision_;
+  palette_.assign(1, kBlack);
+  EmptyUndoBuffer();
+  if (view_ != nullptr) view_->Replaced(0, before, 0);
+  return bytes;
+}
+
 void TextStore::Replace(Position at, Position length, std::string_view inserted, Colour colour) {
   if (length == 0 && inserted.empty()) return;
   // What may throw comes first: without room nothing has changed.

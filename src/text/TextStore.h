@@ -24,7 +24,10 @@ class TextStoreView {
 
 /// A text with all the room that a store needs for it: a store takes it over without fail.
 struct PreparedText {
-  PreparedText(std::string text) : bytes(std::move(text)), colours(bytes.size(), '\0') {}
+  PreparedText(std::string text) : bytes(std::move(text)) {
+    colours.reserve(bytes.capacity());  // what has room to grow in has it for its colours
+    colours.resize(bytes.size());
+  }
   PreparedText(const char* text) : PreparedText(std::string(text)) {}
 
   std::string bytes;
@@ -43,6 +46,8 @@ class TextStore {
 
   /// Replaces everything; black; nothing to undo.
   void Assign(PreparedText text);
+  /// Gives the bytes to the caller, without a copy; the store is as empty as a new one.
+  std::string TakeBytes();
   /// Replaces a range by text of one colour and records it as an undo step of its own, or as part
   /// of the step that BeginStep opened or continued. Replacing nothing by nothing is no step.
   void Replace(Position at, Position length, std::string_view inserted, Colour colour);

@@ -1,4 +1,6 @@
 // Memory that ends, at any moment from before the start of the program to its end.
+#include <sys/resource.h>
+
 #include <algorithm>
 
 #include "cli/CommandLineTest.h"
@@ -41,6 +43,34 @@ TEST_P(CommandLineWithoutMemory, SaysSoAndEndsWithStatusOne) {
     ++told;
   }
   EXPECT_GE(told, 50);
+}
+
+TEST_F(CommandLineTest, NeedsNoMoreMemoryThanThreeTimesTheFile) {
+#ifdef TESSEL_SANITIZED
+  GTEST_SKIP() << "the sanitizers have a memory of their own";
+#endif
+  constexpr rlim_t kFile = 40'000'000;
+  constexpr rlim_t kProgram = 16'000'000;  // its libraries and stacks, mapped rather than used
+  std::string text = TemplateText("zmuser.dat");
+  while (text.size() < kFile) text += "define OTHERNAME 12  // of a mod\r\n";
+  Put("User.con", text);
+  const auto limited = [] {
+    const rlimit memory{3 * kFile + kProgram, 3 * kFile + kProgram};
+    ::setrlimit(RLIMIT_AS, &memory);
+  };
+  const std::vector<std::string> commands[] = {
+      {"get", "User.con", "MAXPLAYERHEALTH"},
+      {"set", "User.con", "MAXPLAYERHEALTH=5", "-o", "set.con"},
+      {"settings", "User.con"},
+      {"levels", "User.con"},
+      {"randomize", "User.con", "--section", "Player", "--lower", "1", "--upper", "5", "-o",
+       "random.con"},
+      {"convert", "User.con", "-o", "converted.con"},
+  };
+  for (const auto& command : commands) {
+    const Outcome outcome = Tessel(command, limited);
+    EXPECT_EQ(outcome.status, 0) << command.front() << ": " << outcome.err;
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(OnceAndForGood, CommandLineWithoutMemory, testing::Bool());

@@ -126,6 +126,19 @@ TEST(TextStore, NestsSteps) {
   EXPECT_EQ(store.Bytes(), "");
 }
 
+TEST(TextStore, GivesItsBytesAwayAndIsAsEmptyAsANewOne) {
+  TextStore store = StoreWith("abc");
+  store.Paint(0, 1, kRed);
+  store.Replace(3, 0, "d", kBlack);
+  const std::uint64_t revision = store.Revision();
+  EXPECT_EQ(store.TakeBytes(), "abcd");
+  EXPECT_EQ(store.Bytes(), "");
+  EXPECT_NE(store.Revision(), revision);
+  EXPECT_FALSE(store.CanUndo());
+  EXPECT_EQ(store.ColourIndices(), "");
+  EXPECT_EQ(store.Palette().size(), 1);
+}
+
 TEST(TextStore, GoesBackToASnapshot) {
   TextStore store = StoreWith("abc");
   store.Paint(0, 1, kRed);
