@@ -19,7 +19,7 @@ void TextStore::Assign(PreparedText text) {
   ++revision_;
   palette_.assign(1, kBlack);
   EmptyUndoBuffer();
-  if (view_ != nullptr) view_->Replaced(0, before, Length());
+  TellReset(before);
 }
 
 std::string TextStore::TakeBytes() {
@@ -30,7 +30,7 @@ std::string TextStore::TakeBytes() {
   ++revision_;
   palette_.assign(1, kBlack);
   EmptyUndoBuffer();
-  if (view_ != nullptr) view_->Replaced(0, before, 0);
+  TellReset(before);
   return bytes;
 }
 
@@ -40,6 +40,7 @@ void TextStore::Replace(Position at, Position length, std::string_view inserted,
   const char index = PaletteIndex(colour);
   MakeRoom(length, inserted);
   Step* step = stepStarted_ && !undo_.empty() ? &undo_.back() : nullptr;
+  TextEdit told{at, {}, inserted, step != nullptr};
   const bool continues = step != nullptr && length == 0 && !step->empty() &&
                          step->back().at + std::ssize(step->back().inserted) == at;
   if (continues) {
@@ -47,11 +48,11 @@ void TextStore::Replace(Position at, Position length, std::string_view inserted,
   } else {
     Edit edit{at, bytes_.substr(at, length), std::string(inserted)};
     if (step == nullptr) step = &undo_.emplace_back();
-    step->push_back(std::move(edit));
+    told.removed = step->emplace_back(std::move(edit)).removed;
   }
   redo_.clear();
   stepStarted_ = openSteps_ > 0;
-  Change(at, length, inserted, index);
+  Change(told, index);
 }
 
 void TextStore::MakeRoom(Position length, std::string_view inserted) {
@@ -62,12 +63,19 @@ void TextStore::MakeRoom(Position length, std::string_view inserted) {
   }
 }
 
-void TextStore::Change(Position at, Position length, std::string_view inserted, char colourIndex) {
-  MakeRoom(length, inserted);
-  bytes_.replace(at, length, inserted);
+void TextStore::Change(const TextEdit& edit, char colourIndex) {
+  const Position length = std::ssize(edit.removed);
+  MakeRoom(length, edit.inserted);
+  bytes_.replace(edit.at, length, edit.inserted);
   ++revision_;
-  colours_.replace(at, length, inserted.size(), colourIndex);
-  if (view_ != nullptr) view_->Replaced(at, length, std::ssize(inserted));
+  colours_.replace(edit.at, length, edit.inserted.size(), colourIndex);
+  if (view_ != nullptr) view_->Replaced(edit.at, length, std::ssize(edit.inserted));
+  Edited.Raise(edit);
+}
+
+void TextStore::TellReset(Position lengthBefore) {
+  if (view_ != nullptr) view_->Replaced(0, lengthBefore, Length());
+  Reset.Raise();
 }
 
 char TextStore::PaletteIndex(Colour colour) {
@@ -129,8 +137,8 @@ std::optional<Position> TextStore::Undo() {
   undo_.pop_back();
   Position caret = 0;
   for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
-    const Position length = std::ssize(edit->inserted);
-    Change(edit->at, length, edit->removed, PaletteIndex(InheritedColour(edit->at, length)));
+    const char colour = PaletteIndex(InheritedColour(edit->at, std::ssize(edit->inserted)));
+    Change({edit->at, edit->inserted, edit->removed, edit != step.rbegin()}, colour);
     caret = edit->at + std::ssize(edit->removed);
   }
   redo_.push_back(std::move(step));
@@ -143,8 +151,8 @@ std::optional<Position> TextStore::Redo() {
   redo_.pop_back();
   Position caret = 0;
   for (const Edit& edit : step) {
-    const Position length = std::ssize(edit.removed);
-    Change(edit.at, length, edit.inserted, PaletteIndex(InheritedColour(edit.at, length)));
+    const char colour = PaletteIndex(InheritedColour(edit.at, std::ssize(edit.removed)));
+    Change({edit.at, edit.removed, edit.inserted, &edit != step.data()}, colour);
     caret = edit.at + std::ssize(edit.inserted);
   }
   undo_.push_back(std::move(step));
@@ -169,7 +177,7 @@ void TextStore::Restore(Snapshot snapshot) {
   palette_ = std::move(snapshot.palette);
   undo_ = std::move(snapshot.undo);
   redo_ = std::move(snapshot.redo);
-  if (view_ != nullptr) view_->Replaced(0, before, Length());
+  TellReset(before);
 }
 
 }  // namespace tessel

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Event.h"
 #include "text/TextTypes.h"
 
 namespace tessel {
@@ -20,6 +21,15 @@ class TextStoreView {
   virtual void Replaced(Position at, Position removed, Position inserted) = 0;
   /// The bytes in [at, at + length) have a new colour.
   virtual void Painted(Position at, Position length) = 0;
+};
+
+/// One replacement in a text, for those who are told of it. The strings are there while they are
+/// told, and no longer.
+struct TextEdit {
+  Position at = 0;
+  std::string_view removed;
+  std::string_view inserted;
+  bool joins = false;  ///< it belongs to the same undo step as the one before
 };
 
 /// A text with all the room that a store needs for it: a store takes it over without fail.
@@ -83,6 +93,12 @@ class TextStore {
   /// The view to be told of changes, or null.
   void SetView(TextStoreView* view) { view_ = view; }
 
+  /// For those who follow the text beside the view. Both are raised in the midst of things, when
+  /// the bytes have changed: a handler looks and remembers, and changes nothing.
+  Event<const TextEdit&> Edited;
+  /// The text became another one as a whole.
+  Event<> Reset;
+
   /// The colour that text inserted over a range takes by itself: that of the first replaced
   /// character, else of the character before it, else black.
   Colour InheritedColour(Position at, Position length) const;
@@ -96,7 +112,8 @@ class TextStore {
   using Step = std::vector<Edit>;
 
   void MakeRoom(Position length, std::string_view inserted);
-  void Change(Position at, Position length, std::string_view inserted, char colourIndex);
+  void Change(const TextEdit& edit, char colourIndex);
+  void TellReset(Position lengthBefore);
   char PaletteIndex(Colour colour);
 
   std::string bytes_;

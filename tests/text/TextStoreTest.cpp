@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/RuntimeError.h"
@@ -16,21 +17,20 @@ using testing::IsEmpty;
 constexpr Colour kRed = 0x0000C8;
 constexpr Colour kGreen = 0x008000;
 
-TextStore StoreWith(std::string bytes) {
-  TextStore store;
-  store.Assign(std::move(bytes));
-  return store;
-}
+class StoreWith : public TextStore {
+ public:
+  explicit StoreWith(std::string bytes) { Assign(std::move(bytes)); }
+};
 
 TEST(TextStore, HoldsOneContiguousText) {
-  TextStore store = StoreWith("abc");
+  StoreWith store("abc");
   store.Replace(1, 1, "xyz", kBlack);
   EXPECT_EQ(store.Bytes(), "axyzc");
   EXPECT_EQ(store.Length(), 5);
 }
 
 TEST(TextStore, GivesMaximalRunsOfOneColour) {
-  TextStore store = StoreWith("abcdef");
+  StoreWith store("abcdef");
   EXPECT_THAT(store.Runs(0, 6), ElementsAre(ColourRun{0, 6, kBlack}));
   store.Paint(1, 2, kRed);
   store.Paint(3, 2, kRed);
@@ -41,7 +41,7 @@ TEST(TextStore, GivesMaximalRunsOfOneColour) {
 }
 
 TEST(TextStore, KnowsTheOneColourOfARange) {
-  TextStore store = StoreWith("abcd");
+  StoreWith store("abcd");
   store.Paint(1, 2, kRed);
   EXPECT_EQ(store.UniformColour(1, 2), kRed);
   EXPECT_EQ(store.UniformColour(0, 1), kBlack);
@@ -50,7 +50,7 @@ TEST(TextStore, KnowsTheOneColourOfARange) {
 }
 
 TEST(TextStore, InheritsTheColourOfTheReplacedTextElseOfTheOneBefore) {
-  TextStore store = StoreWith("abcd");
+  StoreWith store("abcd");
   store.Paint(0, 1, kRed);
   store.Paint(2, 1, kGreen);
   EXPECT_EQ(store.InheritedColour(2, 2), kGreen);
@@ -60,7 +60,7 @@ TEST(TextStore, InheritsTheColourOfTheReplacedTextElseOfTheOneBefore) {
 }
 
 TEST(TextStore, HoldsAtMost256ColoursAndStaysWholeBeyond) {
-  TextStore store = StoreWith("a");
+  StoreWith store("a");
   for (Colour colour = 1; colour < 256; ++colour) store.Paint(0, 1, colour);
   EXPECT_THROW(store.Paint(0, 1, 256), RuntimeError);
   EXPECT_THROW(store.Replace(0, 1, "bc", 256), RuntimeError);
@@ -70,7 +70,7 @@ TEST(TextStore, HoldsAtMost256ColoursAndStaysWholeBeyond) {
 }
 
 TEST(TextStore, UndoesTheEditsOfAStepTogether) {
-  TextStore store = StoreWith("abc");
+  StoreWith store("abc");
   store.BeginStep(false);
   store.Replace(0, 1, "", kBlack);
   store.Replace(2, 0, "a", kBlack);
@@ -84,7 +84,7 @@ TEST(TextStore, UndoesTheEditsOfAStepTogether) {
 }
 
 TEST(TextStore, JoinsTheStepBefore) {
-  TextStore store = StoreWith("");
+  StoreWith store("");
   store.Replace(0, 0, "a", kBlack);
   store.BeginStep(true);
   store.Replace(1, 0, "b", kBlack);
@@ -97,7 +97,7 @@ TEST(TextStore, JoinsTheStepBefore) {
 }
 
 TEST(TextStore, BeginsAStepWhereThereIsNoneToJoin) {
-  TextStore store = StoreWith("a");
+  StoreWith store("a");
   store.BeginStep(true);
   store.Replace(1, 0, "b", kBlack);
   store.EndStep();
@@ -106,7 +106,7 @@ TEST(TextStore, BeginsAStepWhereThereIsNoneToJoin) {
 }
 
 TEST(TextStore, MakesNoStepOfAStepWithoutEdits) {
-  TextStore store = StoreWith("a");
+  StoreWith store("a");
   store.BeginStep(false);
   store.Replace(1, 0, "", kBlack);
   store.EndStep();
@@ -114,7 +114,7 @@ TEST(TextStore, MakesNoStepOfAStepWithoutEdits) {
 }
 
 TEST(TextStore, NestsSteps) {
-  TextStore store = StoreWith("");
+  StoreWith store("");
   store.BeginStep(false);
   store.Replace(0, 0, "a", kBlack);
   store.BeginStep(false);
@@ -127,7 +127,7 @@ TEST(TextStore, NestsSteps) {
 }
 
 TEST(TextStore, GivesItsBytesAwayAndIsAsEmptyAsANewOne) {
-  TextStore store = StoreWith("abc");
+  StoreWith store("abc");
   store.Paint(0, 1, kRed);
   store.Replace(3, 0, "d", kBlack);
   const std::uint64_t revision = store.Revision();
@@ -139,8 +139,61 @@ TEST(TextStore, GivesItsBytesAwayAndIsAsEmptyAsANewOne) {
   EXPECT_EQ(store.Palette().size(), 1);
 }
 
+/// What those who follow the text hear: "at-removed+inserted", "&" in front of what joins a step.
+class Heard {
+ public:
+  explicit Heard(TextStore& store)
+      : subscriptions_{store.Edited.Connect([this](const TextEdit& edit) {
+                         text_ += (edit.joins ? "&" : "") + std::to_string(edit.at) + "-" +
+                                  std::string(edit.removed) + "+" + std::string(edit.inserted) +
+                                  " ";
+                       }),
+                       store.Reset.Connect([this] { text_ += "reset "; })} {}
+  std::string Take() { return std::exchange(text_, {}); }
+
+ private:
+  std::string text_;
+  std::vector<Subscription> subscriptions_;
+};
+
+TEST(TextStore, TellsEveryReplacementWithWhatItRemoved) {
+  StoreWith store("abc");
+  Heard heard(store);
+  store.Replace(1, 1, "xy", kBlack);
+  store.Replace(4, 0, "!", kBlack);
+  EXPECT_EQ(heard.Take(), "1-b+xy 4-+! ");
+  store.Undo();
+  store.Redo();
+  EXPECT_EQ(heard.Take(), "4-!+ 4-+! ");
+}
+
+TEST(TextStore, TellsWhichReplacementsAreOneStep) {
+  StoreWith store("ab");
+  Heard heard(store);
+  store.BeginStep(false);
+  store.Replace(0, 1, "x", kBlack);
+  store.Replace(1, 0, "y", kBlack);
+  store.Replace(2, 1, "", kBlack);
+  store.EndStep();
+  EXPECT_EQ(heard.Take(), "0-a+x &1-+y &2-b+ ");
+  store.Undo();
+  EXPECT_EQ(heard.Take(), "2-+b &0-xy+a ");
+  store.Redo();
+  EXPECT_EQ(heard.Take(), "0-a+xy &2-b+ ");
+}
+
+TEST(TextStore, TellsWhenItIsAnotherText) {
+  StoreWith store("abc");
+  Heard heard(store);
+  auto snapshot = store.TakeSnapshot();
+  store.Assign("other");
+  store.Restore(std::move(snapshot));
+  store.TakeBytes();
+  EXPECT_EQ(heard.Take(), "reset reset reset ");
+}
+
 TEST(TextStore, GoesBackToASnapshot) {
-  TextStore store = StoreWith("abc");
+  StoreWith store("abc");
   store.Paint(0, 1, kRed);
   store.Replace(3, 0, "d", kBlack);
   auto snapshot = store.TakeSnapshot();
@@ -164,7 +217,7 @@ struct NotingView : TextStoreView {
 };
 
 TEST(TextStore, TellsItsViewWhatChanged) {
-  TextStore store = StoreWith("abc");
+  StoreWith store("abc");
   NotingView view;
   store.SetView(&view);
   store.Replace(1, 1, "xy", kBlack);
