@@ -10,7 +10,7 @@
 
 #include "host/DocumentGuard.h"
 #include "host/HostFileDialogs.h"
-#include "host/MainMenu.h"
+#include "host/menu/MainMenu.h"
 #include "host/OrphanedText.h"
 #include "host/panel/PanelGuard.h"
 #include "host/panel/RandomizeEnd.h"

@@ -1,4 +1,4 @@
-#include "host/MainMenu.h"
+#include "host/menu/MainMenu.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>
