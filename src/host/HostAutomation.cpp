@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QSettings>
 #include <utility>
 
 #include "automation/Automation.h"
@@ -13,13 +12,8 @@ namespace tessel {
 namespace {
 
 constexpr const char* kName = "org.zanthman.ZanthManager";
-constexpr const char* kAutomationWish = "automation/wanted";
 
 }  // namespace
-
-bool AutomationWanted() { return QSettings().value(kAutomationWish, false).toBool(); }
-
-void SetAutomationWanted(bool wanted) { QSettings().setValue(kAutomationWish, wanted); }
 
 HostAutomation::HostAutomation(TesselWidget& control, Tell tell) : tell_(std::move(tell)) {
   QString problem;

@@ -11,10 +11,6 @@ namespace tessel {
 class Automation;
 class TesselWidget;
 
-/// The user's wish for a program that was started without an option; off by default.
-bool AutomationWanted();
-void SetAutomationWanted(bool wanted);
-
 /// Offers the control on the user's session bus, where the program is found by its names, until the
 /// last window has been closed.
 class HostAutomation : public QObject {

@@ -19,7 +19,12 @@
 #include "host/RecoveryOffer.h"
 #include "host/RestoredText.h"
 #include "host/Session.h"
+#include "host/help/HelpWindows.h"
+#include "host/menu/DocumentMenus.h"
+#include "host/menu/TabMenu.h"
+#include "host/menu/WindowKeys.h"
 #include "host/panel/ReplacementOutline.h"
+#include "host/view/EditorLooks.h"
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
@@ -82,7 +87,8 @@ Services With(const Services& s, FileDialogs& dialogs) {
 }  // namespace
 
 MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files)
-    : dialogs_(services.fileDialogs),
+    : preferences_(services.settings),
+      dialogs_(services.fileDialogs),
       guard_(files, services.messages, services.settings),
       panel_(services.messages),
       control_(new TesselWidget(With(services, dialogs_), widgets, this, ControlOptions())),
@@ -118,6 +124,7 @@ ucTessel::Options MainWindow::ControlOptions() {
   return {.dialogHoldsDocument = true,
           .host = &guard_,
           .mayPanelWrite = [this](PanelWrite write, std::string_view text) {
+            if (write != PanelWrite::kWord) histories_.PanelWrites();
             return panel_.MayWrite(write, text);
           }};
 }
@@ -128,22 +135,50 @@ void MainWindow::OutlineReplacements() {
 }
 
 void MainWindow::BuildMenu() {
-  menu_ = BuildMainMenu(*this);
-  connect(menu_.open, &QAction::triggered, this, [this] { control_->Tessel().OpenFile({}); });
-  connect(menu_.backups, &QAction::triggered, this, &MainWindow::ShowBackups);
-  connect(menu_.reopen, &QAction::toggled, this, [this](bool wanted) {
-    SetReopeningWanted(wanted);
-    RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments()));
+  menu_ = new MainMenu(*this, control_->Tessel());
+  auto* documents = new DocumentMenus(*menu_, control_->Tessel());
+  auto* tabs = new TabMenu(*control_, this);
+  connect(tabs, &TabMenu::closeOthersWanted, documents, &DocumentMenus::CloseOthers);
+  new EditorLooks(*control_, *menu_, preferences_);
+  new WindowKeys(*this);
+  OfferFileCommands();
+  OfferTextCommands();
+  OfferHelp();
+}
+
+void MainWindow::OfferFileCommands() {
+  using enum WindowCommand;
+  menu_->On(kOpen, [this] { control_->Tessel().OpenFile({}); });
+  menu_->On(kQuit, [this] { close(); });
+  menu_->OnToggle(kReopen, preferences_.Wants(Wish::kReopen), [this](bool wanted) {
+    preferences_.Set(Wish::kReopen, wanted);
+    RememberSession();
   });
-  connect(menu_.quit, &QAction::triggered, this, &QWidget::close);
-  connect(menu_.about, &QAction::triggered, this, [this] { ShowAbout(this); });
-  menu_.automate->setChecked(AutomationWanted());
-  connect(menu_.automate, &QAction::toggled, this, [this](bool wanted) {
-    SetAutomationWanted(wanted);
+  menu_->OnToggle(kAutomation, preferences_.Wants(Wish::kAutomation), [this](bool wanted) {
+    preferences_.Set(Wish::kAutomation, wanted);
     emit automationWanted(wanted);
   });
-  const QSignalBlocker quietly(menu_.reopen);
-  menu_.reopen->setChecked(ReopeningWanted());
+}
+
+void MainWindow::OfferTextCommands() {
+  using enum WindowCommand;
+  menu_->On(kUndo, [this] { histories_.Undo(); });
+  menu_->On(kRedo, [this] { histories_.Redo(); });
+  menu_->On(kToggleComment, [this] { ToggleCommentLines(*control_); });
+  menu_->On(kGoToLine, [this] { AskForLine(*control_); });
+  connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
+}
+
+void MainWindow::OfferHelp() {
+  using enum WindowCommand;
+  menu_->On(kManual, [this] { ShowManual(*this); });
+  menu_->On(kShortcuts, [this] { ShowShortcuts(*this, *menu_); });
+  menu_->On(kAbout, [this] { ShowAbout(*this); });
+}
+
+void MainWindow::RememberSession() {
+  if (!preferences_.Wants(Wish::kReopen)) return ForgetDocuments();
+  RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments()));
 }
 
 void MainWindow::BuildStatusBar() {
@@ -186,6 +221,12 @@ void MainWindow::ShowCaret() {
   caret_->setText(tr("Ln %1, Col %2").arg(place.line).arg(place.column));
 }
 
+// Keys belong to the text from the first one on.
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (QWidget* view = control_->CurrentEditorView()) view->setFocus();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   const OpenDocuments open = OpenDocumentsOf(control_->Tessel().OpenDocuments());
   if (!control_->Tessel().CloseAll()) {
@@ -193,7 +234,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   session_.stop();
-  RememberDocuments(open);
+  preferences_.Wants(Wish::kReopen) ? RememberDocuments(open) : ForgetDocuments();
   if (keeper_ != nullptr) keeper_->Finish();
   SaveLook();
   event->accept();
@@ -203,7 +244,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::OfferBackups(BackupStore& backups) {
   backups_ = &backups;
-  menu_.backups->setEnabled(true);
+  menu_->On(WindowCommand::kBackups, [this] { ShowBackups(); });
 }
 
 bool MainWindow::KeepAsBackup(const std::string& path, std::string_view text) {
@@ -274,11 +315,11 @@ void MainWindow::LogTo(KeepingLog& log) {
 
 void MainWindow::KeepEverything() {
   if (keeper_ != nullptr) keeper_->KeepNow();
-  RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments()));
+  RememberSession();
 }
 
 void MainWindow::StartSession() {
-  if (ReopeningWanted()) {
+  if (preferences_.Wants(Wish::kReopen)) {
     QStringList missing;
     for (const std::string& path :
          ReopenDocuments(control_->Tessel(), files_, RememberedDocuments())) {
@@ -291,8 +332,7 @@ void MainWindow::StartSession() {
   // Remembered while the program runs, too: it may be killed.
   session_.setSingleShot(true);
   session_.setInterval(kSessionMilliseconds);
-  connect(&session_, &QTimer::timeout, this,
-          [this] { RememberDocuments(OpenDocumentsOf(control_->Tessel().OpenDocuments())); });
+  connect(&session_, &QTimer::timeout, this, &MainWindow::RememberSession);
   connect(control_, &TesselWidget::documentChanged, &session_, qOverload<>(&QTimer::start));
 }
 

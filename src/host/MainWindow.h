@@ -10,10 +10,13 @@
 
 #include "host/DocumentGuard.h"
 #include "host/HostFileDialogs.h"
-#include "host/menu/MainMenu.h"
 #include "host/OrphanedText.h"
+#include "host/edit/TextCommands.h"
+#include "host/history/Histories.h"
+#include "host/menu/MainMenu.h"
 #include "host/panel/PanelGuard.h"
 #include "host/panel/RandomizeEnd.h"
+#include "host/preferences/Preferences.h"
 #include "qt/TesselWidget.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/DiskState.h"
@@ -32,6 +35,7 @@ class MainWindow : public QMainWindow {
   MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files);
 
   TesselWidget& Control() { return *control_; }
+  Preferences& Wishes() { return preferences_; }
   /// Opens files as the recent list does.
   void OpenFiles(const std::vector<std::string>& paths);
   /// Shows a sentence in the status bar.
@@ -56,6 +60,7 @@ class MainWindow : public QMainWindow {
   void automationWanted(bool wanted);
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -65,23 +70,29 @@ class MainWindow : public QMainWindow {
   ucTessel::Options ControlOptions();
   void OutlineReplacements();
   void BuildMenu();
+  void OfferFileCommands();
+  void OfferTextCommands();
+  void OfferHelp();
   void BuildStatusBar();
   void ShowBackups();
   bool KeepAsBackup(const std::string& path, std::string_view text);
   void RestoreBackup(const Backup& backup);
   void ShowDocument();
   void ShowCaret();
+  void RememberSession();
   void SaveLook();
 
+  Preferences preferences_;
   HostFileDialogs dialogs_;
   DocumentGuard guard_;
   PanelGuard panel_;
   TesselWidget* control_;
   OrphanedText orphans_{control_->Tessel()};
   RandomizeEnd randomizeEnd_{control_->Tessel()};
+  Histories histories_{control_->Tessel()};
   GuardedFiles& files_;
   MessageBox& messages_;
-  MainMenu menu_{};
+  MainMenu* menu_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
   KeepingLog* log_ = nullptr;

@@ -16,7 +16,7 @@ struct Options {
   std::string store;               ///< path of the settings store; empty: the default one
   std::string hostDirectory;       ///< where the templates are
   ColourScheme scheme = ColourScheme::kDesktop;
-  /// Whether other programs may use the control; nothing: as the user wants it (AutomationWanted).
+  /// Whether other programs may use the control; nothing: as the user wishes (Wish::kAutomation).
   std::optional<bool> automation;
   std::string screenshot;     ///< where to leave a picture of the window; empty: none
   std::optional<QSize> size;  ///< of the window, in pixels

@@ -8,7 +8,6 @@
 namespace tessel {
 namespace {
 
-constexpr const char* kWanted = "session/reopen";
 constexpr const char* kFiles = "session/files";
 constexpr const char* kCurrent = "session/current";
 
@@ -23,17 +22,14 @@ OpenDocuments OpenDocumentsOf(const DocumentList& documents) {
   return open;
 }
 
-bool ReopeningWanted() { return QSettings().value(kWanted, false).toBool(); }
-
-void SetReopeningWanted(bool wanted) { QSettings().setValue(kWanted, wanted); }
+void ForgetDocuments() {
+  QSettings settings;
+  settings.remove(kFiles);
+  settings.remove(kCurrent);
+}
 
 void RememberDocuments(const OpenDocuments& documents) {
   QSettings settings;
-  if (!ReopeningWanted()) {
-    settings.remove(kFiles);
-    settings.remove(kCurrent);
-    return;
-  }
   QVariantList files;
   for (const std::string& path : documents.paths) files += QByteArray::fromStdString(path);
   settings.setValue(kFiles, files);

@@ -20,12 +20,10 @@ struct OpenDocuments {
 
 OpenDocuments OpenDocumentsOf(const DocumentList& documents);
 
-/// The user's wish; off by default.
-bool ReopeningWanted();
-void SetReopeningWanted(bool wanted);
-
-/// Stores the list when it is wanted, and forgets the stored one when it is not.
+/// Stores the list for the next start.
 void RememberDocuments(const OpenDocuments& documents);
+/// Forgets the stored one.
+void ForgetDocuments();
 OpenDocuments RememberedDocuments();
 
 /// Opens them again. Returns the paths of those that are not there any more.

@@ -97,7 +97,7 @@ int Run(const Options& options) {
       window.ShowNotice(problem);
     });
   };
-  automate(!picture && options.automation.value_or(AutomationWanted()));
+  automate(!picture && options.automation.value_or(window.Wishes().Wants(Wish::kAutomation)));
   QObject::connect(&window, &MainWindow::automationWanted, &window, automate);
   std::optional<AbruptEnd> abruptEnd;
   if (!picture) {

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QSettings>
 #include <QTest>
@@ -26,7 +28,7 @@ inline constexpr int kPatience = 30'000;
 /// One run of the program: a window, and what stands behind it. Its end is that of a program that
 /// is killed, unless the window was closed.
 struct HostRun {
-  explicit HostRun(const std::string& state)
+  HostRun(const std::string& state, SettingsStore& settings)
       : backups(state + "/backups"), keptFiles(plainFiles, backups), files(keptFiles) {
     plainFiles.KeepOldBytesBy(KeepAsBackups(state + "/backups"));
     const Services s = fakes.Get();
@@ -34,7 +36,7 @@ struct HostRun {
                             .fileDialogs = s.fileDialogs,
                             .forms = s.forms,
                             .clipboard = s.clipboard,
-                            .settings = s.settings,
+                            .settings = settings,
                             .pointer = s.pointer,
                             .files = files,
                             .random = s.random,
@@ -65,8 +67,10 @@ struct HostRun {
     return false;
   }
   QAction* MenuItem(const QString& caption) {
-    for (auto* action : window->findChildren<QAction*>()) {
-      if (action->text() == caption) return action;
+    for (const QAction* title : window->menuBar()->actions()) {
+      for (QAction* action : title->menu()->actions()) {
+        if (action->text() == caption) return action;
+      }
     }
     return nullptr;
   }
@@ -89,7 +93,7 @@ class HostTest : public testing::Test {
     QCoreApplication::setApplicationName("zanth-manager-test");
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        QString::fromStdString(directory_ / "config"));
-    run_ = std::make_unique<HostRun>(State());
+    run_ = std::make_unique<HostRun>(State(), settings_);
   }
 
   std::string State() const { return DefaultStateFolder(); }
@@ -97,7 +101,7 @@ class HostTest : public testing::Test {
   /// The program is killed, and started again.
   void Restart() {
     run_.reset();
-    run_ = std::make_unique<HostRun>(State());
+    run_ = std::make_unique<HostRun>(State(), settings_);
   }
   void CloseAndStartAgain() {
     run_->window->close();
@@ -105,6 +109,7 @@ class HostTest : public testing::Test {
   }
 
   TempDirectory directory_;
+  MemorySettingsStore settings_;
   std::unique_ptr<HostRun> run_;
 };
 

@@ -149,7 +149,7 @@ TEST_F(Panel, ALevelIsWrittenIntoALevelsLineOnly) {
 }
 
 TEST_F(Panel, AWordGoesOverASelectionThatIsSeenWithoutAQuestion) {
-  Run().fakes.settings.SaveSetting("ConWords", "ifhit", "ifhit");
+  settings_.SaveSetting("ConWords", "ifhit", "ifhit");
   C().cmdAddword.SetEnabled(true);
   C().cmdAddword.Press();  // the list is read again
   for (const bool hidden : {false, true}) {

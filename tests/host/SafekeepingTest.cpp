@@ -392,18 +392,18 @@ TEST_F(Safekeeping, ABackupThatCannotBeKeptIsToldAndTheFileIsSaved) {
 // --- The documents of the last run
 
 TEST_F(Safekeeping, DocumentsAreNotReopenedUnlessTheUserWantsThat) {
-  EXPECT_FALSE(Run().MenuItem("&Reopen Documents at Start")->isChecked());
+  EXPECT_FALSE(Run().MenuItem("Reopen &Documents at Start")->isChecked());
   Run().window->OpenFiles({user_});
   CloseAndStartAgain();
   EXPECT_EQ(Run().Tabs().At(1).tag, "");
 }
 
 TEST_F(Safekeeping, DocumentsAreReopenedWithTheCurrentOneInFront) {
-  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().MenuItem("Reopen &Documents at Start")->trigger();
   Run().window->OpenFiles({user_, game_});
   Run().Tabs().Select(1);
   CloseAndStartAgain();
-  EXPECT_TRUE(Run().MenuItem("&Reopen Documents at Start")->isChecked());
+  EXPECT_TRUE(Run().MenuItem("Reopen &Documents at Start")->isChecked());
   ASSERT_EQ(Run().Tabs().Count(), 2);
   EXPECT_EQ(Run().Tabs().At(1).tag, user_);
   EXPECT_EQ(Run().Tabs().At(2).tag, game_);
@@ -412,7 +412,7 @@ TEST_F(Safekeeping, DocumentsAreReopenedWithTheCurrentOneInFront) {
 }
 
 TEST_F(Safekeeping, DocumentsAreReopenedAfterAKillToo) {
-  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().MenuItem("Reopen &Documents at Start")->trigger();
   Run().window->OpenFiles({user_});
   ASSERT_TRUE(QTest::qWaitFor([&] { return RememberedDocuments().paths == std::vector{user_}; },
                               kPatience));
@@ -421,7 +421,7 @@ TEST_F(Safekeeping, DocumentsAreReopenedAfterAKillToo) {
 }
 
 TEST_F(Safekeeping, AFileThatIsGoneIsSkippedWithANoticeAndNoBox) {
-  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().MenuItem("Reopen &Documents at Start")->trigger();
   Run().window->OpenFiles({user_, game_});
   Run().window->close();
   std::filesystem::remove(game_);

@@ -67,7 +67,8 @@ TEST_F(Window, TellsWhatItIs) {
   const auto* box = Run().window->findChild<QMessageBox*>();
   ASSERT_NE(box, nullptr);
   EXPECT_TRUE(box->text().startsWith("Zanth Manager"));
-  EXPECT_EQ(box->informativeText(), "An editor for CON files.");
+  EXPECT_TRUE(box->informativeText().startsWith("An editor for CON files."));
+  EXPECT_FALSE(box->iconPixmap().isNull());
 }
 
 TEST_F(Window, QuitsFromTheMenu) {
@@ -76,17 +77,16 @@ TEST_F(Window, QuitsFromTheMenu) {
 }
 
 TEST_F(Window, RemembersThatOtherProgramsMayUseIt) {
-  const auto item = [&] { return Run().MenuItem("&Allow Automation by Other Programs"); };
-  EXPECT_FALSE(AutomationWanted());
+  const auto item = [&] { return Run().MenuItem("Allow Auto&mation by Other Programs"); };
   EXPECT_FALSE(item()->isChecked());
   QSignalSpy wanted(Run().window.get(), &MainWindow::automationWanted);
   item()->trigger();
   EXPECT_EQ(wanted.takeFirst().at(0).toBool(), true);
   Restart();
-  EXPECT_TRUE(AutomationWanted());
+  EXPECT_TRUE(Run().window->Wishes().Wants(Wish::kAutomation));
   EXPECT_TRUE(item()->isChecked());
   item()->trigger();
-  EXPECT_FALSE(AutomationWanted());
+  EXPECT_FALSE(Run().window->Wishes().Wants(Wish::kAutomation));
 }
 
 // --- Save writes into the document's own file, and its tab keeps its name

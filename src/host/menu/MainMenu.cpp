@@ -1,39 +1,89 @@
 #include "host/menu/MainMenu.h"
 
-#include <QCoreApplication>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QSignalBlocker>
+#include <utility>
 
 namespace tessel {
+namespace {
 
-MainMenu BuildMainMenu(QMainWindow& window) {
-  QMenu* file = window.menuBar()->addMenu(QMainWindow::tr("&File"));
-  MainMenu menu{};
-  menu.open = file->addAction(QMainWindow::tr("&Open..."));
-  menu.open->setShortcut(QKeySequence::Open);
-  menu.backups = file->addAction(QMainWindow::tr("&Backups..."));
-  menu.backups->setEnabled(false);
-  file->addSeparator();
-  menu.reopen = file->addAction(QMainWindow::tr("&Reopen Documents at Start"));
-  menu.reopen->setCheckable(true);
-  menu.automate = file->addAction(QMainWindow::tr("&Allow Automation by Other Programs"));
-  menu.automate->setCheckable(true);
-  file->addSeparator();
-  menu.quit = file->addAction(QMainWindow::tr("&Quit"));
-  menu.quit->setShortcut(Qt::CTRL | Qt::Key_Q);
-  QMenu* help = window.menuBar()->addMenu(QMainWindow::tr("&Help"));
-  menu.about = help->addAction(QMainWindow::tr("&About Zanth Manager"));
-  return menu;
+void ChooseDropDownItem(Toolbar& toolbar, const std::string& button, const std::string& key) {
+  for (int item = 1; item <= toolbar.MenuCount(button); ++item) {
+    if (toolbar.MenuItem(button, item).key == key) return toolbar.PressMenuItem(button, item);
+  }
 }
 
-void ShowAbout(QWidget* parent) {
-  auto* box = new QMessageBox(
-      QMessageBox::Information, QMainWindow::tr("About Zanth Manager"),
-      QMainWindow::tr("Zanth Manager %1").arg(QCoreApplication::applicationVersion()),
-      QMessageBox::Ok, parent);
-  box->setInformativeText(QMainWindow::tr("An editor for CON files."));
-  box->setAttribute(Qt::WA_DeleteOnClose);
-  box->open();
+void RunOfControl(ucTessel& tessel, const MenuRow& row) {
+  HostedControls& controls = tessel.Controls();
+  if (tessel.Running()) return;
+  if (row.popupItem != nullptr) return controls.mnuRtbPopup.Choose(row.popupItem);
+  if (row.dropDownItem == nullptr) return controls.tbToolBar.Press(row.button);
+  ChooseDropDownItem(controls.tbToolBar, row.button, row.dropDownItem);
+}
+
+QList<QKeySequence> KeysOf(const MenuRow& row) {
+  return row.keys == nullptr ? QList<QKeySequence>()
+                             : QKeySequence::listFromString(row.keys, QKeySequence::PortableText);
+}
+
+}  // namespace
+
+MainMenu::MainMenu(QMainWindow& window, ucTessel& tessel)
+    : QObject(&window), window_(window), tessel_(tessel) {
+  for (const MenuRow& row : MenuRows()) Add(row);
+  toolbar_ = tessel_.Controls().tbToolBar.Refresh.Connect([this] { ShowStates(); });
+  ShowStates();
+}
+
+void MainMenu::Add(const MenuRow& row) {
+  QMenu*& menu = menus_[row.menu];
+  if (menu == nullptr) menu = window_.menuBar()->addMenu(tr(TitleOf(row.menu)));
+  if (row.kind == MenuItemKind::kSeparator) {
+    menu->addSeparator();
+    return;
+  }
+  QAction* action = row.kind == MenuItemKind::kSubMenu ? menu->addMenu(tr(row.text))->menuAction()
+                                                       : menu->addAction(tr(row.text));
+  action->setShortcuts(KeysOf(row));
+  action->setCheckable(row.kind == MenuItemKind::kToggle);
+  if (row.command == WindowCommand::kNone) {
+    ConnectToControl(*action, row);
+  } else {
+    action->setEnabled(false);
+    actions_[row.command] = action;
+  }
+}
+
+void MainMenu::ConnectToControl(QAction& action, const MenuRow& row) {
+  connect(&action, &QAction::triggered, this, [this, row] {
+    RunOfControl(tessel_, row);
+    ShowStates();
+  });
+  if (row.kind == MenuItemKind::kToggle) twoStates_[row.button] = &action;
+}
+
+// The buttons have the last word: a press may have been refused.
+void MainMenu::ShowStates() {
+  const Toolbar& toolbar = tessel_.Controls().tbToolBar;
+  for (const auto& [button, action] : twoStates_) {
+    action->setChecked(toolbar.Pressed(button));
+    action->setEnabled(toolbar.Find(button)->enabled);
+  }
+}
+
+void MainMenu::On(WindowCommand command, std::function<void()> run) {
+  QAction& action = Action(command);
+  action.setEnabled(true);
+  connect(&action, &QAction::triggered, this, [this, run = std::move(run)] {
+    if (!tessel_.Running()) run();
+  });
+}
+
+void MainMenu::OnToggle(WindowCommand command, bool isOn, std::function<void(bool)> run) {
+  QAction& action = Action(command);
+  action.setEnabled(true);
+  action.setChecked(isOn);
+  connect(&action, &QAction::toggled, this, std::move(run));
 }
 
 }  // namespace tessel

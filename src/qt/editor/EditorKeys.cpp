@@ -37,17 +37,52 @@ constexpr KeyCommand kKeyCommands[] = {
 struct ScintillaKey {
   int code;
   int modifiers;
+  unsigned int command;
 };
 
-constexpr int kAltShift = Sci::SCMOD_ALT | Sci::SCMOD_SHIFT;
-constexpr int kCtrlShift = Sci::SCMOD_CTRL | Sci::SCMOD_SHIFT;
-constexpr ScintillaKey kUnboundKeys[] = {
-    {'Z', Sci::SCMOD_CTRL},      {'Y', Sci::SCMOD_CTRL},     {'X', Sci::SCMOD_CTRL},
-    {'C', Sci::SCMOD_CTRL},      {'V', Sci::SCMOD_CTRL},     {'L', Sci::SCMOD_CTRL},
-    {'T', kCtrlShift},           {'U', Sci::SCMOD_CTRL},     {'U', kCtrlShift},
-    {Sci::SCK_DOWN, kAltShift},  {Sci::SCK_UP, kAltShift},   {Sci::SCK_LEFT, kAltShift},
-    {Sci::SCK_RIGHT, kAltShift}, {Sci::SCK_HOME, kAltShift}, {Sci::SCK_END, kAltShift},
-    {Sci::SCK_PRIOR, kAltShift}, {Sci::SCK_NEXT, kAltShift},
+constexpr int kCtrl = Sci::SCMOD_CTRL;
+constexpr int kShift = Sci::SCMOD_SHIFT;
+constexpr int kCtrlShift = kCtrl | kShift;
+
+constexpr ScintillaKey kScintillaKeys[] = {
+    {Sci::SCK_DOWN, 0, Sci::SCI_LINEDOWN},
+    {Sci::SCK_DOWN, kShift, Sci::SCI_LINEDOWNEXTEND},
+    {Sci::SCK_DOWN, kCtrl, Sci::SCI_LINESCROLLDOWN},
+    {Sci::SCK_UP, 0, Sci::SCI_LINEUP},
+    {Sci::SCK_UP, kShift, Sci::SCI_LINEUPEXTEND},
+    {Sci::SCK_UP, kCtrl, Sci::SCI_LINESCROLLUP},
+    {Sci::SCK_LEFT, 0, Sci::SCI_CHARLEFT},
+    {Sci::SCK_LEFT, kShift, Sci::SCI_CHARLEFTEXTEND},
+    {Sci::SCK_LEFT, kCtrl, Sci::SCI_WORDLEFT},
+    {Sci::SCK_LEFT, kCtrlShift, Sci::SCI_WORDLEFTEXTEND},
+    {Sci::SCK_RIGHT, 0, Sci::SCI_CHARRIGHT},
+    {Sci::SCK_RIGHT, kShift, Sci::SCI_CHARRIGHTEXTEND},
+    {Sci::SCK_RIGHT, kCtrl, Sci::SCI_WORDRIGHT},
+    {Sci::SCK_RIGHT, kCtrlShift, Sci::SCI_WORDRIGHTEXTEND},
+    {Sci::SCK_HOME, 0, Sci::SCI_VCHOME},
+    {Sci::SCK_HOME, kShift, Sci::SCI_VCHOMEEXTEND},
+    {Sci::SCK_HOME, kCtrl, Sci::SCI_DOCUMENTSTART},
+    {Sci::SCK_HOME, kCtrlShift, Sci::SCI_DOCUMENTSTARTEXTEND},
+    {Sci::SCK_END, 0, Sci::SCI_LINEEND},
+    {Sci::SCK_END, kShift, Sci::SCI_LINEENDEXTEND},
+    {Sci::SCK_END, kCtrl, Sci::SCI_DOCUMENTEND},
+    {Sci::SCK_END, kCtrlShift, Sci::SCI_DOCUMENTENDEXTEND},
+    {Sci::SCK_PRIOR, 0, Sci::SCI_PAGEUP},
+    {Sci::SCK_PRIOR, kShift, Sci::SCI_PAGEUPEXTEND},
+    {Sci::SCK_NEXT, 0, Sci::SCI_PAGEDOWN},
+    {Sci::SCK_NEXT, kShift, Sci::SCI_PAGEDOWNEXTEND},
+    {Sci::SCK_DELETE, 0, Sci::SCI_CLEAR},
+    {Sci::SCK_DELETE, kCtrl, Sci::SCI_DELWORDRIGHT},
+    {Sci::SCK_BACK, 0, Sci::SCI_DELETEBACK},
+    {Sci::SCK_BACK, kShift, Sci::SCI_DELETEBACK},
+    {Sci::SCK_BACK, kCtrl, Sci::SCI_DELWORDLEFT},
+    {Sci::SCK_INSERT, 0, Sci::SCI_EDITTOGGLEOVERTYPE},
+    {Sci::SCK_TAB, 0, Sci::SCI_TAB},
+    {Sci::SCK_TAB, kShift, Sci::SCI_BACKTAB},
+    {Sci::SCK_RETURN, 0, Sci::SCI_NEWLINE},
+    {Sci::SCK_RETURN, kShift, Sci::SCI_NEWLINE},
+    {Sci::SCK_ESCAPE, 0, Sci::SCI_CANCEL},
+    {'A', kCtrl, Sci::SCI_SELECTALL},
 };
 
 /// Windows and some X11 keymaps report AltGr as Ctrl+Alt.
@@ -64,10 +99,12 @@ std::optional<EditorCommand> CommandOf(QKeyCombination keys) {
   return it == std::ranges::end(kKeyCommands) ? std::nullopt : std::optional(it->command);
 }
 
-void UnbindKeys(QsciScintillaBase& widget) {
-  for (const ScintillaKey& key : kUnboundKeys) {
-    widget.SendScintilla(Sci::SCI_CLEARCMDKEY,
-                         static_cast<unsigned long>(key.code | key.modifiers << 16));
+void BindKeys(QsciScintillaBase& widget) {
+  widget.SendScintilla(Sci::SCI_CLEARALLCMDKEYS);
+  for (const ScintillaKey& key : kScintillaKeys) {
+    widget.SendScintilla(Sci::SCI_ASSIGNCMDKEY,
+                         static_cast<unsigned long>(key.code | key.modifiers << 16),
+                         static_cast<long>(key.command));
   }
 }
 
@@ -77,6 +114,13 @@ bool IsPrintable(const QString& text) {
 
 bool IsTyping(const QKeyEvent& event) {
   return IsPrintable(event.text()) && CanType(event.modifiers());
+}
+
+QString TextOfKey(const QKeyEvent& event) {
+  constexpr Qt::KeyboardModifiers kShortcut =
+      Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  const bool types = (event.modifiers() & kShortcut) == 0 || IsTyping(event);
+  return types ? event.text() : QString();
 }
 
 std::string_view LineEndOfReturn(std::string_view text) {

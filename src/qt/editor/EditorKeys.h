@@ -25,14 +25,18 @@ enum class EditorCommand {
 
 std::optional<EditorCommand> CommandOf(QKeyCombination keys);
 
-/// Takes the keys from Scintilla that would bypass the model's undo and clipboard, make a
-/// rectangular selection, or change case by Unicode's rules (which can lead out of Windows-1252).
-void UnbindKeys(QsciScintillaBase& widget);
+/// Gives Scintilla the keys that move, select and delete, and none of its others: those bypass the
+/// model's undo and clipboard, make a rectangular selection, change case by Unicode's rules (which
+/// can lead out of Windows-1252), or edit whole lines at a key that nobody asked for.
+void BindKeys(QsciScintillaBase& widget);
 
 /// True when the text is one that a key types, and no control character.
 bool IsPrintable(const QString& text);
 /// True when a key types its text.
 bool IsTyping(const QKeyEvent& event);
+
+/// What a key may type: nothing with Ctrl, Alt or Meta, but with AltGr what it says.
+QString TextOfKey(const QKeyEvent& event);
 
 /// The break that the Return key inserts into a text: the text's first one, else CR LF.
 std::string_view LineEndOfReturn(std::string_view text);

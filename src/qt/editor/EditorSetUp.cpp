@@ -81,7 +81,7 @@ void SetUpEditor(QsciScintillaBase& widget) {
   for (const Setting& setting : kSettings) {
     widget.SendScintilla(setting.message, setting.value, setting.second);
   }
-  UnbindKeys(widget);
+  BindKeys(widget);
   SetUpFont(widget);
 }
 

@@ -121,7 +121,10 @@ void ScintillaView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     UseLineEndOf(model_.Bytes(), *this);
   }
-  mirror_.ByHand([&] { QsciScintillaBase::keyPressEvent(event); }, typing);
+  QKeyEvent key(event->type(), event->key(), event->modifiers(), TextOfKey(*event),
+                event->isAutoRepeat());
+  mirror_.ByHand([&] { QsciScintillaBase::keyPressEvent(&key); }, typing);
+  event->setAccepted(key.isAccepted());
 }
 
 void ScintillaView::Run(EditorCommand command) {

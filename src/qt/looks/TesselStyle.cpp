@@ -104,6 +104,26 @@ void PaintCheckBox(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+/// A cross, on a soft face under the mouse.
+void PaintCloseButton(QPainter& painter, const QStyleOption& option) {
+  const Theme theme(option.palette);
+  const bool hovered =
+      option.state.testFlag(QStyle::State_Raised) || option.state.testFlag(QStyle::State_MouseOver);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF face = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  if (option.state.testFlag(QStyle::State_Sunken) || hovered) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.state.testFlag(QStyle::State_Sunken) ? theme.Pressed() : theme.Hover());
+    painter.drawRoundedRect(face, 3, 3);
+  }
+  painter.setPen(QPen(theme.QuietText(), 1.4));
+  const QRectF cross = face.adjusted(4, 4, -4, -4);
+  painter.drawLine(cross.topLeft(), cross.bottomRight());
+  painter.drawLine(cross.topRight(), cross.bottomLeft());
+  painter.restore();
+}
+
 }  // namespace
 
 TesselStyle::TesselStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -146,6 +166,7 @@ void TesselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
                                 QPainter* painter, const QWidget* widget) const {
   if (element == PE_IndicatorRadioButton) return PaintOption(*painter, *option);
   if (element == PE_IndicatorCheckBox) return PaintCheckBox(*painter, *option);
+  if (element == PE_IndicatorTabClose) return PaintCloseButton(*painter, *option);
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
@@ -159,6 +180,9 @@ int TesselStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ToolBarItemSpacing:
       return 1;
     case PM_MenuButtonIndicator:
+      return 14;
+    case PM_TabCloseIndicatorWidth:
+    case PM_TabCloseIndicatorHeight:
       return 14;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);

@@ -39,7 +39,13 @@ void TabBar::mousePressEvent(QMouseEvent* event) {
 QSize TabBar::tabSizeHint(int index) const {
   const int icon = tabIcon(index).isNull() ? 0 : iconSize().width() + kIconGap;
   const int text = fontMetrics().size(Qt::TextShowMnemonic, tabText(index)).width();
-  return {std::clamp(text + icon + 2 * kSidePadding, kNarrowestTab, kWidestTab), height()};
+  const int wanted = text + icon + RoomOfCloseButton(index) + 2 * kSidePadding;
+  return {std::clamp(wanted, kNarrowestTab, kWidestTab), height()};
+}
+
+int TabBar::RoomOfCloseButton(int index) const {
+  const QWidget* button = tabButton(index, RightSide);
+  return button == nullptr ? 0 : button->width() + kIconGap / 2;
 }
 
 QSize TabBar::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
@@ -70,7 +76,7 @@ void TabBar::PaintTab(QPainter& painter, int index) const {
     painter.drawLine(tab.right(), tab.top() + 5, tab.right(), tab.bottom() - 5);
   }
 
-  QRect content = tab.adjusted(kSidePadding, 0, -kSidePadding, 0);
+  QRect content = tab.adjusted(kSidePadding, 0, -kSidePadding - RoomOfCloseButton(index), 0);
   const QIcon icon = tabIcon(index);
   if (!icon.isNull()) {
     const QSize size = iconSize();

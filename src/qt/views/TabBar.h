@@ -24,6 +24,7 @@ class TabBar : public QTabBar {
 
  private:
   void PaintTab(QPainter& painter, int index) const;
+  int RoomOfCloseButton(int index) const;
 };
 
 }  // namespace tessel

@@ -1,0 +1,59 @@
+#include "host/view/EditorLooks.h"
+
+#include <algorithm>
+
+namespace tessel {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr int kLeastZoom = -8;
+constexpr int kMostZoom = 20;
+constexpr int kRulerColumn = 80;
+
+}  // namespace
+
+EditorLooks::EditorLooks(TesselWidget& control, MainMenu& menu, Preferences& preferences)
+    : QObject(&menu), preferences_(preferences), editors_(control) {
+  menu.On(WindowCommand::kZoomIn, [this] { Zoom(preferences_.Number(Wish::kZoom) + 1); });
+  menu.On(WindowCommand::kZoomOut, [this] { Zoom(preferences_.Number(Wish::kZoom) - 1); });
+  menu.On(WindowCommand::kZoomReset, [this] { Zoom(0); });
+  const auto offer = [&](WindowCommand command, Wish wish) {
+    menu.OnToggle(command, preferences_.Wants(wish),
+                  [this, wish](bool wanted) { preferences_.Set(wish, wanted ? 1 : 0); });
+  };
+  offer(WindowCommand::kWordWrap, Wish::kWordWrap);
+  offer(WindowCommand::kShowBlanks, Wish::kShowBlanks);
+  offer(WindowCommand::kRuler, Wish::kRuler);
+  changed_ = preferences_.Changed.Connect(
+      [this](Wish) { editors_.Do([this](ScintillaView& view) { Apply(view); }); });
+  editors_.Always([this](ScintillaView& view) {
+    Apply(view);
+    // By the wheel, in one of them.
+    connect(&view, &QsciScintillaBase::SCN_ZOOM, this,
+            [this, &view] { Zoom(static_cast<int>(view.SendScintilla(Sci::SCI_GETZOOM))); });
+  });
+}
+
+void EditorLooks::Zoom(int points) {
+  preferences_.Set(Wish::kZoom, std::clamp(points, kLeastZoom, kMostZoom));
+}
+
+void EditorLooks::Apply(ScintillaView& view) const {
+  const auto zoom = preferences_.Number(Wish::kZoom);
+  if (view.SendScintilla(Sci::SCI_GETZOOM) != zoom) {
+    view.SendScintilla(Sci::SCI_SETZOOM, static_cast<long>(zoom));
+  }
+  view.SendScintilla(Sci::SCI_SETWRAPMODE, preferences_.Wants(Wish::kWordWrap)
+                                               ? long{Sci::SC_WRAP_WORD}
+                                               : long{Sci::SC_WRAP_NONE});
+  view.SendScintilla(Sci::SCI_SETVIEWWS, preferences_.Wants(Wish::kShowBlanks)
+                                             ? long{Sci::SCWS_VISIBLEALWAYS}
+                                             : long{Sci::SCWS_INVISIBLE});
+  view.SendScintilla(Sci::SCI_SETEDGECOLUMN, static_cast<long>(kRulerColumn));
+  view.SendScintilla(Sci::SCI_SETEDGECOLOUR, view.palette().color(QPalette::Mid));
+  view.SendScintilla(Sci::SCI_SETEDGEMODE, preferences_.Wants(Wish::kRuler) ? long{Sci::EDGE_LINE}
+                                                                            : long{Sci::EDGE_NONE});
+}
+
+}  // namespace tessel
