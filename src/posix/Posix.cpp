@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstring>
 #include <new>
 #include <system_error>
 
@@ -13,10 +14,15 @@ namespace {
 constexpr std::size_t kMostAtOnce = std::size_t{1} << 30U;
 constexpr std::size_t kReadAhead = std::size_t{1} << 16U;
 
+/// In the language of the sentence around it: strerror follows the locale.
+std::string ReasonOf(int code) {
+  const char* const reason = ::strerrordesc_np(code);
+  return reason != nullptr ? reason : std::generic_category().message(code);
+}
+
 }  // namespace
 
-FileProblem::FileProblem(int code)
-    : std::runtime_error(std::generic_category().message(code)), code_(code) {}
+FileProblem::FileProblem(int code) : std::runtime_error(ReasonOf(code)), code_(code) {}
 
 Descriptor::~Descriptor() {
   if (number_ != -1) ::close(number_);

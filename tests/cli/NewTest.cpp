@@ -29,6 +29,16 @@ TEST_F(CommandLineNew, ReplacesAFileOnlyWhenForced) {
   EXPECT_EQ(Bytes("User.con"), TemplateText("zmuserp.dat"));
 }
 
+TEST_F(CommandLineNew, NamesTheTemplateThatIsMissing) {
+  const std::string copy = home_ / "tessel";
+  std::filesystem::copy_file(TESSEL_PROGRAM, copy);
+  const Outcome outcome = Shell(copy + " new 15AU -o User.con");
+  if (outcome.status == 0) GTEST_SKIP() << "another one is installed, with its templates";
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, testing::MatchesRegex("tessel: File .*/zmuserp.dat not found.\n"));
+  EXPECT_TRUE(files_.Names().empty());
+}
+
 TEST_F(CommandLineNew, KnowsItsTemplates) {
   ExpectUsageError({"new", "14XX"}, "CODE: \"14XX\" is none of 13DU, 15AU, 13DD, 15AD, 13DG, 15AG",
                    "tessel new");

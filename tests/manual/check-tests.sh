@@ -21,6 +21,8 @@ while read -r test; do
   checked=$((checked + 1))
   case $test in
     desktop.*) [ -x "tests/desktop/${test#desktop.}.sh" ] || complain "there is no test $test" ;;
+    locales.*) grep -q "^ *tessel_locale_test(${test#locales.} " tests/locales/CMakeLists.txt ||
+      complain "there is no test $test" ;;
     fuzz.*) [ -e "tests/fuzz/${test#fuzz.}.cpp" ] || complain "there is no test $test" ;;
     *.*.*) IFS=. read -r folder suite name <<<"$test"
       is_there "$folder" "$suite" "$name" || complain "there is no test $test" ;;
