@@ -9,9 +9,9 @@
 #include <sstream>
 #include <string>
 
-#include "faults/RefusedMemory.h"
 #include "randomizer/frmRand.h"
 #include "support/RealWorld.h"
+#include "support/RefusedMemory.h"
 
 namespace tessel::test {
 namespace {

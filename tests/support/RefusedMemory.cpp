@@ -1,4 +1,4 @@
-#include "faults/RefusedMemory.h"
+#include "support/RefusedMemory.h"
 
 #include <cstdlib>
 #include <new>
