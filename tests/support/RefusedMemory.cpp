@@ -1,18 +1,26 @@
 #include "support/RefusedMemory.h"
 
+#include <atomic>
 #include <cstdlib>
+#include <limits>
 #include <new>
 
 namespace {
 
-/// None while this is 0.
-long untilRefused = 0;
+constexpr long kNever = std::numeric_limits<long>::max();
+
+/// Counts down; the memory of several threads is counted together.
+std::atomic<long> untilRefused = kNever;
+bool forGood = false;
 
 }  // namespace
 
 #ifndef TESSEL_SANITIZED
 
-static bool Refused() { return untilRefused > 0 && --untilRefused == 0; }
+static bool Refused() {
+  const long left = --untilRefused;
+  return left == 0 || (left < 0 && forGood);
+}
 
 void* operator new(std::size_t size) {
   if (Refused()) throw std::bad_alloc();
@@ -29,12 +37,19 @@ void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); 
 
 namespace tessel::test {
 
-void RefuseMemoryOnce(long allocation) { untilRefused = allocation; }
+void RefuseMemoryOnce(long allocation) {
+  forGood = false;
+  untilRefused = allocation;
+}
+
+void RefuseMemoryFrom(long allocation) {
+  forGood = true;
+  untilRefused = allocation;
+}
 
 bool MemoryWasRefused() {
-  const bool refused = untilRefused == 0;
-  untilRefused = 0;
-  return refused;
+  forGood = false;
+  return untilRefused.exchange(kNever) <= 0;
 }
 
 }  // namespace tessel::test

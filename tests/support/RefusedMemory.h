@@ -1,4 +1,4 @@
-// Memory that is refused, to one allocation of this program.
+// Memory that is refused to this program.
 #pragma once
 
 namespace tessel::test {
@@ -12,6 +12,8 @@ inline constexpr bool kMemoryCanBeRefused = true;
 
 /// The allocation of that number from now on, counted from 1, gets nothing; later ones do.
 void RefuseMemoryOnce(long allocation);
+/// It and all later ones get nothing.
+void RefuseMemoryFrom(long allocation);
 /// Whether it came to that. There is memory for all from here on.
 bool MemoryWasRefused();
 
