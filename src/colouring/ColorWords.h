@@ -1,6 +1,7 @@
 // What the colouring pass colours, in which order.
 #pragma once
 
+#include <iterator>
 #include <string_view>
 
 #include "text/TextTypes.h"
@@ -56,5 +57,14 @@ inline constexpr ColorWord kColorWords[] = {
 /// The 0-based entry with which the script words begin.
 inline constexpr int kFirstScriptWord = 9;
 static_assert(kColorWords[kFirstScriptWord].word == "action");
+
+/// The entry that comes after this one, given whether its word occurs in the text; the number of
+/// entries where the pass ends.
+constexpr int EntryAfter(int entry, bool occurs) {
+  const Steering steering = kColorWords[entry].steering;
+  if (occurs && steering == Steering::kEndsPass) return std::ssize(kColorWords);
+  if (!occurs && steering == Steering::kNeededForDefinitions) return kFirstScriptWord;
+  return entry + 1;
+}
 
 }  // namespace tessel
