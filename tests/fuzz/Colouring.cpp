@@ -4,6 +4,7 @@
 #include <string>
 
 #include "colouring/ColourCommand.h"
+#include "colouring/LiveColours.h"
 #include "fuzz/Fuzzing.h"
 #include "services/HeadlessServices.h"
 #include "surface/CurrentEditor.h"
@@ -18,6 +19,19 @@ void RequireCoveringRuns(const RichTextBox& editor) {
     end += run.length;
   }
   Require(end == editor.Length(), "every character has a colour");
+}
+
+void RequireLiveColoursOfThePass(const RichTextBox& editor) {
+  const std::string text = editor.Text();
+  const std::string half = text.substr(0, text.size() / 2);
+  LiveColours live(half, 8);
+  live.Update(text, std::ssize(half), 0, std::ssize(text) - std::ssize(half));
+  const std::string colours = live.ColoursOf(text, 0, std::ssize(text));
+  for (Position at = 0; at < std::ssize(text); ++at) {
+    const auto index = static_cast<unsigned char>(colours[static_cast<std::size_t>(at)]);
+    Require(LiveColours::Palette()[index] == editor.Store().ColourAt(at),
+            "live colours are those of the pass");
+  }
 }
 
 }  // namespace
@@ -40,6 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(editor.SelStart() == 0 && editor.SelLength() == 0, "the caret is at the start");
   Require(editor.Left() == 0 && editor.Visible(), "the editor is in sight");
   RequireCoveringRuns(editor);
+  RequireLiveColoursOfThePass(editor);
 
   ColorizeWord(editor, text.substr(0, text.find(' ')), loop);
   Require(editor.Bytes() == text, "colouring a word changes no text");
