@@ -14,6 +14,7 @@ struct MemoryDocument : ScintillaDocument {
   SciRange selection;
   bool selectionHidden = false;
   bool focused = true;
+  SciRange page = {0, 1'000'000};
   std::string styles;  // one for each byte of utf8
   SciPosition styledEnd = 0;
   char hiddenStyle = '\0';
@@ -48,7 +49,11 @@ struct MemoryDocument : ScintillaDocument {
   void Select(SciRange range) override { selection = range; }
   void HideSelection(bool hidden) override { selectionHidden = hidden; }
   bool HasFocus() const override { return focused; }
+  SciRange Page() const override {
+    return {std::min(page.start, Size()), std::min(page.end, Size())};
+  }
   SciPosition StyledEnd() const override { return styledEnd; }
+  void SetStyledEnd(SciPosition end) override { styledEnd = end; }
   void ForgetStyles(SciPosition from) override { styledEnd = std::min(styledEnd, from); }
   void SetStyles(SciPosition at, std::string_view pieces) override {
     styles.replace(Index(at), pieces.size(), pieces);

@@ -3,6 +3,7 @@
 // needs the one above
 #include <rapidcheck/gtest.h>
 
+#include "colouring/Colouring.h"
 #include "qt/ScintillaViewFixture.h"
 #include "text/Text.h"
 
@@ -15,7 +16,15 @@ struct Agreement : ScintillaViewFixture {
   void Check() {
     RC_ASSERT(Displayed() == model.Text());
     RC_ASSERT(screen.Selection() == Selected());
-    RC_ASSERT(screen.Colours() == model.Store().Runs(0, model.Length()));
+    RC_ASSERT(screen.Colours() == ColoursToDraw());
+  }
+
+  std::vector<ColourRun> ColoursToDraw() {
+    if (!view.LiveColours()) return model.Store().Runs(0, model.Length());
+    RichTextBox fresh(controls, "fresh");
+    fresh.SetText(model.Text());
+    ColorizeDocument(fresh, [](const std::string&) {});
+    return fresh.Store().Runs(0, fresh.Length());
   }
 };
 
@@ -23,7 +32,9 @@ struct Agreement : ScintillaViewFixture {
 constexpr std::string_view kSomeBytes = "\r\n\r\nab \tC\x80\x93\xE4\xFF\x81\0z";
 
 rc::Gen<std::string> SomeText() {
-  return rc::gen::container<std::string>(rc::gen::elementOf(std::string(kSomeBytes)));
+  return rc::gen::oneOf(
+      rc::gen::container<std::string>(rc::gen::elementOf(std::string(kSomeBytes))),
+      rc::gen::element<std::string>("/*", "*/", "//", "define", " actor ", "definequote "));
 }
 
 struct Step {
@@ -40,7 +51,7 @@ void showValue(const Step& step, std::ostream& out) {
 }
 
 rc::Gen<Step> SomeStep() {
-  return rc::gen::build<Step>(rc::gen::set(&Step::kind, rc::gen::inRange(0, 18)),
+  return rc::gen::build<Step>(rc::gen::set(&Step::kind, rc::gen::inRange(0, 19)),
                               rc::gen::set(&Step::at, rc::gen::inRange(0, 60)),
                               rc::gen::set(&Step::length, rc::gen::inRange(0, 12)),
                               rc::gen::set(&Step::text, SomeText()));
@@ -114,6 +125,9 @@ void Play(Agreement& editor, const Step& step) {
       break;
     case 12:
       model.Redo();
+      break;
+    case 13:
+      editor.view.SetLiveColours(step.at % 3 != 0);
       break;
     default: {
       const KeyPress& press = kKeys[static_cast<std::size_t>(step.at) % std::size(kKeys)];

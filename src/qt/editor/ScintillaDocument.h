@@ -34,9 +34,13 @@ class ScintillaDocument {
   virtual void Select(SciRange range) = 0;
   virtual void HideSelection(bool hidden) = 0;
   virtual bool HasFocus() const = 0;
+  /// The lines that are in sight.
+  virtual SciRange Page() const = 0;
 
   /// Up to there the text has styles; a change of the text takes it back to the change.
   virtual SciPosition StyledEnd() const = 0;
+  /// Says that it is there, and draws nothing.
+  virtual void SetStyledEnd(SciPosition end) = 0;
   /// Takes it back to `from`, and draws.
   virtual void ForgetStyles(SciPosition from) = 0;
   /// One style for each UTF-8 byte from `at` on. The text has styles up to their end then.

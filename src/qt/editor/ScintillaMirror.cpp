@@ -38,6 +38,7 @@ void ScintillaMirror::EndBusy(MirrorState next) {
 // --- From the model
 
 void ScintillaMirror::Replaced(Position at, Position removed, Position inserted) {
+  FollowColours(at, removed, inserted);
   const bool expected = expected_ != nullptr && expected_->at == at &&
                         expected_->removed == removed &&
                         std::ssize(expected_->inserted) == inserted;
@@ -56,7 +57,23 @@ void ScintillaMirror::Replaced(Position at, Position removed, Position inserted)
 }
 
 void ScintillaMirror::Painted(Position at, Position /*length*/) {
+  if (!colours_.AreLive()) RecolourFrom(at);
+}
+
+void ScintillaMirror::RecolourFrom(Position at) {
   recolourFrom_ = std::min(recolourFrom_.value_or(at), at);
+}
+
+void ScintillaMirror::FollowColours(Position at, Position removed, Position inserted) {
+  if (!InSight(model_)) colours_.Rest();
+  if (const auto from = colours_.Follow(at, removed, inserted)) RecolourFrom(*from);
+}
+
+void ScintillaMirror::SetLiveColours(bool live) {
+  if (live == colours_.AreLive()) return;
+  colours_.SetLive(live);
+  RecolourFrom(0);
+  Follow();
 }
 
 void ScintillaMirror::Follow() {
@@ -146,7 +163,28 @@ void ScintillaMirror::ColoursNeeded(SciPosition end) {
     recolourFrom_ = 0;  // the two texts differ for the moment: CatchUp makes it ask again
     return;
   }
-  Show([&] { text_.ColourUpTo(end, model_.Store()); });
+  Show([&] {
+    if (colours_.AreLive()) {
+      text_.ColourPage(end, model_.Bytes(), colours_);
+    } else {
+      text_.ColourUpTo(end, model_.Bytes(), colours_);
+    }
+  });
+}
+
+void ScintillaMirror::AboutToDraw() {
+  if (colours_.AreLive() && state_.Is(kInStep)) text_.AskForPage();
+}
+
+// What a person's edit colours anew may be anywhere on the page, where the document draws no more
+// than the line.
+void ScintillaMirror::ColourPageAfterGesture() {
+  if (!colours_.AreLive() || !recolourFrom_ || !state_.Is(kInStep)) return;
+  Show([&] {
+    text_.Outdate(*recolourFrom_);
+    recolourFrom_.reset();
+    text_.ColourPage(0, model_.Bytes(), colours_);
+  });
 }
 
 void ScintillaMirror::ByHand(const std::function<void()>& gesture, bool typing) {
@@ -187,6 +225,7 @@ void ScintillaMirror::TakeOver() {
     throw;
   }
   EndTakeOver();
+  ColourPageAfterGesture();
   if (state_.Is(kStale) || gestureDepth_ == 0) CatchUp();
 }
 

@@ -9,6 +9,7 @@
 
 #include "base/Event.h"
 #include "models/RichTextBox.h"
+#include "qt/editor/DrawnColours.h"
 #include "qt/editor/MirrorState.h"
 #include "qt/editor/ScintillaDocument.h"
 #include "qt/editor/ScintillaEdits.h"
@@ -42,6 +43,8 @@ class ScintillaMirror : private TextStoreView {
   void BeforeDeletion(SciPosition at, SciPosition length);
   /// Its selection may have moved.
   void SelectionMayHaveMoved();
+  /// It is about to draw.
+  void AboutToDraw();
   /// It is about to draw up to `end`.
   void ColoursNeeded(SciPosition end);
   void FocusChanged() { ShowOrHideSelection(); }
@@ -67,6 +70,10 @@ class ScintillaMirror : private TextStoreView {
   Position OffsetOf(SciPosition position) const { return text_.OffsetOf(position); }
   /// From now on no more than so many bytes of each line are drawn; nothing: all of them.
   void ShowOfLines(std::optional<Position> bytes) { text_.ShowOfLines(bytes); }
+  /// True: what is drawn has the colours that a fresh pass over the text would give, whatever the
+  /// model's are. The model stays as it is.
+  void SetLiveColours(bool live);
+  bool LiveColours() const { return colours_.AreLive(); }
   Colour ColourOfStyle(int style) const { return text_.Styles().ColourOf(style); }
   bool SelectionHidden() const { return selectionHidden_; }
   void SetTheme(const EditorTheme& theme) { text_.Styles().SetTheme(theme); }
@@ -83,10 +90,13 @@ class ScintillaMirror : private TextStoreView {
   // --- From the model
   void Replaced(Position at, Position removed, Position inserted) override;
   void Painted(Position at, Position length) override;
+  void RecolourFrom(Position at);
+  void FollowColours(Position at, Position removed, Position inserted);
   void CatchUp();
   /// Changes the document; goes from kInStep or kStale to kInStep.
   template <class Change>
   void Show(const Change& change);
+  void ColourPageAfterGesture();
   void ShowSelection();
   void ShowOrHideSelection();
   SciRange ModelSelection() const;
@@ -106,6 +116,7 @@ class ScintillaMirror : private TextStoreView {
   RichTextBox& model_;
   ScintillaDocument& document_;
   ScintillaText text_;
+  DrawnColours colours_{model_.Store()};
   ScintillaEdits edits_;  // none while in step
   MirrorStateMachine state_;
   std::optional<Position> recolourFrom_;     // colours changed, from there at the earliest

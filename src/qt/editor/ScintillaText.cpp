@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 #include "qt/base/Utf8.h"
 #include "qt/base/Windows1252Qt.h"
@@ -9,6 +10,9 @@
 
 namespace tessel {
 namespace {
+
+// What takes less than a millisecond to colour is not left out.
+constexpr SciPosition kFar = 65'536;
 
 /// Spreads what there is one of for each character over the bytes of the characters.
 std::string OnePerByte(std::string_view perCharacter, std::string_view utf8) {
@@ -75,23 +79,49 @@ void ScintillaText::ForgetColours(Position from) {
   if (start < document_.StyledEnd()) document_.ForgetStyles(start);
 }
 
-void ScintillaText::ColourUpTo(SciPosition end, const TextStore& store) {
-  const SciPosition start = StartOfCharacterAt(document_.StyledEnd());
+void ScintillaText::ColourUpTo(SciPosition end, std::string_view bytes, DrawnColours& colours) {
+  ColourRange({document_.StyledEnd(), end}, bytes, colours);
+}
+
+void ScintillaText::ColourPage(SciPosition end, std::string_view bytes, DrawnColours& colours) {
+  const SciRange page = document_.Page();
+  const SciPosition styled = document_.StyledEnd();
+  const SciPosition start = page.start - styled > kFar ? page.start : styled;
+  styledFrom_ = start == styled ? std::min(styledFrom_, start) : start;
+  ColourRange({start, std::max(page.end, end)}, bytes, colours);
+}
+
+void ScintillaText::AskForPage() {
+  const SciPosition page = document_.Page().start;
+  if (page >= styledFrom_) return;
+  styledFrom_ = page > kFar ? page : 0;
+  document_.SetStyledEnd(styledFrom_);
+}
+
+void ScintillaText::Outdate(Position from) {
+  const SciPosition start = PositionOf(from);
+  if (start < document_.StyledEnd()) document_.SetStyledEnd(start);
+}
+
+void ScintillaText::ColourRange(SciRange range, std::string_view bytes, DrawnColours& colours) {
+  const SciPosition start = StartOfCharacterAt(range.start);
+  const SciPosition end = range.end;
   if (start >= end) return;
+  const std::span<const Colour> palette = colours.Palette();
   std::array<char, 256> styleOfIndex{};
-  std::ranges::transform(store.Palette(), styleOfIndex.begin(), [this](Colour colour) {
+  std::ranges::transform(palette, styleOfIndex.begin(), [this](Colour colour) {
     return static_cast<char>(styles_.StyleOf(colour));
   });
   const Position first = OffsetOf(start);
   const Position length = OffsetOf(end) - first;
   std::string styles(static_cast<std::size_t>(length), '\0');
-  std::ranges::transform(
-      store.ColourIndices().substr(first, length), styles.begin(),
-      [&](char index) { return styleOfIndex[static_cast<unsigned char>(index)]; });
-  const auto bytes = store.Bytes().substr(static_cast<std::size_t>(first), styles.size());
-  if (LongestLine(bytes) >= kLongLine)
-    PartLongLines(bytes, TwinsOf({styleOfIndex.data(), store.Palette().size()}), styles);
-  if (shownOfLines_) HideTails(store.Bytes(), first, styles);
+  std::ranges::transform(colours.Indices(first, first + length), styles.begin(), [&](char index) {
+    return styleOfIndex[static_cast<unsigned char>(index)];
+  });
+  const auto coloured = bytes.substr(static_cast<std::size_t>(first), styles.size());
+  if (LongestLine(coloured) >= kLongLine)
+    PartLongLines(coloured, TwinsOf({styleOfIndex.data(), palette.size()}), styles);
+  if (shownOfLines_) HideTails(bytes, first, styles);
   if (length != end - start) styles = OnePerByte(styles, Utf8(start, end - start));
   document_.SetStyles(start, styles);
 }

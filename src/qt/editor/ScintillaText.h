@@ -6,10 +6,11 @@
 #include <string>
 #include <string_view>
 
+#include "qt/editor/DrawnColours.h"
 #include "qt/editor/ScintillaDocument.h"
 #include "qt/editor/ScintillaIndex.h"
 #include "qt/editor/ScintillaStyles.h"
-#include "text/TextStore.h"
+#include "text/TextTypes.h"
 
 namespace tessel {
 
@@ -31,8 +32,19 @@ class ScintillaText {
   /// Makes the document ask for colours before it draws what lies behind `from`.
   /// After a change of the text it does so by itself.
   void ForgetColours(Position from);
-  /// Colours everything up to `end` that the document has no colours for, as it stands in `store`.
-  void ColourUpTo(SciPosition end, const TextStore& store);
+  /// Colours everything up to `end` that the document has no colours for. `bytes` is the model's
+  /// text, which is the document's now.
+  void ColourUpTo(SciPosition end, std::string_view bytes, DrawnColours& colours);
+
+  // --- The same for colours that change far from an edit: only what is in sight is sure to be
+  // right
+  /// Colours the page in sight and everything up to `end`. What lies far in front of the page stays
+  /// as it is until it is in sight.
+  void ColourPage(SciPosition end, std::string_view bytes, DrawnColours& colours);
+  /// Makes the document ask for colours where it is about to draw what has none.
+  void AskForPage();
+  /// The colours from there on are others now. Draws nothing.
+  void Outdate(Position from);
 
   /// From now on no more than so many bytes of each line are drawn; nothing: all of them.
   void ShowOfLines(std::optional<Position> bytes);
@@ -49,6 +61,7 @@ class ScintillaText {
   const ScintillaStyles& Styles() const { return styles_; }
 
  private:
+  void ColourRange(SciRange range, std::string_view bytes, DrawnColours& colours);
   /// The second style of each of these, at its number.
   std::array<char, 256> TwinsOf(std::string_view someStyles);
   void HideTails(std::string_view whole, Position first, std::string& styles);
@@ -58,6 +71,7 @@ class ScintillaText {
   ScintillaIndex index_;
   ScintillaStyles styles_;
   std::optional<Position> shownOfLines_;
+  SciPosition styledFrom_ = 0;  // ColourPage has left out what lies in front of it
 };
 
 }  // namespace tessel

@@ -294,6 +294,11 @@ void ScintillaView::ApplyTheme() {
   mirror_.SetTheme(theme);
 }
 
+void ScintillaView::paintEvent(QPaintEvent* event) {
+  mirror_.AboutToDraw();
+  QsciScintillaBase::paintEvent(event);
+}
+
 void ScintillaView::changeEvent(QEvent* event) {
   QsciScintillaBase::changeEvent(event);
   switch (event->type()) {

@@ -51,6 +51,11 @@ class ScintillaView : public QsciScintillaBase {
   void SetReading(const std::optional<Reading>& reading);
   const std::optional<Reading>& CurrentReading() const { return reading_; }
 
+  /// True: draws the colours that a fresh colouring of the text would give, kept up while it is
+  /// edited, in place of the model's. Model and undo know nothing of it.
+  void SetLiveColours(bool live) { mirror_.SetLiveColours(live); }
+  bool LiveColours() const { return mirror_.LiveColours(); }
+
   /// Draws a box around the selection until it is called with false, also while the selection is
   /// hidden. The selection stays what it is.
   void OutlineSelection(bool outline) { outline_.Want(outline); }
@@ -67,6 +72,7 @@ class ScintillaView : public QsciScintillaBase {
 
  protected:
   bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

@@ -3,6 +3,7 @@
 #include <Qsci/qsciscintillabase.h>
 
 #include <QWidget>
+#include <algorithm>
 
 namespace tessel {
 namespace {
@@ -51,17 +52,36 @@ void WidgetDocument::HideSelection(bool hidden) {
 
 bool WidgetDocument::HasFocus() const { return widget_.hasFocus(); }
 
+// Lines are counted as they are shown; the last one may be in sight in part.
+SciRange WidgetDocument::Page() const {
+  const auto lineShownAt = [this](long place) {
+    return widget_.SendScintilla(Sci::SCI_DOCLINEFROMVISIBLE, Unsigned(place));
+  };
+  const long first = widget_.SendScintilla(Sci::SCI_GETFIRSTVISIBLELINE);
+  const long last = first + widget_.SendScintilla(Sci::SCI_LINESONSCREEN);
+  return {StartOfLine(lineShownAt(first)), StartOfLine(lineShownAt(last) + 1)};
+}
+
+SciPosition WidgetDocument::StartOfLine(long line) const {
+  const long lines = widget_.SendScintilla(Sci::SCI_GETLINECOUNT);
+  return line < lines ? widget_.SendScintilla(Sci::SCI_POSITIONFROMLINE, Unsigned(line)) : Size();
+}
+
 SciPosition WidgetDocument::StyledEnd() const {
   return widget_.SendScintilla(Sci::SCI_GETENDSTYLED);
 }
 
+void WidgetDocument::SetStyledEnd(SciPosition end) {
+  widget_.SendScintilla(Sci::SCI_STARTSTYLING, Unsigned(end), 0L);
+}
+
 void WidgetDocument::ForgetStyles(SciPosition from) {
-  widget_.SendScintilla(Sci::SCI_STARTSTYLING, Unsigned(from), 0L);
+  SetStyledEnd(from);
   widget_.viewport()->update();
 }
 
 void WidgetDocument::SetStyles(SciPosition at, std::string_view styles) {
-  widget_.SendScintilla(Sci::SCI_STARTSTYLING, Unsigned(at), 0L);
+  SetStyledEnd(at);
   widget_.SendScintilla(Sci::SCI_SETSTYLINGEX, static_cast<uintptr_t>(styles.size()),
                         styles.data());
 }

@@ -20,13 +20,17 @@ class WidgetDocument : public ScintillaDocument {
   void Select(SciRange range) override;
   void HideSelection(bool hidden) override;
   bool HasFocus() const override;
+  SciRange Page() const override;
   SciPosition StyledEnd() const override;
+  void SetStyledEnd(SciPosition end) override;
   void ForgetStyles(SciPosition from) override;
   void SetStyles(SciPosition at, std::string_view styles) override;
   void PaintStyle(int style, const QColor& colour) override;
   void HideStyle(int style) override;
 
  private:
+  SciPosition StartOfLine(long line) const;
+
   QsciScintillaBase& widget_;
 };
 
