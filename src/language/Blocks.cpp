@@ -1,5 +1,6 @@
 #include "language/Blocks.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -26,8 +27,12 @@ bool ArePair(Keyword opener, Keyword closer) {
 
 }  // namespace
 
-BlockWalk::BlockWalk(const Script& script)
-    : script_(script), next_(script.Marks().begin()), last_(script.Marks().end()) {}
+BlockWalk::BlockWalk(const Script& script, Position from)
+    : script_(script), next_(script.MarksFrom(from).begin()), last_(script.Marks().end()) {}
+
+bool BlockWalk::IsOpen(std::size_t block) const {
+  return std::ranges::binary_search(open_, block);  // they stand in each other
+}
 
 std::optional<Mark> BlockWalk::Following() const {
   if (next_ == last_) return std::nullopt;

@@ -37,7 +37,9 @@ struct Block {
 /// what is left open by then is not terminated.
 class BlockWalk {
  public:
-  explicit BlockWalk(const Script& script);
+  explicit BlockWalk(const Script& script) : BlockWalk(script, 0) {}
+  /// Begins at an offset in front of which nothing is open.
+  BlockWalk(const Script& script, Position from);
 
   /// Goes to the next statement; false behind the last, and then every block is in `blocks`.
   bool Next();
@@ -49,6 +51,8 @@ class BlockWalk {
 
   /// The blocks so far, in the order of their openers. What is still open ends nowhere yet.
   const std::vector<Block>& Blocks() const { return blocks_; }
+  /// Whether nothing has ended that block yet.
+  bool IsOpen(std::size_t block) const;
   std::vector<Block> TakeBlocks() { return std::move(blocks_); }
 
  private:

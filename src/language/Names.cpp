@@ -1,36 +1,16 @@
 #include "language/Names.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "language/Blocks.h"
 #include "language/Reader.h"
 #include "language/Statement.h"
+#include "language/Structure.h"
 #include "text/TextSearch.h"
 
 namespace tessel::language {
 namespace {
-
-Symbol ReadSymbol(const Script& script, Mark mark) {
-  const Statement statement = ReadStatement(script, mark);
-  Symbol symbol;
-  symbol.keyword = mark.keyword;
-  symbol.range = statement.range;
-  symbol.name = statement.name;
-  if (mark.keyword == Keyword::kDefineLevelName && !statement.words.empty()) {
-    const std::size_t last = std::min<std::size_t>(statement.words.size(), 2) - 1;
-    symbol.name = {statement.words.front().begin, statement.words[last].end};
-  }
-  const auto behind = std::ranges::find_if(
-      statement.words, [&](Range word) { return word.begin >= symbol.name.end; });
-  symbol.detail = behind == statement.words.end() ? Range{statement.range.end, statement.range.end}
-                                                  : Range{behind->begin, statement.range.end};
-  return symbol;
-}
-
-bool IsListed(const BlockWalk& walk) {
-  return walk.CurrentRole() == Role::kDefines || walk.Current().keyword == Keyword::kMusic ||
-         (walk.CurrentRole() == Role::kOpens && walk.Current().keyword != Keyword::kOpenBrace);
-}
 
 /// Whether a word of a statement, counted from 1, can be a name.
 bool CanBeName(Keyword keyword, int word) {
@@ -114,21 +94,10 @@ class UseReader {
 }  // namespace
 
 std::vector<Symbol> Symbols(const Script& script) {
-  std::vector<Symbol> symbols;
-  std::vector<std::size_t> blockOf;  // for each symbol, one more than the index of its block
-  BlockWalk walk(script);
-  while (walk.Next()) {
-    if (!IsListed(walk)) continue;
-    symbols.push_back(ReadSymbol(script, walk.Current()));
-    blockOf.push_back(walk.CurrentRole() == Role::kOpens ? walk.Blocks().size() : 0);
+  StructureWalk walk(script);
+  while (walk.Read(std::numeric_limits<int>::max())) {
   }
-  for (std::size_t i = 0; i < symbols.size(); ++i) {
-    if (blockOf[i] == 0) continue;
-    const Block& block = walk.Blocks()[blockOf[i] - 1];
-    symbols[i].range = block.range;
-    symbols[i].terminated = block.terminated;
-  }
-  return symbols;
+  return walk.Take().symbols;
 }
 
 std::vector<Use> UsesOf(const Script& script, std::string_view name) {
@@ -142,6 +111,12 @@ std::vector<Use> UsesOf(const Script& script, std::string_view name) {
     if (!words.IsWord(word)) continue;
     if (const auto use = statements.UseOf(word)) uses.push_back(*use);
   }
+  return uses;
+}
+
+std::vector<Use> DefinitionsOfName(const Script& script, std::string_view name) {
+  std::vector<Use> uses = UsesOf(script, name);
+  std::erase_if(uses, [](const Use& use) { return use.kind != UseKind::kDefines; });
   return uses;
 }
 

@@ -39,6 +39,9 @@ struct Use {
 /// name.
 std::vector<Use> UsesOf(const Script& script, std::string_view name);
 
+/// The words that give that name to something, in the order of the text.
+std::vector<Use> DefinitionsOfName(const Script& script, std::string_view name);
+
 /// The word or brace that holds a byte or, for a caret, ends in front of it; nothing in a comment.
 std::optional<Range> WordAt(const Script& script, Position offset);
 

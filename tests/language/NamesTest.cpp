@@ -49,6 +49,16 @@ std::string WordTextAt(std::string_view text, Position offset) {
   return word ? std::string(script.Text(*word)) : "none";
 }
 
+TEST(DefinitionsOfName, AreTheUsesThatGiveIt) {
+  const Script script("define a 1\nstate A ends actor b { state a action a } enda\naction A 0\n");
+  std::vector<std::string> shown;
+  for (const Use& use : DefinitionsOfName(script, "a")) {
+    shown.push_back(std::string(GrammarOf(*use.keyword).word) + " " +
+                    std::to_string(script.PlaceOf(use.word.begin).line));
+  }
+  EXPECT_THAT(shown, ElementsAre("define 1", "state 2", "action 3"));
+}
+
 TEST(Symbols, AreWhatHasANameOrANumber) {
   EXPECT_THAT(SymbolTexts("define A 1 // x\ndefinequote 5 HO HO\ndefinevolumename 0 V\n"
                           "definelevelname 0 7 E1L8.map 05:00 03:00 T U\n"
