@@ -24,7 +24,7 @@ class FullDiskInRecovery : public HostTest {
     mounted_ = true;
     ::setenv("XDG_STATE_HOME", (disk_ + "/state").c_str(), 1);
     std::ofstream(user_) << kOld;
-    run_ = std::make_unique<HostRun>(State());
+    run_ = std::make_unique<HostRun>(State(), settings_);
     Run().window->OpenFiles({user_});
     Run().Editor(0).Type(typed_);
     ASSERT_TRUE(Run().window->findChild<RecoveryKeeper*>()->KeepNow());
