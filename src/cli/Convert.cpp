@@ -4,8 +4,8 @@
 #include "base/RuntimeError.h"
 #include "cli/DocumentSession.h"
 #include "cli/Subcommands.h"
-#include "cli/files/LineEnds.h"
 #include "converter/Converter.h"
+#include "text/LineEnds.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

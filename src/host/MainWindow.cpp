@@ -24,6 +24,7 @@
 #include "host/menu/TabMenu.h"
 #include "host/menu/WindowKeys.h"
 #include "host/panel/ReplacementOutline.h"
+#include "host/status/DocumentStatus.h"
 #include "host/view/EditorLooks.h"
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
@@ -54,20 +55,6 @@ std::string OpenedPathOf(TesselWidget& control, const std::string& file) {
     if (PathOfFile(path) == file) return path;
   }
   return file;
-}
-
-struct CaretPlace {
-  qsizetype line = 1;
-  qsizetype column = 1;
-};
-
-/// The caret's line and column, both from 1. A lone CR, a lone LF and CR LF each break a line.
-CaretPlace PlaceOfCaret(const ScintillaView& view) {
-  const long at = view.SendScintilla(QsciScintillaBase::SCI_GETCURRENTPOS);
-  const long line = view.SendScintilla(QsciScintillaBase::SCI_LINEFROMPOSITION, at);
-  const long start = view.SendScintilla(QsciScintillaBase::SCI_POSITIONFROMLINE, line);
-  const long characters = view.SendScintilla(QsciScintillaBase::SCI_COUNTCHARACTERS, start, at);
-  return {line + 1, characters + 1};
 }
 
 Services With(const Services& s, FileDialogs& dialogs) {
@@ -116,7 +103,6 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   connect(control_, &TesselWidget::statusText, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::textRefused, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::documentChanged, this, &MainWindow::ShowDocument);
-  connect(control_, &TesselWidget::caretMoved, this, &MainWindow::ShowCaret);
   ShowDocument();
 }
 
@@ -183,15 +169,7 @@ void MainWindow::RememberSession() {
 
 void MainWindow::BuildStatusBar() {
   statusBar()->setSizeGripEnabled(true);
-  statusBar()->setAccessibleName(tr("Status"));
-  caret_ = new QLabel(this);
-  caret_->setAccessibleName(tr("Caret"));
-  caret_->setMinimumWidth(fontMetrics().horizontalAdvance("Ln 000000, Col 0000"));
-  modified_ = new QLabel(this);
-  modified_->setAccessibleName(tr("State of the document"));
-  modified_->setMinimumWidth(fontMetrics().horizontalAdvance("Modified") + 12);
-  statusBar()->addPermanentWidget(caret_);
-  statusBar()->addPermanentWidget(modified_);
+  new DocumentStatus(*statusBar(), *control_);
 }
 
 void MainWindow::OpenFiles(const std::vector<std::string>& paths) {
@@ -210,15 +188,6 @@ void MainWindow::ShowDocument() {
   const QString name = ShownName(document.Name());
   setWindowTitle(name.isEmpty() ? tr("Zanth Manager[*]") : name + tr("[*] \u2013 Zanth Manager"));
   setWindowModified(modified);
-  modified_->setText(modified ? tr("Modified") : QString());
-  ShowCaret();
-}
-
-void MainWindow::ShowCaret() {
-  const ScintillaView* view = control_->CurrentEditorView();
-  if (view == nullptr) return;
-  const CaretPlace place = PlaceOfCaret(*view);
-  caret_->setText(tr("Ln %1, Col %2").arg(place.line).arg(place.column));
 }
 
 // Keys belong to the text from the first one on.

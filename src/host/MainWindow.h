@@ -1,7 +1,6 @@
 // The window of Zanth Manager.
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <QTimer>
 #include <string>
@@ -78,7 +77,6 @@ class MainWindow : public QMainWindow {
   bool KeepAsBackup(const std::string& path, std::string_view text);
   void RestoreBackup(const Backup& backup);
   void ShowDocument();
-  void ShowCaret();
   void RememberSession();
   void SaveLook();
 
@@ -98,8 +96,6 @@ class MainWindow : public QMainWindow {
   KeepingLog* log_ = nullptr;
   QTimer session_;
   Subscription asking_;
-  QLabel* caret_ = nullptr;
-  QLabel* modified_ = nullptr;
 };
 
 }  // namespace tessel

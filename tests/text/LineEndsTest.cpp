@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cli/files/LineEnds.h"
+#include "text/LineEnds.h"
 
 namespace tessel::cli {
 namespace {

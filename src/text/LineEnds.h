@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace tessel::cli {
+namespace tessel {
 
 enum class LineEnd { kCrLf, kLf, kCr };
 
@@ -27,4 +27,4 @@ const char* NameOf(LineEnd lineEnd);
 /// The text with each of its breaks written as this one.
 std::string WithLineEnds(std::string_view text, LineEnd lineEnd);
 
-}  // namespace tessel::cli
+}  // namespace tessel

@@ -1,6 +1,6 @@
-#include "cli/files/LineEnds.h"
+#include "text/LineEnds.h"
 
-namespace tessel::cli {
+namespace tessel {
 namespace {
 
 struct Break {
@@ -74,4 +74,4 @@ std::string WithLineEnds(std::string_view text, LineEnd lineEnd) {
   return result.append(text.substr(from));
 }
 
-}  // namespace tessel::cli
+}  // namespace tessel

@@ -1,0 +1,103 @@
+#include "host/status/DocumentStatus.h"
+
+#include "language/Definitions.h"
+#include "language/Levels.h"
+#include "qt/editor/ScintillaView.h"
+#include "text/LineEnds.h"
+#include "text/TextSearch.h"
+
+namespace tessel {
+namespace {
+
+using Sci = QsciScintillaBase;
+
+constexpr int kPauseMilliseconds = 400;
+
+/// A look at the bytes spares the reading of a text in which the word stands nowhere.
+bool Holds(std::string_view text, std::string_view word) {
+  return FindText(text, word, 0, std::ssize(text), kFindWholeWord) != kNotFound;
+}
+
+/// A lone CR, a lone LF and CR LF each end a line; both count from 1.
+struct CaretPlace {
+  long line = 1;
+  long column = 1;
+};
+
+CaretPlace PlaceOfCaret(const ScintillaView& view) {
+  const long at = view.SendScintilla(Sci::SCI_GETCURRENTPOS);
+  const long line = view.SendScintilla(Sci::SCI_LINEFROMPOSITION, at);
+  const long start = view.SendScintilla(Sci::SCI_POSITIONFROMLINE, line);
+  return {line + 1, view.SendScintilla(Sci::SCI_COUNTCHARACTERS, start, at) + 1};
+}
+
+}  // namespace
+
+QString DialectOf(std::string_view text) {
+  const bool newer = Holds(text, "QSIZE");
+  const bool older = Holds(text, "definelevelname");
+  if (!newer && !older) return {};
+  const language::Script script(text);
+  if (newer && !DefinitionsOf(script, "QSIZE").empty()) return QStringLiteral("1.4/1.5");
+  return older && !language::Levels(script).empty() ? QStringLiteral("1.3D") : QString();
+}
+
+QString LineEndsShown(std::string_view text) {
+  const LineEnds ends = LineEndsOf(text);
+  if (ends.Mixed()) return DocumentStatus::tr("Mixed");
+  return ends.Only() ? QString::fromLatin1(NameOf(*ends.Only())) : QString();
+}
+
+DocumentStatus::DocumentStatus(QStatusBar& bar, TesselWidget& control)
+    : QObject(&bar),
+      control_(control),
+      selection_(AddLabel(bar, tr("%1 selected").arg(100'000), tr("Characters that are selected"))),
+      caret_(AddLabel(bar, "Ln 000000, Col 0000", tr("Line and column of the caret"))),
+      encoding_(AddLabel(bar, {}, tr("How the bytes of the file are shown"))),
+      lineEnds_(AddLabel(bar, "Mixed", tr("How the lines end"))),
+      dialect_(AddLabel(bar, "1.4/1.5", tr("The version of the game that the text is for"))),
+      modified_(AddLabel(bar, tr("Modified"), {})) {
+  encoding_->setText(QStringLiteral("Windows-1252"));
+  reading_.setSingleShot(true);
+  reading_.setInterval(kPauseMilliseconds);
+  connect(&reading_, &QTimer::timeout, this, &DocumentStatus::ReadText);
+  connect(&control_, &TesselWidget::documentChanged, this, &DocumentStatus::ShowDocument);
+  connect(&control_, &TesselWidget::caretMoved, this, &DocumentStatus::ShowCaret);
+  subscriptions_ = {control_.Tessel().OpenDocuments().Changed.Connect(
+      [this](const Document&) { reading_.start(); })};
+  ShowDocument();
+}
+
+QLabel* DocumentStatus::AddLabel(QStatusBar& bar, const QString& widest, const QString& tip) {
+  auto* label = new QLabel(&bar);
+  label->setTextFormat(Qt::PlainText);
+  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest) + 12);
+  label->setToolTip(tip);
+  label->setAccessibleDescription(tip);
+  bar.addPermanentWidget(label);
+  return label;
+}
+
+void DocumentStatus::ShowDocument() {
+  modified_->setText(control_.Tessel().OpenDocuments().Current().Modified() ? tr("Modified")
+                                                                            : QString());
+  ShowCaret();
+  reading_.start();
+}
+
+void DocumentStatus::ShowCaret() {
+  const ScintillaView* view = control_.CurrentEditorView();
+  if (view == nullptr) return;
+  const CaretPlace place = PlaceOfCaret(*view);
+  caret_->setText(tr("Ln %1, Col %2").arg(place.line).arg(place.column));
+  const Position selected = control_.Tessel().OpenDocuments().CurrentEditor().SelLength();
+  selection_->setText(selected > 0 ? tr("%1 selected").arg(selected) : QString());
+}
+
+void DocumentStatus::ReadText() {
+  const std::string_view text = control_.Tessel().OpenDocuments().CurrentEditor().Bytes();
+  lineEnds_->setText(LineEndsShown(text));
+  dialect_->setText(DialectOf(text));
+}
+
+}  // namespace tessel
