@@ -94,6 +94,8 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   column->addWidget(new ReadingNotice(*control_, centre));
   column->addWidget(new ConversionNotice(control_->Tessel(), centre));
   column->addWidget(control_, 1);
+  find_ = new FindBar(*control_, centre);
+  column->addWidget(find_);
   setCentralWidget(centre);
   setAcceptDrops(true);
   qApp->installEventFilter(this);
@@ -151,6 +153,10 @@ void MainWindow::OfferTextCommands() {
   menu_->On(kUndo, [this] { histories_.Undo(); });
   menu_->On(kRedo, [this] { histories_.Redo(); });
   menu_->On(kToggleComment, [this] { ToggleCommentLines(*control_); });
+  menu_->On(kFindBar, [this] { find_->Find(); });
+  menu_->On(kNextMatch, [this] { find_->FindNext(); });
+  menu_->On(kPreviousMatch, [this] { find_->FindPrevious(); });
+  connect(find_, &FindBar::told, this, &MainWindow::ShowNotice);
   menu_->On(kGoToLine, [this] { AskForLine(*control_); });
   connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
 }

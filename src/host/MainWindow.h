@@ -11,6 +11,7 @@
 #include "host/HostFileDialogs.h"
 #include "host/OrphanedText.h"
 #include "host/edit/TextCommands.h"
+#include "host/find/FindBar.h"
 #include "host/history/Histories.h"
 #include "host/menu/MainMenu.h"
 #include "host/panel/PanelGuard.h"
@@ -91,6 +92,7 @@ class MainWindow : public QMainWindow {
   GuardedFiles& files_;
   MessageBox& messages_;
   MainMenu* menu_ = nullptr;
+  FindBar* find_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
   KeepingLog* log_ = nullptr;

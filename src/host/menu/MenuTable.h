@@ -26,7 +26,14 @@ enum class WindowCommand {
   kRedo,
   kToggleComment,
   // Search
+  kFindBar,
+  kReplace,
+  kNextMatch,
+  kPreviousMatch,
   kGoToLine,
+  kGoToDefinition,
+  kGoBack,
+  kGoForward,
   // View
   kZoomIn,
   kZoomOut,
