@@ -24,6 +24,7 @@
 #include "host/menu/TabMenu.h"
 #include "host/menu/WindowKeys.h"
 #include "host/panel/ReplacementOutline.h"
+#include "host/script/ScriptTools.h"
 #include "host/status/DocumentStatus.h"
 #include "host/view/EditorLooks.h"
 #include "posix/PosixFiles.h"
@@ -158,6 +159,9 @@ void MainWindow::OfferTextCommands() {
   menu_->On(kPreviousMatch, [this] { find_->FindPrevious(); });
   connect(find_, &FindBar::told, this, &MainWindow::ShowNotice);
   menu_->On(kGoToLine, [this] { AskForLine(*control_); });
+  script_ = new ScriptTools(*this, *control_);
+  connect(script_, &ScriptTools::said, this, &MainWindow::ShowNotice);
+  menu_->Of(Menu::kSearch).addActions(script_->findChildren<QAction*>());
   connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
 }
 

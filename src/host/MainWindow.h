@@ -25,6 +25,7 @@ namespace tessel {
 
 class KeepingLog;
 class RecoveryKeeper;
+class ScriptTools;
 
 /// A window that the control fills, with a status bar for what the control has to say.
 class MainWindow : public QMainWindow {
@@ -93,6 +94,7 @@ class MainWindow : public QMainWindow {
   MessageBox& messages_;
   MainMenu* menu_ = nullptr;
   FindBar* find_ = nullptr;
+  ScriptTools* script_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
   KeepingLog* log_ = nullptr;

@@ -71,9 +71,6 @@ constexpr MenuRow kMenuRows[] = {
     Item(kSearch, TR("&Replace..."), "Ctrl+R; Ctrl+H", Do::kReplace),
     Line(kSearch),
     Item(kSearch, TR("Go to &Line..."), "Ctrl+G", Do::kGoToLine),
-    Item(kSearch, TR("Go to &Definition"), "F12", Do::kGoToDefinition),
-    Item(kSearch, TR("Go &Back"), "Alt+Left", Do::kGoBack),
-    Item(kSearch, TR("Go F&orward"), "Alt+Right", Do::kGoForward),
 
     TwoState(kView, TR("&Settings Panel"), "Ctrl+Shift+P", "ShowTabs"),
     TwoState(kView, TR("&Colorize"), nullptr, "Colorize"),

@@ -31,9 +31,6 @@ enum class WindowCommand {
   kNextMatch,
   kPreviousMatch,
   kGoToLine,
-  kGoToDefinition,
-  kGoBack,
-  kGoForward,
   // View
   kZoomIn,
   kZoomOut,
