@@ -363,6 +363,7 @@ void MainWindow::RestoreLook() {
     const bool wanted = settings.value(QString("toolbar/") + key, true).toBool();
     if (toolbar.Pressed(key) != wanted) toolbar.Press(key);
   }
+  script_->RestoreLook();
 }
 
 }  // namespace tessel

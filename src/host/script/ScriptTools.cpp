@@ -19,6 +19,8 @@ const ScriptCommand kScriptCommands[] = {
      &ScriptTools::GoBack},
     {"GoForward", QT_TRANSLATE_NOOP("ScriptTools", "Go F&orward"), Qt::ALT | Qt::Key_Right,
      &ScriptTools::GoForward},
+    {"ToggleOutline", QT_TRANSLATE_NOOP("ScriptTools", "&Outline"),
+     Qt::CTRL | Qt::SHIFT | Qt::Key_O, &ScriptTools::ToggleOutline},
 };
 
 }  // namespace
@@ -26,7 +28,9 @@ const ScriptCommand kScriptCommands[] = {
 ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control)
     : QObject(&control),
       scripts_(control.Tessel().Controls().rtbCon),
-      navigator_(control, scripts_) {
+      navigator_(control, scripts_),
+      reader_(control.Tessel().OpenDocuments(), scripts_, nullptr),
+      outline_(*new OutlineDock({control, scripts_, reader_, navigator_}, window)) {
   for (const ScriptCommand& command : kScriptCommands) {
     auto* action = new QAction(tr(command.text), this);
     action->setObjectName(command.name);
@@ -34,11 +38,20 @@ ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control)
     connect(action, &QAction::triggered, this, command.run);
     window.addAction(action);
   }
+  auto* outline = findChild<QAction*>("ToggleOutline");
+  outline->setCheckable(true);
+  connect(&outline_, &OutlineDock::shownChanged, outline, &QAction::setChecked);
 }
 
 void ScriptTools::GoToDefinition() {
   const QString sentence = navigator_.GoToDefinition();
   if (!sentence.isEmpty()) emit said(sentence);
+}
+
+void ScriptTools::ToggleOutline() {
+  const bool show = outline_.isHidden();
+  outline_.SetShown(show);
+  if (show) outline_.FocusFilter();
 }
 
 }  // namespace tessel

@@ -1,0 +1,60 @@
+#include "host/script/StructureReader.h"
+
+namespace tessel {
+namespace {
+
+constexpr int kStatementsAtOnce = 500;
+constexpr int kPieceMilliseconds = 4;
+
+}  // namespace
+
+StructureReader::StructureReader(DocumentList& documents, OpenScripts& scripts, QObject* parent)
+    : QObject(parent), documents_(documents), scripts_(scripts) {
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, &StructureReader::ReadOn);
+  subscriptions_ = {
+      scripts_.Changed.Connect([this](Slot slot, const ChangedRange&) {
+        if (walk_ && slot == slot_) walk_.reset();
+        if (slot == documents_.Current().Place()) StartIn(kPauseMilliseconds);
+      }),
+      documents_.Shown.Connect([this](const Document&) { StartIn(0); }),
+      documents_.Loaded.Connect([this](const Document&) { StartIn(0); }),
+  };
+}
+
+void StructureReader::SetWanted(const QObject* by, bool wanted) {
+  if (wanted) {
+    wishes_.insert(by);
+    StartIn(0);
+    return;
+  }
+  wishes_.erase(by);
+  if (!wishes_.empty()) return;
+  walk_.reset();
+  timer_.stop();
+}
+
+void StructureReader::StartIn(int milliseconds) {
+  if (wishes_.empty()) return;
+  walk_.reset();
+  timer_.start(milliseconds);
+}
+
+void StructureReader::ReadOn() {
+  if (!walk_) {
+    slot_ = documents_.Current().Place();
+    walk_.emplace(scripts_.Of(slot_));
+  }
+  QElapsedTimer time;
+  time.start();
+  while (walk_->Read(kStatementsAtOnce)) {
+    if (time.elapsed() < kPieceMilliseconds) continue;
+    timer_.start(0);
+    return;
+  }
+  const language::Structure structure = walk_->Take();
+  walk_.reset();
+  Read.Raise(slot_, structure);
+}
+
+}  // namespace tessel
