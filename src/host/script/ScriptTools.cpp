@@ -30,7 +30,8 @@ ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control)
       scripts_(control.Tessel().Controls().rtbCon),
       navigator_(control, scripts_),
       reader_(control.Tessel().OpenDocuments(), scripts_, nullptr),
-      outline_(*new OutlineDock({control, scripts_, reader_, navigator_}, window)) {
+      outline_(*new OutlineDock({control, scripts_, reader_, navigator_}, window)),
+      marks_(control, scripts_, nullptr) {
   for (const ScriptCommand& command : kScriptCommands) {
     auto* action = new QAction(tr(command.text), this);
     action->setObjectName(command.name);

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QObject>
 
+#include "host/script/BlockMarks.h"
 #include "host/script/Navigator.h"
 #include "host/script/OpenScripts.h"
 #include "host/script/OutlineDock.h"
@@ -40,6 +41,7 @@ class ScriptTools : public QObject {
   Navigator navigator_;
   StructureReader reader_;
   OutlineDock& outline_;
+  BlockMarks marks_;
 };
 
 }  // namespace tessel

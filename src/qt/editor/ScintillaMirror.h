@@ -68,7 +68,7 @@ class ScintillaMirror : private TextStoreView {
   void Settle();
   /// The model's offset of a place in the document.
   Position OffsetOf(SciPosition position) const { return text_.OffsetOf(position); }
-  /// The place in the document of an offset of the model.
+  /// The place of a model's offset in the document, while the two are in step.
   SciPosition PositionOf(Position offset) const { return text_.PositionOf(offset); }
   /// From now on no more than so many bytes of each line are drawn; nothing: all of them.
   void ShowOfLines(std::optional<Position> bytes) { text_.ShowOfLines(bytes); }
