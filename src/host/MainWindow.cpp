@@ -161,7 +161,10 @@ void MainWindow::OfferTextCommands() {
   menu_->On(kGoToLine, [this] { AskForLine(*control_); });
   script_ = new ScriptTools(*this, *control_);
   connect(script_, &ScriptTools::said, this, &MainWindow::ShowNotice);
-  menu_->Of(Menu::kSearch).addActions(script_->findChildren<QAction*>());
+  for (QAction* action : script_->findChildren<QAction*>()) {
+    const bool goes = action->objectName().startsWith("Go");
+    menu_->Of(goes ? Menu::kSearch : Menu::kView).addAction(action);
+  }
   connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
 }
 

@@ -35,7 +35,7 @@ FindBar::FindBar(TesselWidget& control, QWidget* parent)
 void FindBar::BuildFindRow(QGridLayout& rows) {
   field_ = new FindField(this);
   field_->setAccessibleName(tr("Find"));
-  auto* label = new QLabel(tr("F&ind:"), this);
+  auto* label = new QLabel(tr("Find:"), this);
   label->setBuddy(field_);
   count_ = new QLabel(this);
   count_->setObjectName("count");

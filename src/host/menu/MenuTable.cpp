@@ -76,7 +76,7 @@ constexpr MenuRow kMenuRows[] = {
     TwoState(kView, TR("&Colorize"), nullptr, "Colorize"),
     Line(kView),
     Item(kView, TR("Zoom &In"), "Ctrl++; Ctrl+=", Do::kZoomIn),
-    Item(kView, TR("Zoom &Out"), "Ctrl+-", Do::kZoomOut),
+    Item(kView, TR("Zoom O&ut"), "Ctrl+-", Do::kZoomOut),
     Item(kView, TR("&Normal Size"), "Ctrl+0", Do::kZoomReset),
     Line(kView),
     Toggle(kView, TR("&Word Wrap"), nullptr, Do::kWordWrap),
