@@ -152,6 +152,34 @@ TEST_F(Backups, OneThatIsTooMuchByItselfIsRefusedAndTakesNoOthersPlace) {
   EXPECT_EQ(small.List().size(), 1U);
 }
 
+TEST_F(Backups, WhatIsNoFileTakesNoRoomFromThem) {
+  store_.Keep("/con/first.con", "text");
+  store_.Keep("/con/other.con", "text");
+  std::size_t total = 0;
+  for (const Backup& backup : store_.List()) {
+    total += std::filesystem::file_size(folder_ + "/" + backup.name);
+  }
+  std::filesystem::create_directory(folder_ + "/0123456789abcdef-00000000000000000001-01234567");
+  BackupStore(folder_, {.totalBytes = total}).Keep("/con/other.con", "text");
+  EXPECT_EQ(Texts().size(), 2U);
+}
+
+TEST_F(Backups, APartThatAKilledSaveLeftGoesWithTheNextOne) {
+  store_.Keep("/con/user.con", "text");
+  std::ofstream(folder_ + "/.new-0123456789abcdef") << "half a te";
+  store_.Keep("/con/user.con", "newer");
+  EXPECT_FALSE(std::filesystem::exists(folder_ + "/.new-0123456789abcdef"));
+}
+
+TEST_F(Backups, APipeInTheirPlaceIsNotRead) {
+  store_.Keep("/con/user.con", "text");
+  const Backup backup = store_.List().at(0);
+  const std::string file = folder_ + "/" + backup.name;
+  std::filesystem::remove(file);
+  ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0);
+  EXPECT_THROW(store_.Read(backup), posix::FileProblem);
+}
+
 TEST_F(Backups, HostileNamesOfFilesNeverBecomeNamesInTheFolder) {
   const std::string longName = "/" + std::string(4000, 'n');
   const std::vector<std::string> paths = {"../../escape", "/a/../../b", "/new\nline 1 2\n", "", "/",

@@ -31,6 +31,15 @@ TEST_F(Guarded, AFileThatOthersChangedIsNotWrittenOver) {
   EXPECT_EQ(BytesOf(path), "theirs");
 }
 
+TEST_F(Guarded, WhatIsKnownOfAFileIsItsStateWhenItWasRead) {
+  const std::string path = directory_.Put("user.con", "text");
+  EXPECT_FALSE(files_.Known(path).has_value());
+  files_.Read(path);
+  ASSERT_TRUE(files_.Known(path).has_value());
+  EXPECT_EQ(files_.Known(path)->state, DiskStateOf(path));
+  EXPECT_TRUE(files_.Known(path)->hash.has_value());
+}
+
 TEST_F(Guarded, AFileThatOthersChangedHindersNoNewOneOfAnotherSpelling) {
   const std::string path = directory_.Put("user.con", "text");
   const std::string other = directory_ / "USER.CON";

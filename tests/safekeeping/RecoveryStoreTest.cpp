@@ -343,6 +343,12 @@ TEST_F(Recovery, ANormalEndThatCannotClearUpLeavesTheTexts) {
             "/a: text");
 }
 
+TEST_F(Recovery, AFolderThatCannotBeUsedIsToldBeforeThereIsAText) {
+  directory_.Put("state", "a file where the folder should be");
+  RecoveryStore store(folder_);
+  EXPECT_TRUE(store.TakeProblem().has_value());
+}
+
 TEST_F(Recovery, AFolderThatCannotBeUsedIsToldOnce) {
   directory_.Put("state", "a file where the folder should be");
   RecoveryStore store(folder_);
@@ -419,6 +425,18 @@ TEST_F(Recovery, ANormalEndLeavesWhatIsStillNeeded) {
     store.Finish({1});
   }
   EXPECT_EQ(Offered(), std::vector<std::string>{"/a: needed"});
+}
+
+TEST_F(Recovery, WhatCouldNotBeKeptIsNotTriedAgainAfterANormalEnd) {
+  RecoveryStore store(folder_, std::chrono::milliseconds(200));
+  const std::string text = folder_ + "/" + Runs().at(0) + "/text-1";
+  std::filesystem::create_directories(text + "/occupied");  // no file can take its place
+  store.Keep(1, "/a", "text");
+  EXPECT_FALSE(store.Flush());
+  std::filesystem::remove_all(text);
+  store.Finish();
+  ::usleep(600'000);  // an attempt or two
+  EXPECT_FALSE(std::filesystem::exists(text));
 }
 
 TEST_F(Recovery, AFolderThatAKilledStartLeftGoesOnceItIsOld) {

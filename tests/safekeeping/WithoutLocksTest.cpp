@@ -94,6 +94,12 @@ TEST_P(RecoveryWithoutLocks, AProcessNumberThatIsInUseAgainHidesNoText) {
   EXPECT_EQ(Offered(), "[text]");
 }
 
+// The system counts the time of a start in hundredths of a second.
+TEST(RunMark, DiffersForProcessesThatStartOneAfterTheOther) {
+  ::usleep(50'000);
+  EXPECT_NE(InChild(MarkOfThisRun), MarkOfThisRun());
+}
+
 TEST_P(RecoveryWithoutLocks, ARunWithoutAMarkIsToldByItsProcessNumber) {
   Start("text");
   std::ofstream(Run() + "/.lock") << "";
