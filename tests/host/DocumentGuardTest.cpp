@@ -158,5 +158,13 @@ TEST_F(Guard, RecordsMoveWithTheirDocuments) {
   EXPECT_EQ(BytesOf(game_), "theirs, and longer");
 }
 
+TEST_F(Guard, TheRealNamesOfTheLastFiftyFilesAreRemembered) {
+  for (int i = 0; i <= 50; ++i) {
+    Run().window->OpenFiles({directory_.Put("file" + std::to_string(i) + ".con", "text")});
+    Run().Controls().tbToolBar.Press("FileClose");
+  }
+  EXPECT_EQ(Run().fakes.settings.GetAllSettings("HostPaths").size(), 50U);
+}
+
 }  // namespace
 }  // namespace tessel::test

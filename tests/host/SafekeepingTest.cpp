@@ -7,9 +7,11 @@
 #include <QTreeWidget>
 
 #include "HostFixture.h"
+#include "host/AbruptEnd.h"
 #include "host/BackupsDialog.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
+#include "host/RestoredText.h"
 #include "host/Session.h"
 #include "surface/CurrentEditor.h"
 
@@ -153,6 +155,21 @@ TEST_F(Safekeeping, AfterAKillTheTextIsOfferedAndRecoveredAsAChangedDocument) {
   EXPECT_EQ(Run().Editor(0).Text(), "define A 1\r\n");
 }
 
+TEST_F(Safekeeping, TheOfferNamesFourTextsAndCountsTheOthers) {
+  const auto keepOneOf = [&](const std::string& path) {
+    RecoveryStore(State() + "/recovery").Keep(1, path, "text");
+  };
+  for (const char* path : {"/con/1.con", "/con/2.con", "/con/3.con", "/con/4.con"}) keepOneOf(path);
+  Restart();
+  for (const char* name : {"1.con", "2.con", "3.con", "4.con"}) {
+    EXPECT_NE(Offer().find(name), std::string::npos) << Offer();
+  }
+  EXPECT_EQ(Offer().find("more"), std::string::npos) << Offer();
+  keepOneOf("/con/5.con");
+  Restart();
+  EXPECT_NE(Offer().find(", 1 more."), std::string::npos) << Offer();
+}
+
 TEST_F(Safekeeping, AKillRightAfterRecoveringLosesNothing) {
   Run().window->OpenFiles({user_});
   Run().Editor(0).Type("// mine\r\n");
@@ -259,6 +276,15 @@ TEST_F(Safekeeping, ATextThatIsLoadedOverComesBackBehindTheOpenedDocument) {
   EXPECT_EQ(Run().Editor(1).Text(), "my notes");
 }
 
+TEST_F(Safekeeping, ATextThatWasEmptiedDoesNotComeBack) {
+  Run().Editor(0).Type("my notes");
+  Run().Editor(0).SelectByHand(0, 8);
+  Run().Editor(0).Type("");
+  ASSERT_EQ(Run().Editor(0).Length(), 0);
+  Run().window->OpenFiles({user_});
+  EXPECT_EQ(Run().Tabs().Count(), 1);
+}
+
 TEST_F(Safekeeping, ATextThatWasClosedWithNoDoesNotComeBack) {
   Run().Editor(0).Type("my notes");
   Run().fakes.messages.answers = {MessageAnswer::kNo};
@@ -294,6 +320,35 @@ TEST_F(Safekeeping, RecoveringOverANewerFileIsAskedAbout) {
   EXPECT_NE(Run().fakes.messages.shown[0].text.find("user.con was changed at"), std::string::npos);
   EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
   EXPECT_EQ(Run().Editor(0).Text(), "mine define A 1\r\n");
+}
+
+TEST_F(Safekeeping, ATextThatReplacesColouredOneIsBlack) {
+  RichTextBox& editor = Run().Editor(0);
+  editor.Type("x");
+  editor.SelectByHand(0, 1);
+  editor.SetSelColor(0x0000C8);
+  ReplaceText(editor, "text");
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
+    EXPECT_EQ(run.colour, kBlack);
+  }
+}
+
+TEST_F(Safekeeping, ATextOfWhichOnlyTheColoursChangeIsNotWrittenAgain) {
+  const auto file = [&] {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(State() + "/recovery")) {
+      struct stat status {};
+      if (!entry.path().filename().string().starts_with("text-")) continue;
+      if (::stat(entry.path().c_str(), &status) == 0) return status.st_ino;
+    }
+    return ino_t{0};
+  };
+  Run().Editor(0).Type("text");
+  KeepNow();
+  const ino_t written = file();
+  Run().Editor(0).SelectByHand(0, 4);
+  Run().Editor(0).SetSelColor(0x0000C8);
+  KeepNow();
+  EXPECT_EQ(file(), written);
 }
 
 TEST_F(Safekeeping, LaterAsksAgainAtTheNextStart) {
@@ -337,7 +392,42 @@ TEST_F(Safekeeping, AnEndThatTheUserCancelledKeepsTheText) {
   EXPECT_EQ(KeptTexts().size(), 1U);
 }
 
+// What the program does when the system tells it to end.
+TEST(AbruptEndDeathTest, KeepsTheTextsAndEndsByTheSignal) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto endBy = [](int signal) {
+    const AbruptEnd abruptEnd([] { std::fputs("kept", stderr); });
+    std::raise(signal);
+    QTest::qWait(kPatience);
+  };
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+    EXPECT_EXIT(endBy(signal), testing::KilledBySignal(signal), "kept");
+  }
+}
+
 // --- Backups
+
+TEST_F(Safekeeping, TheListOfBackupsHasANameAndRoomForItsTexts) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("2 ");
+  Run().SaveInPlace();
+  const BackupsDialog* dialog = OpenBackups();
+  const auto* list = dialog->findChild<QTreeWidget*>();
+  EXPECT_EQ(list->accessibleName(), "Backups");
+  for (const int column : {0, 1, 2}) {
+    const QAbstractItemView& view = *list;
+    EXPECT_GE(list->columnWidth(column), view.sizeHintForColumn(column)) << column;
+  }
+  EXPECT_EQ(dialog->size(), QSize(680, 380));
+}
+
+TEST_F(Safekeeping, TheBackupsAreNotShownWhileACommandRuns) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("2 ");
+  Run().fakes.messages.meanwhile = [&] { EXPECT_EQ(OpenBackups(), nullptr); };
+  Run().Controls().tbToolBar.Press("FileClose");
+  EXPECT_EQ(Run().fakes.messages.shown.size(), 1U);
+}
 
 TEST_F(Safekeeping, TheBackupsOfTheCurrentFileComeFirst) {
   Run().window->OpenFiles({game_, user_});
@@ -418,6 +508,14 @@ TEST_F(Safekeeping, DocumentsAreReopenedAfterAKillToo) {
                               kPatience));
   Restart();
   EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+}
+
+TEST_F(Safekeeping, DocumentsThatAWindowClosedWithAreRememberedFromThenOn) {
+  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().window->OpenFiles({user_});
+  Run().window->close();
+  QTest::qWait(1500);
+  EXPECT_EQ(RememberedDocuments().paths, std::vector{user_});
 }
 
 TEST_F(Safekeeping, AFileThatIsGoneIsSkippedWithANoticeAndNoBox) {

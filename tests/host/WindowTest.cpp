@@ -69,9 +69,11 @@ TEST_F(Window, TellsWhatItIs) {
   EXPECT_TRUE(box->text().startsWith("Zanth Manager"));
   EXPECT_TRUE(box->informativeText().startsWith("An editor for CON files."));
   EXPECT_FALSE(box->iconPixmap().isNull());
+  EXPECT_TRUE(box->isVisible());
 }
 
 TEST_F(Window, QuitsFromTheMenu) {
+  EXPECT_EQ(Run().MenuItem("&Quit")->shortcut(), QKeySequence("Ctrl+Q"));
   Run().MenuItem("&Quit")->trigger();
   EXPECT_FALSE(Run().window->isVisible());
 }
@@ -175,6 +177,14 @@ TEST_F(Window, TakesNoDragOfAnythingElse) {
 }
 
 // --- How it looked
+
+TEST_F(Window, GivesTheControlAllOfItsWidth) {
+  const TesselWidget& control = Run().window->Control();
+  EXPECT_EQ(control.mapTo(Run().window.get(), QPoint(0, 0)).x(), 0);
+  EXPECT_EQ(control.width(), Run().window->width());
+}
+
+TEST_F(Window, TellsTheSystemThatItTakesWhatIsDropped) { EXPECT_TRUE(Run().window->acceptDrops()); }
 
 TEST_F(Window, LooksAsItWasLeft) {
   const auto pressed = [&](const char* key) { return Run().Controls().tbToolBar.Pressed(key); };
