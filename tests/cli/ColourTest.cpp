@@ -64,7 +64,7 @@ std::string OnTerminal(const std::string& directory, std::vector<const char*> ar
     if (::chdir(directory.c_str()) != 0) ::_exit(126);
     arguments.insert(arguments.begin(), "tessel");
     arguments.push_back(nullptr);
-    ::execv(TESSEL_PROGRAM, const_cast<char* const*>(arguments.data()));
+    ::execv(TesselProgram().c_str(), const_cast<char* const*>(arguments.data()));
     ::_exit(127);
   }
   ::waitpid(child, nullptr, 0);

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "support/ProgramUnderTest.h"
 #include "support/TempDirectory.h"
 
 namespace tessel::test {
@@ -26,19 +27,21 @@ struct Outcome {
 /// What happens in the child before the program starts: other rights, limits, descriptors.
 using BeforeStart = std::function<void()>;
 
+inline std::string TesselProgram() { return ProgramUnderTest("TESSEL_PROGRAM", TESSEL_PROGRAM); }
+
 class CommandLineTest : public testing::Test {
  protected:
   CommandLineTest() : store_(home_ / "settings.db"), state_(home_ / "state") {}
 
   /// Runs `tessel` with these arguments in the test's directory.
   Outcome Tessel(const std::vector<std::string>& arguments, const BeforeStart& before = {}) {
-    return Run(TESSEL_PROGRAM, "tessel", arguments, before);
+    return Run(TesselProgram().c_str(), "tessel", arguments, before);
   }
 
   /// Runs a line of bash there, for which `tessel` is the program under test.
   Outcome Shell(const std::string& line) {
     return Run("/bin/bash", "bash", {"-c", line}, [] {
-      const std::string folder = std::filesystem::path(TESSEL_PROGRAM).parent_path();
+      const std::string folder = std::filesystem::path(TesselProgram()).parent_path();
       ::setenv("PATH", (folder + ":" + std::getenv("PATH")).c_str(), 1);
     });
   }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "support/ChildProcess.h"
+#include "support/ProgramUnderTest.h"
 #include "support/RunProgram.h"
 #include "support/TempDirectory.h"
 
@@ -20,7 +21,7 @@ class HostProgram : public testing::Test {
  protected:
   /// Runs the program; returns its exit status.
   int Start(std::vector<std::string> arguments) {
-    return RunProgram(TESSEL_HOST_PROGRAM, std::move(arguments), [&] {
+    return RunProgram(program, std::move(arguments), [&] {
       for (const char* name : {"HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"}) {
         ::setenv(name, directory.Path().c_str(), 1);
       }
@@ -33,6 +34,7 @@ class HostProgram : public testing::Test {
     return BytesOf(errors).find(part) != std::string::npos;
   }
 
+  const std::string program = ProgramUnderTest("TESSEL_HOST_PROGRAM", TESSEL_HOST_PROGRAM);
   TempDirectory directory;
   std::string errors = directory / "errors";
   std::string picture = directory / "picture.png";
@@ -75,7 +77,7 @@ TEST_F(HostProgram, WritesNothingIntoTheWorkingFolderWhateverTheHome) {
   };
   for (const Variables& home : homes) {
     SCOPED_TRACE(home[0].second == nullptr ? "no HOME" : home[0].second);
-    const int status = RunProgram(TESSEL_HOST_PROGRAM, {"--screenshot", picture, user}, [&] {
+    const int status = RunProgram(program, {"--screenshot", picture, user}, [&] {
       for (const char* name : {"HOME", "XDG_STATE_HOME", "XDG_CONFIG_HOME", "ZANTHMAN_STORE"}) {
         ::unsetenv(name);
       }
