@@ -47,6 +47,11 @@ TEST_F(HostProgram, LeavesAPictureOfTheSizeAskedFor) {
   EXPECT_EQ(BytesOf(user), "define A 1\r\n");
 }
 
+TEST_F(HostProgram, LeavesAPictureOfAsManyPixelsAsASizeCanName) {
+  EXPECT_EQ(Start({"--screenshot", picture, "--size", "1000x99"}), 0);
+  EXPECT_EQ(QImage(QString::fromStdString(picture)).width(), 1000);
+}
+
 TEST_F(HostProgram, SaysThatThePictureCannotBeWritten) {
   EXPECT_EQ(Start({"--screenshot", directory / "none/picture.png"}), 1);
   EXPECT_TRUE(Said("zanth-manager: cannot write the picture")) << BytesOf(errors);
