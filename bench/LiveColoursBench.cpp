@@ -1,4 +1,6 @@
 // The colours of a text, kept up while it is edited.
+#include <malloc.h>
+
 #include "ConText.h"
 #include "Measure.h"
 #include "colouring/LiveColours.h"
@@ -14,6 +16,9 @@ void LiveColours_Whole(benchmark::State& state, MakeText make) {
   const std::string& text = make(static_cast<std::size_t>(state.range(0)));
   Measure(
       state, text, [] {}, [&] { benchmark::DoNotOptimize(LiveColours(text)); });
+  const std::size_t before = mallinfo2().uordblks;
+  const LiveColours kept(text);
+  state.counters["kept_bytes"] = static_cast<double>(mallinfo2().uordblks - before);
 }
 
 /// A key until the colours of a page are known, and its undoing.

@@ -27,6 +27,7 @@
 #include "host/script/ScriptTools.h"
 #include "host/status/DocumentStatus.h"
 #include "host/view/EditorLooks.h"
+#include "host/view/LiveColouring.h"
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
@@ -129,6 +130,7 @@ void MainWindow::BuildMenu() {
   auto* tabs = new TabMenu(*control_, this);
   connect(tabs, &TabMenu::closeOthersWanted, documents, &DocumentMenus::CloseOthers);
   new EditorLooks(*control_, *menu_, preferences_);
+  new LiveColouring(*control_, *menu_, preferences_);
   new WindowKeys(*this);
   OfferFileCommands();
   OfferTextCommands();

@@ -74,6 +74,7 @@ constexpr MenuRow kMenuRows[] = {
 
     TwoState(kView, TR("&Settings Panel"), "Ctrl+Shift+P", "ShowTabs"),
     TwoState(kView, TR("&Colorize"), nullptr, "Colorize"),
+    Toggle(kView, TR("&Live Colours"), nullptr, Do::kLiveColours),
     Line(kView),
     Item(kView, TR("Zoom &In"), "Ctrl++; Ctrl+=", Do::kZoomIn),
     Item(kView, TR("Zoom O&ut"), "Ctrl+-", Do::kZoomOut),

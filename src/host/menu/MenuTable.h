@@ -35,6 +35,7 @@ enum class WindowCommand {
   kZoomIn,
   kZoomOut,
   kZoomReset,
+  kLiveColours,
   kWordWrap,
   kShowBlanks,
   kRuler,

@@ -24,6 +24,7 @@ constexpr WishRow kWishes[] = {
     {Wish::kWordWrap, "WordWrap", "0"},
     {Wish::kShowBlanks, "ShowBlanks", "0"},
     {Wish::kButtonWords, "ButtonWords", "0"},
+    {Wish::kLiveColours, "LiveColours", "1"},
     {Wish::kRuler, "Ruler", "0"},
     {Wish::kZoom, "Zoom", "0"},
     {Wish::kTabWidth, "TabWidth", "8"},

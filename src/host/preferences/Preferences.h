@@ -14,6 +14,7 @@ enum class Wish {
   kWordWrap,     ///< long lines are wrapped
   kShowBlanks,   ///< blanks and tabs are shown as marks
   kButtonWords,  ///< words stand beside the icons of the toolbar
+  kLiveColours,  ///< texts are drawn in colours that follow each edit
   kRuler,        ///< a line marks column 80
   kZoom,         ///< in points, added to the size of the font
   kTabWidth,     ///< in characters
