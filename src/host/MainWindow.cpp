@@ -24,6 +24,7 @@
 #include "host/menu/TabMenu.h"
 #include "host/menu/WindowKeys.h"
 #include "host/panel/ReplacementOutline.h"
+#include "host/preferences/PreferencesDialog.h"
 #include "host/script/ScriptTools.h"
 #include "host/status/DocumentStatus.h"
 #include "host/view/EditorLooks.h"
@@ -31,6 +32,8 @@
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
+#include "qt/looks/Theme.h"
+#include "qt/views/ToolbarView.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -39,6 +42,17 @@ namespace {
 constexpr int kNoticeMilliseconds = 8000;
 constexpr int kSessionMilliseconds = 1000;
 constexpr const char* kToggles[] = {"Colorize", "ShowTabs"};
+
+struct WishItem {
+  WindowCommand command;
+  Wish wish;
+};
+
+constexpr WishItem kWishItems[] = {
+    {WindowCommand::kReopen, Wish::kReopen},
+    {WindowCommand::kAutomation, Wish::kAutomation},
+    {WindowCommand::kButtonWords, Wish::kButtonWords},
+};
 
 /// The local files of a drag, or nothing when it holds anything else.
 std::vector<std::string> FilesOf(const QMimeData* data) {
@@ -83,6 +97,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
       control_(new TesselWidget(With(services, dialogs_), widgets, this, ControlOptions())),
       files_(files),
       messages_(services.messages) {
+  dialogs_.StartAt([this] { return control_->Tessel().OpenDocuments().Current().Path(); });
   guard_.Watch(control_->Tessel().OpenDocuments());
   panel_.Watch(control_->Tessel());
   auto* centre = new QWidget(this);
@@ -134,6 +149,7 @@ void MainWindow::BuildMenu() {
   new WindowKeys(*this);
   OfferFileCommands();
   OfferTextCommands();
+  OfferPreferences();
   OfferHelp();
 }
 
@@ -141,14 +157,6 @@ void MainWindow::OfferFileCommands() {
   using enum WindowCommand;
   menu_->On(kOpen, [this] { control_->Tessel().OpenFile({}); });
   menu_->On(kQuit, [this] { close(); });
-  menu_->OnToggle(kReopen, preferences_.Wants(Wish::kReopen), [this](bool wanted) {
-    preferences_.Set(Wish::kReopen, wanted);
-    RememberSession();
-  });
-  menu_->OnToggle(kAutomation, preferences_.Wants(Wish::kAutomation), [this](bool wanted) {
-    preferences_.Set(Wish::kAutomation, wanted);
-    emit automationWanted(wanted);
-  });
 }
 
 void MainWindow::OfferTextCommands() {
@@ -168,6 +176,29 @@ void MainWindow::OfferTextCommands() {
     menu_->Of(goes ? Menu::kSearch : Menu::kView).addAction(action);
   }
   connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
+}
+
+void MainWindow::OfferPreferences() {
+  menu_->On(WindowCommand::kPreferences,
+            [this] { (new PreferencesDialog(preferences_, this))->open(); });
+  auto* toolbar =
+      qobject_cast<ToolbarView*>(control_->WidgetFor(control_->Tessel().Controls().tbToolBar));
+  const auto apply = [this, toolbar](Wish wish) {
+    const bool wanted = preferences_.Wants(wish);
+    if (wish == Wish::kTheme) ApplyTheme(*qApp, ColourScheme(preferences_.Number(wish)));
+    if (wish == Wish::kReopen) RememberSession();
+    if (wish == Wish::kAutomation) emit automationWanted(wanted);
+    if (wish == Wish::kButtonWords) toolbar->ShowWords(wanted);
+    for (const auto& [command, shown] : kWishItems) {
+      if (shown == wish) menu_->Action(command).setChecked(wanted);
+    }
+  };
+  for (const auto& [command, wish] : kWishItems) {
+    menu_->OnToggle(command, preferences_.Wants(wish),
+                    [this, set = wish](bool wanted) { preferences_.Set(set, wanted ? 1 : 0); });
+  }
+  if (preferences_.Wants(Wish::kButtonWords)) toolbar->ShowWords(true);
+  wishes_ = preferences_.Changed.Connect(apply);
 }
 
 void MainWindow::OfferHelp() {

@@ -73,6 +73,7 @@ class MainWindow : public QMainWindow {
   void BuildMenu();
   void OfferFileCommands();
   void OfferTextCommands();
+  void OfferPreferences();
   void OfferHelp();
   void BuildStatusBar();
   void ShowBackups();
@@ -100,6 +101,7 @@ class MainWindow : public QMainWindow {
   KeepingLog* log_ = nullptr;
   QTimer session_;
   Subscription asking_;
+  Subscription wishes_;
 };
 
 }  // namespace tessel

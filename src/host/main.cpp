@@ -1,6 +1,7 @@
 // Zanth Manager: a window around the control.
 #include <QApplication>
 #include <QIcon>
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "posix/FallbackSettingsStore.h"
 #include "posix/Signals.h"
 #include "qt/base/QtText.h"
+#include "qt/looks/Theme.h"
 #include "qt/services/QtDesktop.h"
 #include "qt/services/QtMessageBox.h"
 #include "safekeeping/BackupStore.h"
@@ -61,6 +63,12 @@ std::unique_ptr<KeepingLog> WantedLog() try {
   return nullptr;
 }
 
+/// The option's, or what the user wishes.
+ColourScheme SchemeOf(const Options& options, const Preferences& wishes) {
+  if (options.scheme != ColourScheme::kDesktop) return options.scheme;
+  return static_cast<ColourScheme>(std::clamp(wishes.Number(Wish::kTheme), 0, 2));
+}
+
 int Run(const Options& options) {
   const bool picture = !options.screenshot.empty();
   FallbackSettingsStore settings(options.store, [picture](const std::string& problem) {
@@ -77,6 +85,7 @@ int Run(const Options& options) {
   GuardedFiles files(keptFiles);
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);
 
+  ApplyTheme(*qApp, SchemeOf(options, Preferences(settings)));
   const std::unique_ptr<KeepingLog> log = WantedLog();
   OfferStarterWords(settings, files, options.hostDirectory + "/words.txt");
   MainWindow window(services, desktop.widgets, files);
@@ -129,6 +138,5 @@ int main(int argc, char** argv) {
   QApplication application(qtArguments, argv);
   QGuiApplication::setDesktopFileName("zanth-manager");
   QGuiApplication::setWindowIcon(QIcon(":/tessel/icons/zanth-manager.svg"));
-  tessel::ApplyTheme(application, options->scheme);
   return tessel::Run(*options);
 }

@@ -163,7 +163,7 @@ TEST_F(Guard, TheRealNamesOfTheLastFiftyFilesAreRemembered) {
     Run().window->OpenFiles({directory_.Put("file" + std::to_string(i) + ".con", "text")});
     Run().Controls().tbToolBar.Press("FileClose");
   }
-  EXPECT_EQ(Run().fakes.settings.GetAllSettings("HostPaths").size(), 50U);
+  EXPECT_EQ(settings_.GetAllSettings("HostPaths").size(), 50U);
 }
 
 }  // namespace

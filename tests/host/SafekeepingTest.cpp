@@ -511,7 +511,7 @@ TEST_F(Safekeeping, DocumentsAreReopenedAfterAKillToo) {
 }
 
 TEST_F(Safekeeping, DocumentsThatAWindowClosedWithAreRememberedFromThenOn) {
-  Run().MenuItem("&Reopen Documents at Start")->trigger();
+  Run().MenuItem("Reopen &Documents at Start")->trigger();
   Run().window->OpenFiles({user_});
   Run().window->close();
   QTest::qWait(1500);

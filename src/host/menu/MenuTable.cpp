@@ -61,6 +61,8 @@ constexpr MenuRow kMenuRows[] = {
     Popup(kEdit, TR("Select &All"), "Ctrl+A", "mnuRtbPopupEditSel"),
     Line(kEdit),
     Item(kEdit, TR("C&omment Lines On or Off"), "Ctrl+/", Do::kToggleComment),
+    Line(kEdit),
+    Item(kEdit, TR("Pr&eferences..."), "Ctrl+,", Do::kPreferences),
 
     Popup(kSearch, TR("&Find..."), "Ctrl+F", "mnuRtbPopupFind"),
     Popup(kSearch, TR("Find &Next"), "F3", "mnuRtbPopupFindNext"),

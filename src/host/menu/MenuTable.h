@@ -25,6 +25,7 @@ enum class WindowCommand {
   kUndo,
   kRedo,
   kToggleComment,
+  kPreferences,
   // Search
   kFindBar,
   kReplace,

@@ -11,6 +11,17 @@ constexpr int kLeastZoom = -8;
 constexpr int kMostZoom = 20;
 constexpr int kRulerColumn = 80;
 
+struct Toggle {
+  WindowCommand command;
+  Wish wish;
+};
+
+constexpr Toggle kToggles[] = {
+    {WindowCommand::kWordWrap, Wish::kWordWrap},
+    {WindowCommand::kShowBlanks, Wish::kShowBlanks},
+    {WindowCommand::kRuler, Wish::kRuler},
+};
+
 }  // namespace
 
 EditorLooks::EditorLooks(TesselWidget& control, MainMenu& menu, Preferences& preferences)
@@ -18,16 +29,19 @@ EditorLooks::EditorLooks(TesselWidget& control, MainMenu& menu, Preferences& pre
   menu.On(WindowCommand::kZoomIn, [this] { Zoom(preferences_.Number(Wish::kZoom) + 1); });
   menu.On(WindowCommand::kZoomOut, [this] { Zoom(preferences_.Number(Wish::kZoom) - 1); });
   menu.On(WindowCommand::kZoomReset, [this] { Zoom(0); });
-  const auto offer = [&](WindowCommand command, Wish wish) {
+  for (const auto& [command, wish] : kToggles) {
     menu.OnToggle(command, preferences_.Wants(wish),
-                  [this, wish](bool wanted) { preferences_.Set(wish, wanted ? 1 : 0); });
-  };
-  offer(WindowCommand::kWordWrap, Wish::kWordWrap);
-  offer(WindowCommand::kShowBlanks, Wish::kShowBlanks);
-  offer(WindowCommand::kRuler, Wish::kRuler);
-  changed_ = preferences_.Changed.Connect(
-      [this](Wish) { editors_.Do([this](ScintillaView& view) { Apply(view); }); });
+                  [this, wanted = wish](bool on) { preferences_.Set(wanted, on ? 1 : 0); });
+  }
+  changed_ = preferences_.Changed.Connect([this, &menu](Wish wish) {
+    for (const Toggle& toggle : kToggles) {
+      if (toggle.wish == wish) menu.Action(toggle.command).setChecked(preferences_.Wants(wish));
+    }
+    const bool font = wish == Wish::kFont || wish == Wish::kFontSize;
+    editors_.Do([this, font](ScintillaView& view) { font ? ApplyFont(view) : Apply(view); });
+  });
   editors_.Always([this](ScintillaView& view) {
+    ApplyFont(view);
     Apply(view);
     // By the wheel, in one of them.
     connect(&view, &QsciScintillaBase::SCN_ZOOM, this,
@@ -37,6 +51,12 @@ EditorLooks::EditorLooks(TesselWidget& control, MainMenu& menu, Preferences& pre
 
 void EditorLooks::Zoom(int points) {
   preferences_.Set(Wish::kZoom, std::clamp(points, kLeastZoom, kMostZoom));
+}
+
+void EditorLooks::ApplyFont(ScintillaView& view) const {
+  const QString family = QString::fromStdString(preferences_.Text(Wish::kFont));
+  const int points = preferences_.Number(Wish::kFontSize);
+  view.SetTextFont(family, points);
 }
 
 void EditorLooks::Apply(ScintillaView& view) const {
@@ -50,6 +70,8 @@ void EditorLooks::Apply(ScintillaView& view) const {
   view.SendScintilla(Sci::SCI_SETVIEWWS, preferences_.Wants(Wish::kShowBlanks)
                                              ? long{Sci::SCWS_VISIBLEALWAYS}
                                              : long{Sci::SCWS_INVISIBLE});
+  view.SendScintilla(Sci::SCI_SETTABWIDTH, static_cast<unsigned long>(std::clamp(
+                                               preferences_.Number(Wish::kTabWidth), 1, 16)));
   view.SendScintilla(Sci::SCI_SETEDGECOLUMN, static_cast<long>(kRulerColumn));
   view.SendScintilla(Sci::SCI_SETEDGECOLOUR, view.palette().color(QPalette::Mid));
   view.SendScintilla(Sci::SCI_SETEDGEMODE, preferences_.Wants(Wish::kRuler) ? long{Sci::EDGE_LINE}

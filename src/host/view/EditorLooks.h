@@ -19,6 +19,7 @@ class EditorLooks : public QObject {
  private:
   void Zoom(int points);
   void Apply(ScintillaView& view) const;
+  void ApplyFont(ScintillaView& view) const;
 
   Preferences& preferences_;
   EveryEditor editors_;

@@ -55,24 +55,27 @@ constexpr Setting kSettings[] = {
     {Sci::SCI_USEPOPUP, 0},
 };
 
-QFont EditorFont() {
+QFont EditorFont(const QString& family, int points) {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   if (!QFontInfo(font).fixedPitch()) font.setFamily(QStringLiteral("DejaVu Sans Mono"));
+  if (!family.isEmpty()) font.setFamily(family);
+  if (points > 0) font.setPointSize(points);
   return font;
 }
 
-void SetUpFont(QsciScintillaBase& widget) {
-  const QFont font = EditorFont();
+}  // namespace
+
+void SetUpFont(QsciScintillaBase& widget, const QString& family, int points) {
+  const QFont font = EditorFont(family, points);
   widget.setFont(font);
-  const QByteArray family = QFontInfo(font).family().toUtf8();
+  const QByteArray name = QFontInfo(font).family().toUtf8();
   widget.SendScintilla(Sci::SCI_STYLESETFONT, static_cast<uintptr_t>(Sci::STYLE_DEFAULT),
-                       family.constData());
+                       name.constData());
   widget.SendScintilla(
       Sci::SCI_STYLESETSIZEFRACTIONAL, static_cast<unsigned long>(Sci::STYLE_DEFAULT),
-      std::lround(QFontInfo(font).pointSizeF() * int{Sci::SC_FONT_SIZE_MULTIPLIER}));
+      std::lround((points > 0 ? points : QFontInfo(font).pointSizeF()) *
+                  int{Sci::SC_FONT_SIZE_MULTIPLIER}));
 }
-
-}  // namespace
 
 void SetUpEditor(QsciScintillaBase& widget) {
   widget.setFrameShape(QFrame::NoFrame);
@@ -82,7 +85,7 @@ void SetUpEditor(QsciScintillaBase& widget) {
     widget.SendScintilla(setting.message, setting.value, setting.second);
   }
   BindKeys(widget);
-  SetUpFont(widget);
+  SetUpFont(widget, {}, 0);
 }
 
 EditorTheme ThemeOfWidget(const QsciScintillaBase& widget) {

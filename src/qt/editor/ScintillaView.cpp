@@ -287,6 +287,12 @@ QMimeData* ScintillaView::toMimeData(const QByteArray&, bool) const {
 
 // --- Looks
 
+void ScintillaView::SetTextFont(const QString& family, int points) {
+  SetUpFont(*this, family, points);
+  ApplyTheme();
+  lineNumbers_.Fit();
+}
+
 void ScintillaView::ApplyTheme() {
   const EditorTheme theme = ThemeOfWidget(*this);
   PaintEditor(*this, theme);

@@ -56,6 +56,9 @@ class ScintillaView : public QsciScintillaBase {
   void SetLiveColours(bool live) { mirror_.SetLiveColours(live); }
   bool LiveColours() const { return mirror_.LiveColours(); }
 
+  /// An empty family and the size 0 are the desktop's.
+  void SetTextFont(const QString& family, int points);
+
   /// Draws a box around the selection until it is called with false, also while the selection is
   /// hidden. The selection stays what it is.
   void OutlineSelection(bool outline) { outline_.Want(outline); }

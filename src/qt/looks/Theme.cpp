@@ -100,8 +100,10 @@ QColor Theme::IconInk() const {
 }
 
 void ApplyTheme(QApplication& application, ColourScheme scheme) {
-  const bool dark = scheme == ColourScheme::kDesktop ? Theme(application.palette()).Dark()
-                                                     : scheme == ColourScheme::kDark;
+  // The palette is the desktop's only until the first call.
+  static const bool desktopIsDark = Theme(application.palette()).Dark();
+  const bool dark =
+      scheme == ColourScheme::kDesktop ? desktopIsDark : scheme == ColourScheme::kDark;
   application.setStyle(new TesselStyle);
   application.setPalette(MakePalette(dark));
 }

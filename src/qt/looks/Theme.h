@@ -31,7 +31,7 @@ class Theme {
 enum class ColourScheme { kDesktop, kLight, kDark };
 
 /// Gives the program its style and its palette; with kDesktop light or dark as the desktop's
-/// palette is.
+/// palette was when this was first called.
 void ApplyTheme(QApplication& application, ColourScheme scheme);
 
 }  // namespace tessel

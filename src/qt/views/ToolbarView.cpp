@@ -1,5 +1,6 @@
 #include "qt/views/ToolbarView.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QToolButton>
 #include <algorithm>
@@ -17,6 +18,33 @@ bool SameMenu(const std::vector<ButtonMenuItem>& a, const std::vector<ButtonMenu
   return std::ranges::equal(a, b, [](const ButtonMenuItem& x, const ButtonMenuItem& y) {
     return x.text == y.text && x.key == y.key && x.tag == y.tag;
   });
+}
+
+struct ButtonWord {
+  const char* key;
+  const char* word;
+};
+
+constexpr ButtonWord kWords[] = {
+    {"FileNew", QT_TRANSLATE_NOOP("ToolbarView", "New")},
+    {"FileOpen", QT_TRANSLATE_NOOP("ToolbarView", "Open")},
+    {"FileClose", QT_TRANSLATE_NOOP("ToolbarView", "Close")},
+    {"FileSave", QT_TRANSLATE_NOOP("ToolbarView", "Save As")},
+    {"Cut", QT_TRANSLATE_NOOP("ToolbarView", "Cut")},
+    {"Copy", QT_TRANSLATE_NOOP("ToolbarView", "Copy")},
+    {"Paste", QT_TRANSLATE_NOOP("ToolbarView", "Paste")},
+    {"Find", QT_TRANSLATE_NOOP("ToolbarView", "Find")},
+    {"Tools", QT_TRANSLATE_NOOP("ToolbarView", "Tools")},
+    {"RandAll", QT_TRANSLATE_NOOP("ToolbarView", "Randomize All")},
+    {"RandSec", QT_TRANSLATE_NOOP("ToolbarView", "Randomize")},
+    {"Convert", QT_TRANSLATE_NOOP("ToolbarView", "Convert")},
+    {"Colorize", QT_TRANSLATE_NOOP("ToolbarView", "Colorize")},
+    {"ShowTabs", QT_TRANSLATE_NOOP("ToolbarView", "Panel")},
+};
+
+QString WordOf(const std::string& key) {
+  const auto* row = std::ranges::find(kWords, key, &ButtonWord::key);
+  return row == std::ranges::end(kWords) ? QString() : ToolbarView::tr(row->word);
 }
 
 }  // namespace
@@ -63,7 +91,50 @@ void ToolbarView::AddButton(const ToolbarButton& button) {
   tool->setStyle(TesselStyle::Shared());
   tool->setAccessibleName(toolTip);
   tool->setFocusPolicy(Qt::TabFocus);
+  tool->installEventFilter(this);
   actions_[button.key] = action;
+}
+
+void ToolbarView::ShowWords(bool words) {
+  setToolButtonStyle(words ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  for (const auto& [key, action] : actions_) {
+    action->setIconText(words ? WordOf(key) : action->text());
+  }
+}
+
+bool ToolbarView::eventFilter(QObject* watched, QEvent* event) {
+  auto* tool = qobject_cast<QToolButton*>(watched);
+  if (tool == nullptr || event->type() != QEvent::KeyPress) return false;
+  switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_F4:
+      if (tool->defaultAction()->menu() != nullptr) tool->showMenu();
+      return true;
+    case Qt::Key_Left:
+      MoveFocus(*tool, -1);
+      return true;
+    case Qt::Key_Right:
+      MoveFocus(*tool, 1);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void ToolbarView::MoveFocus(const QToolButton& from, int by) {
+  std::vector<QWidget*> buttons;
+  for (QAction* action : actions()) {
+    QWidget* button = widgetForAction(action);
+    if (!action->isSeparator() && button->isVisible() && button->isEnabled()) {
+      buttons.push_back(button);
+    }
+  }
+  const auto here = std::ranges::find(buttons, &from);
+  if (here == buttons.end()) return;
+  const auto next = (here - buttons.begin()) + by;
+  if (next >= 0 && next < std::ssize(buttons)) {
+    buttons[static_cast<std::size_t>(next)]->setFocus(Qt::TabFocusReason);
+  }
 }
 
 void ToolbarView::Draw() {

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QToolBar>
+#include <QToolButton>
 #include <map>
 #include <string>
 #include <vector>
@@ -23,11 +24,19 @@ class ToolbarView : public QToolBar {
   /// The action of a button, or null.
   QAction* ActionOf(const std::string& key) const;
 
+  /// Words stand beside the icons, or not, as at first.
+  void ShowWords(bool words);
+
+  /// Down, Alt+Down and F4 open the drop-down of the button that has the focus; Left and Right go
+  /// from button to button.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void AddButton(const ToolbarButton& button);
+  void MoveFocus(const QToolButton& from, int by);
   void Draw();
   void DrawMenu(QMenu& menu, const ToolbarButton& button);
 
