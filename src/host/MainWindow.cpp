@@ -165,6 +165,7 @@ void MainWindow::OfferTextCommands() {
   menu_->On(kRedo, [this] { histories_.Redo(); });
   menu_->On(kToggleComment, [this] { ToggleCommentLines(*control_); });
   menu_->On(kFindBar, [this] { find_->Find(); });
+  menu_->On(kReplace, [this] { find_->Replace(); });
   menu_->On(kNextMatch, [this] { find_->FindNext(); });
   menu_->On(kPreviousMatch, [this] { find_->FindPrevious(); });
   connect(find_, &FindBar::told, this, &MainWindow::ShowNotice);

@@ -19,6 +19,7 @@ FindBar::FindBar(TesselWidget& control, QWidget* parent)
   rows->setVerticalSpacing(4);
   rows->setColumnStretch(1, 1);
   BuildFindRow(*rows);
+  BuildReplaceRow(*rows);
   connect(&search_, &DocumentSearch::changed, this, [this] {
     ShowState();
     ShowMarks();
@@ -35,7 +36,7 @@ FindBar::FindBar(TesselWidget& control, QWidget* parent)
 void FindBar::BuildFindRow(QGridLayout& rows) {
   field_ = new FindField(this);
   field_->setAccessibleName(tr("Find"));
-  auto* label = new QLabel(tr("Find:"), this);
+  auto* label = new QLabel(tr("Fin&d:"), this);
   label->setBuddy(field_);
   count_ = new QLabel(this);
   count_->setObjectName("count");
@@ -48,8 +49,8 @@ void FindBar::BuildFindRow(QGridLayout& rows) {
             &FindBar::FindPrevious, *row);
   AddButton("FindNext", tr("Next match"), tr("Next match (Enter)"), &FindBar::FindNext, *row);
   row->addSpacing(6);
-  matchCase_ = AddChoice(tr("&Case"), tr("Match case"), *row);
-  wholeWord_ = AddChoice(tr("Wor&d"), tr("Whole words only"), *row);
+  matchCase_ = AddChoice(tr("C&ase"), tr("Match case"), *row);
+  wholeWord_ = AddChoice(tr("W&ord"), tr("Whole words only"), *row);
   expression_ = AddChoice(tr("Rege&x"), tr("Regular expression"), *row);
   row->addStretch(1);
   AddButton("FindClose", tr("Close"), tr("Close (Esc)"), &FindBar::Close, *row);
@@ -60,6 +61,18 @@ void FindBar::BuildFindRow(QGridLayout& rows) {
   connect(field_, &FindField::nextWanted, this, &FindBar::FindNext);
   connect(field_, &FindField::previousWanted, this, &FindBar::FindPrevious);
   connect(field_, &FindField::entered, this, &FindBar::TakeAnchor);
+}
+
+void FindBar::BuildReplaceRow(QGridLayout& rows) {
+  row_ = new ReplaceRow(rows, 1, this);
+  row_->SetVisible(false);
+  setTabOrder(field_, row_->Field());
+  connect(row_, &ReplaceRow::oneWanted, this, [this] { emit told(replace_.One(row_->Text())); });
+  connect(row_, &ReplaceRow::allWanted, this, [this] { emit told(replace_.All(row_->Text())); });
+  connect(row_, &ReplaceRow::everywhereWanted, this,
+          [this] { emit told(replace_.Everywhere(row_->Text())); });
+  connect(row_, &ReplaceRow::inSelectionToggled, this, &FindBar::LimitToSelection);
+  connect(&search_, &DocumentSearch::limitDropped, row_, [this] { row_->ShowInSelection(false); });
 }
 
 QToolButton* FindBar::AddButton(const QString& icon, const QString& name, const QString& hint,
@@ -106,13 +119,31 @@ QString FindBar::OfferFromSelection() const {
   return expression_->isChecked() ? QRegularExpression::escape(text) : text;
 }
 
-void FindBar::Find() { Open(); }
+void FindBar::Find() { Open(false); }
 
-void FindBar::Open() {
+void FindBar::Replace() { Open(true); }
+
+void FindBar::Open(bool replacing) {
+  const std::string selected = control_.Tessel().OpenDocuments().CurrentEditor().SelText();
+  const bool lines = selected.find_first_of("\r\n") != selected.npos;
   field_->Offer(OfferFromSelection());
+  row_->SetVisible(replacing);
   show();
   Look();
+  if (replacing && lines) row_->ShowInSelection(true);
+  if (replacing && lines) LimitToSelection(true);
   field_->setFocus(Qt::ShortcutFocusReason);
+}
+
+void FindBar::LimitToSelection(bool wanted) {
+  const RichTextBox& editor = control_.Tessel().OpenDocuments().CurrentEditor();
+  if (!wanted) return search_.LimitTo(std::nullopt);
+  if (editor.SelLength() == 0) {
+    row_->ShowInSelection(false);
+    emit told(tr("Nothing is selected."));
+    return;
+  }
+  search_.LimitTo(SearchArea{editor.SelStart(), editor.SelEnd()});
 }
 
 void FindBar::Close() {

@@ -1,4 +1,4 @@
-// The find bar at the bottom of the window.
+// The find and replace bar at the bottom of the window.
 #pragma once
 
 #include <QFrame>
@@ -6,19 +6,22 @@
 #include <QLayout>
 #include <QToolButton>
 
+#include "host/find/DocumentReplace.h"
 #include "host/find/DocumentSearch.h"
 #include "host/find/FindField.h"
 #include "host/find/MatchMarks.h"
+#include "host/find/ReplaceRow.h"
 #include "qt/TesselWidget.h"
 
 class QGridLayout;
 
 namespace tessel {
 
-/// Finds while its user types, marks what is in sight, counts, goes on and back. It is hidden at
+/// Finds while its user types, marks what is in sight, counts, goes on and back; replaces one
+/// match, those of the document or of the selection, or those of all documents. It is hidden at
 /// first. Esc closes it.
 ///
-/// It selects as a person does, so that the control follows. The control's own dialog
+/// It selects and edits as a person does, so that the control follows. The control's own dialog
 /// knows nothing of it.
 class FindBar : public QFrame {
   Q_OBJECT
@@ -31,6 +34,8 @@ class FindBar : public QFrame {
   /// Shows the bar for a search, with the selection as what is looked for when that lies in one
   /// line.
   void Find();
+  /// The same with the row for replacing. A selection of several lines is where is searched.
+  void Replace();
   /// Goes on, also while the bar is hidden; shows it when nothing was looked for yet.
   void FindNext();
   void FindPrevious();
@@ -47,10 +52,12 @@ class FindBar : public QFrame {
 
  private:
   void BuildFindRow(QGridLayout& rows);
+  void BuildReplaceRow(QGridLayout& rows);
   QToolButton* AddChoice(const QString& caption, const QString& hint, QLayout& row);
   QToolButton* AddButton(const QString& icon, const QString& name, const QString& hint,
                          void (FindBar::*action)(), QLayout& row);
-  void Open();
+  void Open(bool replacing);
+  void LimitToSelection(bool wanted);
   void Look();
   void LookAndGo();
   void Go(Direction direction);
@@ -65,8 +72,10 @@ class FindBar : public QFrame {
 
   TesselWidget& control_;
   DocumentSearch& search_;
+  DocumentReplace replace_{control_, search_};
   MatchMarks marks_;
   FindField* field_ = nullptr;
+  ReplaceRow* row_ = nullptr;
   QLabel* count_ = nullptr;
   QToolButton* matchCase_ = nullptr;
   QToolButton* wholeWord_ = nullptr;

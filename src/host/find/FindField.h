@@ -5,7 +5,7 @@
 
 namespace tessel {
 
-/// A field with the last searches in its drop-down (Alt+Down, F4). Enter and Down ask for the next
+/// A field with the last searches in its drop-down (Alt+Down). Enter and Down ask for the next
 /// match, Shift+Enter and Up for the one before.
 class FindField : public QComboBox {
   Q_OBJECT

@@ -22,8 +22,11 @@ MatchScan::MatchScan(const SearchPattern& pattern, SearchedText& text, const Sea
 bool MatchScan::Work(const QDeadlineTimer& until) {
   QElapsedTimer clock;
   clock.start();
+  const auto mayGoOn = [&] {
+    return !over_ && !until.hasExpired() && spent_ + clock.nsecsElapsed() < kMostNanoseconds;
+  };
   try {
-    while (!over_ && !until.hasExpired()) LookOnce();
+    while (mayGoOn()) LookOnce();
   } catch (const RuntimeError&) {
     over_ = true;
     throw;
