@@ -38,7 +38,7 @@ bool StructureWalk::Read(int statements) {
     if (walk_.CurrentRole() == Role::kClosesNothing) {
       structure_.tree.strayClosers.push_back(walk_.Current());
     }
-    if (!IsListed(walk_)) continue;
+    if (!wantsSymbols_ || !IsListed(walk_)) continue;
     structure_.symbols.push_back(ReadSymbol(script_, walk_.Current()));
     blockOf_.push_back(walk_.CurrentRole() == Role::kOpens ? walk_.Blocks().size() : 0);
   }

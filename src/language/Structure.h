@@ -18,7 +18,9 @@ struct Structure {
 /// script stays as it is meanwhile.
 class StructureWalk {
  public:
-  explicit StructureWalk(const Script& script) : script_(script), walk_(script) {}
+  /// Without `symbols` there will be none: they take more room than the blocks of a large text.
+  explicit StructureWalk(const Script& script, bool symbols = true)
+      : script_(script), walk_(script), wantsSymbols_(symbols) {}
 
   /// Goes over so many statements more. False when all are read.
   bool Read(int statements);
@@ -28,6 +30,7 @@ class StructureWalk {
  private:
   const Script& script_;
   BlockWalk walk_;
+  bool wantsSymbols_;
   Structure structure_;
   std::vector<std::size_t> blockOf_;  // for each symbol, one more than the index of its block
 };

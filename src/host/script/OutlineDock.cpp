@@ -47,7 +47,8 @@ void OutlineDock::SetShown(bool shown) {
     window_.resizeDocks({this}, {QSettings().value(kWidthKey, kUsualWidth).toInt()},
                         Qt::Horizontal);
   }
-  uses_.reader.SetWanted(this, shown);
+  using enum StructureReader::Wish;
+  uses_.reader.SetWish(this, shown ? kSymbolsToo : kNothing);
   emit shownChanged(shown);
 }
 

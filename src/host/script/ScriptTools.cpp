@@ -19,8 +19,14 @@ const ScriptCommand kScriptCommands[] = {
      &ScriptTools::GoBack},
     {"GoForward", QT_TRANSLATE_NOOP("ScriptTools", "Go F&orward"), Qt::ALT | Qt::Key_Right,
      &ScriptTools::GoForward},
-    {"ToggleOutline", QT_TRANSLATE_NOOP("ScriptTools", "&Outline"),
+    {"ToggleOutline", QT_TRANSLATE_NOOP("ScriptTools", "Outlin&e"),
      Qt::CTRL | Qt::SHIFT | Qt::Key_O, &ScriptTools::ToggleOutline},
+    {"ToggleFold", QT_TRANSLATE_NOOP("ScriptTools", "&Fold or Unfold"), QKeyCombination(Qt::Key_F9),
+     &ScriptTools::ToggleFold},
+    {"FoldAll", QT_TRANSLATE_NOOP("ScriptTools", "Fold &All"), Qt::CTRL | Qt::Key_F9,
+     &ScriptTools::FoldAll},
+    {"UnfoldAll", QT_TRANSLATE_NOOP("ScriptTools", "Unf&old All"),
+     Qt::CTRL | Qt::SHIFT | Qt::Key_F9, &ScriptTools::UnfoldAll},
 };
 
 }  // namespace
@@ -31,7 +37,8 @@ ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control)
       navigator_(control, scripts_),
       reader_(control.Tessel().OpenDocuments(), scripts_, nullptr),
       outline_(*new OutlineDock({control, scripts_, reader_, navigator_}, window)),
-      marks_(control, scripts_, nullptr) {
+      marks_(control, scripts_, nullptr),
+      folding_(control, scripts_, reader_, nullptr) {
   for (const ScriptCommand& command : kScriptCommands) {
     auto* action = new QAction(tr(command.text), this);
     action->setObjectName(command.name);

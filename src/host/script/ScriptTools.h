@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include "host/script/BlockMarks.h"
+#include "host/script/Folding.h"
 #include "host/script/Navigator.h"
 #include "host/script/OpenScripts.h"
 #include "host/script/OutlineDock.h"
@@ -31,6 +32,10 @@ class ScriptTools : public QObject {
   void GoForward() { navigator_.GoForward(); }
   /// Shows the outline with the keys going to its filter, or hides it.
   void ToggleOutline();
+  void FoldAll() { folding_.FoldAll(); }
+  void UnfoldAll() { folding_.UnfoldAll(); }
+  /// Folds the block at the caret, or unfolds it.
+  void ToggleFold() { folding_.ToggleAtCaret(); }
 
  signals:
   /// A sentence for the status bar.
@@ -42,6 +47,7 @@ class ScriptTools : public QObject {
   StructureReader reader_;
   OutlineDock& outline_;
   BlockMarks marks_;
+  Folding folding_;
 };
 
 }  // namespace tessel

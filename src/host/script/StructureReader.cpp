@@ -1,5 +1,7 @@
 #include "host/script/StructureReader.h"
 
+#include <algorithm>
+
 namespace tessel {
 namespace {
 
@@ -22,9 +24,9 @@ StructureReader::StructureReader(DocumentList& documents, OpenScripts& scripts, 
   };
 }
 
-void StructureReader::SetWanted(const QObject* by, bool wanted) {
-  if (wanted) {
-    wishes_.insert(by);
+void StructureReader::SetWish(const QObject* by, Wish wish) {
+  if (wish != Wish::kNothing) {
+    wishes_[by] = wish;
     StartIn(0);
     return;
   }
@@ -32,6 +34,11 @@ void StructureReader::SetWanted(const QObject* by, bool wanted) {
   if (!wishes_.empty()) return;
   walk_.reset();
   timer_.stop();
+}
+
+bool StructureReader::WantsSymbols() const {
+  return std::ranges::any_of(wishes_,
+                             [](const auto& wish) { return wish.second == Wish::kSymbolsToo; });
 }
 
 void StructureReader::StartIn(int milliseconds) {
@@ -43,7 +50,7 @@ void StructureReader::StartIn(int milliseconds) {
 void StructureReader::ReadOn() {
   if (!walk_) {
     slot_ = documents_.Current().Place();
-    walk_.emplace(scripts_.Of(slot_));
+    walk_.emplace(scripts_.Of(slot_), WantsSymbols());
   }
   QElapsedTimer time;
   time.start();

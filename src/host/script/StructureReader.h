@@ -4,8 +4,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
+#include <map>
 #include <optional>
-#include <set>
 #include <vector>
 
 #include "host/script/OpenScripts.h"
@@ -24,19 +24,21 @@ class StructureReader : public QObject {
 
   StructureReader(DocumentList& documents, OpenScripts& scripts, QObject* parent);
 
-  /// Nothing is read while nobody wants it. Who begins to want it is told soon.
-  void SetWanted(const QObject* by, bool wanted);
+  enum class Wish { kNothing, kBlocks, kSymbolsToo };
+  /// Nothing is read that nobody wants. Who begins to want something is told soon.
+  void SetWish(const QObject* by, Wish wish);
 
   /// The structure of the document in that slot, as its text is now.
   Event<Slot, const language::Structure&> Read;
 
  private:
+  bool WantsSymbols() const;
   void StartIn(int milliseconds);
   void ReadOn();
 
   DocumentList& documents_;
   OpenScripts& scripts_;
-  std::set<const QObject*> wishes_;
+  std::map<const QObject*, Wish> wishes_;
   Slot slot_{};
   std::optional<language::StructureWalk> walk_;
   QTimer timer_;
