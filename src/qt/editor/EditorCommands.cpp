@@ -51,6 +51,23 @@ void EditorCommands::Paste() {
   }
 }
 
+void EditorCommands::BreakLine() {
+  if (!MayEdit()) return;
+  std::string bytes(LineEndOfReturn(model_.Bytes()));
+  bytes += IndentationAt(model_.Bytes(), model_.SelStart());
+  Insert(bytes, false);
+}
+
+void EditorCommands::Replace(Position at, Position length, const std::string& bytes) {
+  if (!MayEdit()) return;
+  mirror_.ByHand([&] {
+    mirror_.TakeOver();
+    mirror_.CloseUndoStep();
+    mirror_.OpenUndoStep(false);
+    model_.EditByHand(at, length, bytes);
+  });
+}
+
 void EditorCommands::Insert(const std::string& bytes, bool typing) {
   mirror_.ByHand(
       [&] {

@@ -30,6 +30,10 @@ class EditorCommands {
   void Cut();
   void Copy();
   void Paste();
+  /// Breaks the line, and begins the new one as the old one began.
+  void BreakLine();
+  /// One edit of its own.
+  void Replace(Position at, Position length, const std::string& bytes);
 
   /// Moves the caret, unless the place is in the selection.
   void MoveCaretOutOfSelection(Position at);

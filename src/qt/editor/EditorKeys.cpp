@@ -129,6 +129,12 @@ std::string_view LineEndOfReturn(std::string_view text) {
   return text.substr(at, 1);
 }
 
+std::string_view IndentationAt(std::string_view text, Position caret) {
+  const std::string_view before = text.substr(0, static_cast<std::size_t>(caret));
+  const std::string_view line = before.substr(before.find_last_of("\r\n") + 1);
+  return line.substr(0, std::min(line.find_first_not_of(" \t"), line.size()));
+}
+
 void UseLineEndOf(std::string_view text, QsciScintillaBase& widget) {
   const std::string_view lineEnd = LineEndOfReturn(text);
   const int mode = lineEnd == "\n"   ? Sci::SC_EOL_LF

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string_view>
 
+#include "text/TextTypes.h"
+
 class QKeyEvent;
 class QsciScintillaBase;
 
@@ -40,6 +42,8 @@ QString TextOfKey(const QKeyEvent& event);
 
 /// The break that the Return key inserts into a text: the text's first one, else CR LF.
 std::string_view LineEndOfReturn(std::string_view text);
+/// The blanks and tabs that the caret's line begins with, up to the caret.
+std::string_view IndentationAt(std::string_view text, Position caret);
 /// Makes Scintilla's Return key insert that one.
 void UseLineEndOf(std::string_view text, QsciScintillaBase& widget);
 

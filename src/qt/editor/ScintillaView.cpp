@@ -119,12 +119,23 @@ void ScintillaView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (keepsIndentation_ && CanBreakLine(*event)) {
+      event->accept();
+      SendScintilla(SCI_CALLTIPCANCEL);
+      return commands_.BreakLine();
+    }
     UseLineEndOf(model_.Bytes(), *this);
   }
   QKeyEvent key(event->type(), event->key(), event->modifiers(), TextOfKey(*event),
                 event->isAutoRepeat());
   mirror_.ByHand([&] { QsciScintillaBase::keyPressEvent(&key); }, typing);
   event->setAccepted(key.isAccepted());
+}
+
+/// A list of words takes the key for itself.
+bool ScintillaView::CanBreakLine(const QKeyEvent& event) const {
+  return !(event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) &&
+         SendScintilla(SCI_AUTOCACTIVE) == 0;
 }
 
 void ScintillaView::Run(EditorCommand command) {

@@ -5,6 +5,7 @@
 
 #include <QPoint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "models/RichTextBox.h"
@@ -58,6 +59,12 @@ class ScintillaView : public QsciScintillaBase {
 
   /// An empty family and the size 0 are the desktop's.
   void SetTextFont(const QString& family, int points);
+  /// From now on the Return key begins a line as the one before begins.
+  void KeepIndentation(bool keep) { keepsIndentation_ = keep; }
+  /// Replaces a piece of the text as a person does: one edit, one undo step.
+  void ReplaceByHand(Position at, Position length, const std::string& bytes) {
+    commands_.Replace(at, length, bytes);
+  }
 
   /// Draws a box around the selection until it is called with false, also while the selection is
   /// hidden. The selection stays what it is.
@@ -97,6 +104,7 @@ class ScintillaView : public QsciScintillaBase {
   void ListenToScintilla();
   void ListenToParts();
   void ApplyTheme();
+  bool CanBreakLine(const QKeyEvent& event) const;
   void Run(EditorCommand command);
   void ShowMenuAtCaret();
   void PasteFromMouse(QPoint at);
@@ -114,6 +122,7 @@ class ScintillaView : public QsciScintillaBase {
   std::vector<Subscription> subscriptions_;
   QPoint popupPosition_;
   std::optional<Reading> reading_;
+  bool keepsIndentation_ = false;
   PreeditLabel* preedit_ = nullptr;  // made for the first input method
 };
 
