@@ -73,6 +73,12 @@ std::string OpenedPathOf(TesselWidget& control, const std::string& file) {
   return file;
 }
 
+Menu MenuOfScriptCommand(const QString& name) {
+  if (name.startsWith("Go")) return Menu::kSearch;
+  const bool shows = name.endsWith("Outline") || name.contains("Fold");
+  return shows ? Menu::kView : Menu::kEdit;
+}
+
 Services With(const Services& s, FileDialogs& dialogs) {
   return {.messages = s.messages,
           .fileDialogs = dialogs,
@@ -96,7 +102,8 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
       panel_(services.messages),
       control_(new TesselWidget(With(services, dialogs_), widgets, this, ControlOptions())),
       files_(files),
-      messages_(services.messages) {
+      messages_(services.messages),
+      settings_(services.settings) {
   dialogs_.StartAt([this] { return control_->Tessel().OpenDocuments().Current().Path(); });
   guard_.Watch(control_->Tessel().OpenDocuments());
   panel_.Watch(control_->Tessel());
@@ -170,11 +177,10 @@ void MainWindow::OfferTextCommands() {
   menu_->On(kPreviousMatch, [this] { find_->FindPrevious(); });
   connect(find_, &FindBar::told, this, &MainWindow::ShowNotice);
   menu_->On(kGoToLine, [this] { AskForLine(*control_); });
-  script_ = new ScriptTools(*this, *control_);
+  script_ = new ScriptTools(*this, *control_, settings_);
   connect(script_, &ScriptTools::said, this, &MainWindow::ShowNotice);
   for (QAction* action : script_->findChildren<QAction*>()) {
-    const bool goes = action->objectName().startsWith("Go");
-    menu_->Of(goes ? Menu::kSearch : Menu::kView).addAction(action);
+    menu_->Of(MenuOfScriptCommand(action->objectName())).addAction(action);
   }
   connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
 }

@@ -93,6 +93,7 @@ class MainWindow : public QMainWindow {
   Histories histories_{control_->Tessel()};
   GuardedFiles& files_;
   MessageBox& messages_;
+  SettingsStore& settings_;
   MainMenu* menu_ = nullptr;
   FindBar* find_ = nullptr;
   ScriptTools* script_ = nullptr;

@@ -1,6 +1,9 @@
 #include "host/script/ScriptTools.h"
 
 #include <QAction>
+#include <QSettings>
+
+#include "qt/editor/ScintillaView.h"
 
 namespace tessel {
 namespace {
@@ -27,18 +30,43 @@ const ScriptCommand kScriptCommands[] = {
      &ScriptTools::FoldAll},
     {"UnfoldAll", QT_TRANSLATE_NOOP("ScriptTools", "Unf&old All"),
      Qt::CTRL | Qt::SHIFT | Qt::Key_F9, &ScriptTools::UnfoldAll},
+    {"Complete", QT_TRANSLATE_NOOP("ScriptTools", "Co&mplete"), Qt::CTRL | Qt::Key_Space,
+     &ScriptTools::Complete},
+    {"ShowParameters", QT_TRANSLATE_NOOP("ScriptTools", "&Show Parameters"),
+     Qt::CTRL | Qt::SHIFT | Qt::Key_Space, &ScriptTools::ShowParameters},
 };
+
+constexpr const char* kCompletesKey = "editor/completesWhileTyping";
+constexpr const char* kIndentationKey = "editor/keepsIndentation";
 
 }  // namespace
 
-ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control)
+ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control, SettingsStore& settings)
     : QObject(&control),
+      control_(control),
       scripts_(control.Tessel().Controls().rtbCon),
       navigator_(control, scripts_),
       reader_(control.Tessel().OpenDocuments(), scripts_, nullptr),
       outline_(*new OutlineDock({control, scripts_, reader_, navigator_}, window)),
       marks_(control, scripts_, nullptr),
-      folding_(control, scripts_, reader_, nullptr) {
+      folding_(control, scripts_, reader_, nullptr),
+      completion_(control, scripts_, settings, nullptr) {
+  AddActions(window);
+  const QSettings kept;
+  const bool completes = kept.value(kCompletesKey, false).toBool();
+  const bool indents = kept.value(kIndentationKey, true).toBool();
+  connect(AddPreference(window, "CompletesWhileTyping", tr("Complete &While Typing"), completes),
+          &QAction::toggled, this, &ScriptTools::SetCompletesWhileTyping);
+  connect(AddPreference(window, "KeepsIndentation", tr("Keep &Indentation"), indents),
+          &QAction::toggled, this, &ScriptTools::SetKeepsIndentation);
+  completion_.SetWhileTyping(completes);
+  KeepIndentation(indents);
+  loaded_ = control_.Tessel().Controls().rtbCon.Loaded.Connect([this](RichTextBox& editor) {
+    qobject_cast<ScintillaView*>(control_.WidgetFor(editor))->KeepIndentation(keepsIndentation_);
+  });
+}
+
+void ScriptTools::AddActions(QMainWindow& window) {
   for (const ScriptCommand& command : kScriptCommands) {
     auto* action = new QAction(tr(command.text), this);
     action->setObjectName(command.name);
@@ -51,8 +79,17 @@ ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control)
   connect(&outline_, &OutlineDock::shownChanged, outline, &QAction::setChecked);
 }
 
-void ScriptTools::GoToDefinition() {
-  const QString sentence = navigator_.GoToDefinition();
+QAction* ScriptTools::AddPreference(QMainWindow& window, const char* name, const QString& text,
+                                    bool set) {
+  auto* action = new QAction(text, this);
+  action->setObjectName(name);
+  action->setCheckable(true);
+  action->setChecked(set);
+  window.addAction(action);
+  return action;
+}
+
+void ScriptTools::Say(const QString& sentence) {
   if (!sentence.isEmpty()) emit said(sentence);
 }
 
@@ -60,6 +97,24 @@ void ScriptTools::ToggleOutline() {
   const bool show = outline_.isHidden();
   outline_.SetShown(show);
   if (show) outline_.FocusFilter();
+}
+
+void ScriptTools::SetCompletesWhileTyping(bool wanted) {
+  QSettings().setValue(kCompletesKey, wanted);
+  completion_.SetWhileTyping(wanted);
+}
+
+void ScriptTools::SetKeepsIndentation(bool wanted) {
+  QSettings().setValue(kIndentationKey, wanted);
+  KeepIndentation(wanted);
+}
+
+void ScriptTools::KeepIndentation(bool keep) {
+  keepsIndentation_ = keep;
+  const auto& editors = control_.Tessel().Controls().rtbCon;
+  for (int i = 0; i < editors.Count(); ++i) {
+    qobject_cast<ScintillaView*>(control_.WidgetFor(editors[i]))->KeepIndentation(keep);
+  }
 }
 
 }  // namespace tessel

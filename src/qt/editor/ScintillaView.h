@@ -59,6 +59,7 @@ class ScintillaView : public QsciScintillaBase {
 
   /// An empty family and the size 0 are the desktop's.
   void SetTextFont(const QString& family, int points);
+
   /// From now on the Return key begins a line as the one before begins.
   void KeepIndentation(bool keep) { keepsIndentation_ = keep; }
   /// Replaces a piece of the text as a person does: one edit, one undo step.
