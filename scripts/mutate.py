@@ -72,18 +72,22 @@ def limit_memory():
     resource.setrlimit(resource.RLIMIT_AS, (BYTES_OF_MEMORY, BYTES_OF_MEMORY))
 
 
-def run(command, seconds=600, environment=None, prepare=None):
-    """Whether it ends well in that time; what it has started ends with it."""
+def exit_status(command, seconds, environment=None, prepare=None):
+    """None when it takes longer than that; what it has started ends with it."""
     process = subprocess.Popen(command, cwd=BUILD, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                                stderr=subprocess.DEVNULL, env=environment, process_group=0, preexec_fn=prepare)
     try:
-        return process.wait(seconds) == 0
+        return process.wait(seconds)
     except subprocess.TimeoutExpired:
-        return False
+        return None
     finally:
         with contextlib.suppress(ProcessLookupError):
             os.killpg(process.pid, signal.SIGKILL)
         process.wait()
+
+
+def run(command, seconds=600):
+    return exit_status(command, seconds) == 0
 
 
 def programs_for(folder):
@@ -168,29 +172,31 @@ class Trial:
         words = self.build.with_mutant(target, source, str(self.place / "mutant.o"), str(output))
         return (True, BUILD / target) if words is None else (run(words), output)
 
-    def passes(self, program, source):
-        """None when it cannot be linked."""
+    def test(self, program, source):
+        """What becomes of the mutant."""
         linked, path = self.link(f"tests/{program}", source)
         environment = dict(os.environ)
         for target, variable in STARTED.get(program, []):
             linked_too, environment[variable] = self.link(target, source)
             linked = linked and linked_too
         if not linked:
-            return None
-        return run_tests(program, path, environment, self.seconds[program])
+            return "does not build"
+        status = run_tests(program, path, environment, self.seconds[program])
+        return {0: "survived", None: "took too long"}.get(status, "failed a test")
 
 
 def run_tests(program, path, environment, seconds):
     with tempfile.TemporaryDirectory() as files:
         os.chmod(files, 0o755)
-        return run([str(path), "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_filter={FILTERS.get(program, '*')}"],
-                   seconds, {**environment, "TMPDIR": files}, limit_memory)
+        return exit_status([str(path), "--gtest_brief=1", "--gtest_fail_fast",
+                            f"--gtest_filter={FILTERS.get(program, '*')}"],
+                           seconds, {**environment, "TMPDIR": files}, limit_memory)
 
 
 def seconds_for(program):
     """How long it may take with a mutant."""
     start = time.monotonic()
-    if not run_tests(program, BUILD / "tests" / program, os.environ, 600):
+    if run_tests(program, BUILD / "tests" / program, os.environ, 600) != 0:
         sys.exit(f"{program} fails as it is.")
     return max(SECONDS_TO_TEST, TIMES_AS_LONG * (time.monotonic() - start))
 
@@ -204,11 +210,9 @@ def judge(build, seconds, path, folder, number, line):
         if not trial.compile(path, "\n".join(lines) + "\n"):
             return "does not build"
         for program in programs_for(folder):
-            passes = trial.passes(program, path)
-            if passes is None:
-                return "does not build"
-            if not passes:
-                return "killed"
+            result = trial.test(program, path)
+            if result != "survived":
+                return result
     return "survived"
 
 
@@ -253,16 +257,17 @@ def main():
     if "MUTATE_BUILD" not in os.environ:
         build_tests(folders)
     seconds = {program: seconds_for(program) for program in programs_of({folder for _, folder, *_ in sample})}
-    results = {"killed": 0, "survived": 0, "does not build": 0}
+    results = {"failed a test": 0, "took too long": 0, "survived": 0, "does not build": 0}
     with concurrent.futures.ThreadPoolExecutor(asked.jobs) as pool:
         tried = {pool.submit(judge, build, seconds, *sample[index - 1]): index for index in chosen}
         for trial in concurrent.futures.as_completed(tried):
             results[trial.result()] += 1
             if trial.result() == "survived":
                 print(f"survived: {told(tried[trial])}", flush=True)
-    judged = results["killed"] + results["survived"]
-    print(f"{results['killed']} of {judged} killed ({100 * results['killed'] / max(judged, 1):.1f} %), "
-          f"{results['does not build']} did not build")
+    killed = results["failed a test"] + results["took too long"]
+    judged = killed + results["survived"]
+    print(f"{killed} of {judged} killed ({100 * killed / max(judged, 1):.1f} %), {results['took too long']} of them by "
+          f"taking too long; {results['does not build']} did not build")
 
 
 if __name__ == "__main__":
