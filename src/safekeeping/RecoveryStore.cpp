@@ -198,7 +198,6 @@ bool RecoveryStore::WaitForOrders(std::unique_lock<std::mutex>& guard) {
     changed_.wait(guard, something);
   } else if (!changed_.wait_for(guard, patience_, something)) {
     orders_.merge(again_);
-    again_.clear();
   }
   return !orders_.empty();
 }
