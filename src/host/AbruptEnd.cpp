@@ -3,10 +3,14 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QSocketNotifier>
+#include <QThread>
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <exception>
+#include <string_view>
 #include <utility>
 
 namespace tessel {
@@ -32,6 +36,14 @@ void KeepAtExit() {
   if (auto action = std::exchange(WhatToDo(), nullptr)) action();
 }
 
+/// An exception found its way to where none may come, such as a destructor without memory.
+[[noreturn]] void KeepAndAbort() {
+  constexpr std::string_view kSentence = "zanth-manager: the program cannot go on.\n";
+  [[maybe_unused]] const auto written = ::write(STDERR_FILENO, kSentence.data(), kSentence.size());
+  if (qApp != nullptr && QThread::currentThread() == qApp->thread()) KeepAtExit();
+  std::abort();
+}
+
 }  // namespace
 
 AbruptEnd::AbruptEnd(std::function<void()> keep) {
@@ -44,9 +56,11 @@ AbruptEnd::AbruptEnd(std::function<void()> keep) {
   action.sa_handler = Note;
   action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
   for (const int signal : kSignals) ::sigaction(signal, &action, nullptr);
+  std::set_terminate(KeepAndAbort);
 }
 
 AbruptEnd::~AbruptEnd() {
+  std::set_terminate(std::abort);
   for (const int signal : kSignals) std::signal(signal, SIG_DFL);
   WhatToDo() = nullptr;
   for (int& end : pipeEnds) ::close(std::exchange(end, -1));

@@ -1,4 +1,4 @@
-// What is done when the program is told to end, or loses its display.
+// What is done when the program is told to end, loses its display, or cannot go on.
 #pragma once
 
 #include <QObject>
@@ -6,9 +6,9 @@
 
 namespace tessel {
 
-/// While one lives, SIGTERM, SIGHUP, SIGINT and a display that goes away run `keep` before the
-/// program ends as it would have. Only one can live at a time. A second signal of the same kind
-/// ends the program at once, also when it is busy.
+/// While one lives, SIGTERM, SIGHUP, SIGINT, a display that goes away and an exception that nobody
+/// catches run `keep` before the program ends as it would have. Only one can live at a time. A
+/// second signal of the same kind ends the program at once, also when it is busy.
 class AbruptEnd : public QObject {
   Q_OBJECT
 

@@ -335,8 +335,10 @@ void MainWindow::LogTo(KeepingLog& log) {
   if (keeper_ != nullptr) keeper_->LogTo(&log);
 }
 
+bool MainWindow::KeepTexts() { return keeper_ == nullptr || keeper_->KeepNow(); }
+
 void MainWindow::KeepEverything() {
-  if (keeper_ != nullptr) keeper_->KeepNow();
+  KeepTexts();
   RememberSession();
 }
 

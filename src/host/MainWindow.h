@@ -51,6 +51,9 @@ class MainWindow : public QMainWindow {
   void KeepUnsavedText(const std::string& folder);
   /// Notes when keys come and, once unsaved text is kept, when. It outlives the window.
   void LogTo(KeepingLog& log);
+  /// Keeps every unsaved text; false when one could not be kept. May be called wherever an
+  /// allocation fails.
+  bool KeepTexts();
   /// The program is about to end without asking: keeps every unsaved text and what is open.
   void KeepEverything();
   /// Opens the documents of the last run, if the user wants that, and remembers those of this run.

@@ -73,19 +73,21 @@ void RecoveryKeeper::OnSaved(const Document& document) {
   if (saved.kept) store_.Drop(saved.kept->id);
 }
 
-bool RecoveryKeeper::KeepChanges() {
+void RecoveryKeeper::KeepChanges() {
   timer_.stop();
   QTimer::singleShot(kUntilProblemsShow, this, &RecoveryKeeper::TellProblem);
-  try {
-    for (const Document& document : documents_.All()) {
-      if (At(document.Place()).changed) Keep(document);
-      At(document.Place()).changed = false;
-    }
-    return true;
-  } catch (const std::bad_alloc&) {  // no reason to end with all texts
-    emit failed(tr("Unsaved text cannot be kept for recovery: there is not enough memory."));
-    return false;
+  if (GiveChangesToStore()) return;
+  emit failed(tr("Unsaved text cannot be kept for recovery: there is not enough memory."));
+}
+
+bool RecoveryKeeper::GiveChangesToStore() try {
+  for (const Document& document : documents_.All()) {
+    if (At(document.Place()).changed) Keep(document);
+    At(document.Place()).changed = false;
   }
+  return true;
+} catch (const std::bad_alloc&) {  // no reason to end with all texts
+  return false;
 }
 
 void RecoveryKeeper::Keep(const Document& document) {
@@ -118,8 +120,9 @@ void RecoveryKeeper::KeepAllAgain() {
   KeepChanges();
 }
 
+// Nothing of the toolkit here: where an allocation of its own fails, it may hold a lock.
 bool RecoveryKeeper::KeepNow() {
-  const bool enoughMemory = KeepChanges();
+  const bool enoughMemory = GiveChangesToStore();
   return store_.Flush() && enoughMemory;
 }
 

@@ -27,7 +27,8 @@ class RecoveryKeeper : public QObject {
 
   /// Notes when texts are kept; null: nothing. It outlives this.
   void LogTo(KeepingLog* log) { store_.LogTo(log); }
-  /// Waits until every modified text is on the disk. Returns false when one could not be kept.
+  /// Waits until every modified text is on the disk. Returns false when one could not be kept. May
+  /// be called wherever an allocation fails.
   bool KeepNow();
   /// The program ends normally.
   void Finish();
@@ -57,8 +58,9 @@ class RecoveryKeeper : public QObject {
   void OnMoved(Slot from, Slot to);
   void OnLoaded(const Document& document);
   void OnSaved(const Document& document);
+  void KeepChanges();
   /// False when there was not enough memory.
-  bool KeepChanges();
+  bool GiveChangesToStore();
   void Keep(const Document& document);
   void DropTextThatCameBack(const Kept& kept);
   void KeepAllAgain();

@@ -10,6 +10,7 @@
 #include "host/AbruptEnd.h"
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"
+#include "host/MemoryEnd.h"
 #include "host/Options.h"
 #include "host/StandardError.h"
 #include "posix/FallbackSettingsStore.h"
@@ -109,11 +110,14 @@ int Run(const Options& options) {
   automate(!picture && options.automation.value_or(window.Wishes().Wants(Wish::kAutomation)));
   QObject::connect(&window, &MainWindow::automationWanted, &window, automate);
   std::optional<AbruptEnd> abruptEnd;
+  std::optional<MemoryEnd> memoryEnd;
   if (!picture) {
     window.StartSession();
     window.KeepUnsavedText(state + "/recovery");
     if (log) window.LogTo(*log);
     abruptEnd.emplace([&window] { window.KeepEverything(); });
+    memoryEnd.emplace([&window] { return window.KeepTexts(); },
+                      [&window] { return window.Control().Tessel().Running(); });
   }
   window.OpenFiles(options.files);
   if (picture) return TakePicture(window, options.screenshot) && !written.Any() ? 0 : 1;

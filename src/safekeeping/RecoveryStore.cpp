@@ -95,7 +95,7 @@ RecoveryStore::RecoveryStore(std::string folder, std::chrono::milliseconds patie
     worker_ = std::thread(&RecoveryStore::Work, this);
   } catch (const std::system_error& problem) {
     unusable_ = true;
-    problem_ = problem.code().message();
+    problem_ = FileProblem(problem.code().value()).what();
   }
 }
 
@@ -144,12 +144,16 @@ void RecoveryStore::DropReplaced(Id id, Id by) {
   Give(id, std::move(order));
 }
 
+// No memory is asked for under the lock: a host keeps its texts where an allocation fails.
 void RecoveryStore::Give(Id id, Order order) {
   if (!worker_.joinable()) return;
+  std::map<Id, Order> given;
+  given.try_emplace(id, std::move(order));
   {
     const std::lock_guard guard(mutex_);
     again_.erase(id);
-    orders_[id] = std::move(order);
+    orders_.erase(id);
+    orders_.merge(given);
   }
   changed_.notify_all();
 }
@@ -183,7 +187,7 @@ std::optional<std::string> RecoveryStore::TakeProblem() {
   const std::lock_guard guard(mutex_);
   const bool failing = unusable_ || !failing_.empty();
   if (!failing || std::exchange(told_, true)) return std::nullopt;
-  return problem_;
+  return std::move(problem_);
 }
 
 bool RecoveryStore::TakeLoss() {
@@ -226,29 +230,35 @@ void RecoveryStore::Work() {
     auto order = orders_.extract(next);
     working_ = true;
     guard.unlock();
-    std::string problem;
-    try {
-      Carry(order.key(), order.mapped());
-    } catch (const std::exception& failure) {
-      problem = failure.what();
-    }
+    std::string problem = Carried(order.key(), order.mapped());
     guard.lock();
     working_ = false;
-    Note(order.key(), std::move(order.mapped()), std::move(problem));
+    Note(std::move(order), std::move(problem));
     changed_.notify_all();
   }
 }
 
-void RecoveryStore::Note(Id id, Order order, std::string problem) {
+/// The problem, or nothing.
+std::string RecoveryStore::Carried(Id id, const Order& order) try {
+  Carry(id, order);
+  return {};
+} catch (const std::bad_alloc&) {
+  return "no memory";  // short enough to need none
+} catch (const std::exception& failure) {
+  return failure.what();
+}
+
+void RecoveryStore::Note(std::map<Id, Order>::node_type order, std::string problem) {
+  const Id id = order.key();
   if (problem.empty()) {
     unusable_ = false;
     failing_.erase(id);
     if (failing_.empty()) told_ = false;
     return;
   }
-  failing_.insert(id);
   problem_ = std::move(problem);
-  if (!orders_.contains(id)) again_[id] = std::move(order);
+  if (!orders_.contains(id)) again_.insert(std::move(order));
+  failing_.insert(id);
 }
 
 /// Somebody may have taken the folder away.

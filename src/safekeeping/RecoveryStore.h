@@ -69,7 +69,8 @@ class RecoveryStore {
   std::map<Id, Order>::iterator NextOrder();
   void Work();
   void Carry(Id id, const Order& order);
-  void Note(Id id, Order order, std::string problem);
+  std::string Carried(Id id, const Order& order);
+  void Note(std::map<Id, Order>::node_type order, std::string problem);
   void Give(Id id, Order order);
 
   std::string parent_;

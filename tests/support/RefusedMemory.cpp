@@ -22,10 +22,16 @@ static bool Refused() {
   return left == 0 || (left < 0 && forGood);
 }
 
-void* operator new(std::size_t size) {
-  if (Refused()) throw std::bad_alloc();
-  if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;
+/// The standard wants the handler called first. One that comes back counts as one that found none.
+[[noreturn]] static void NoMemory() {
+  if (const std::new_handler handler = std::get_new_handler()) handler();
   throw std::bad_alloc();
+}
+
+void* operator new(std::size_t size) {
+  if (Refused()) NoMemory();
+  if (void* const memory = std::malloc(size == 0 ? 1 : size)) return memory;
+  NoMemory();
 }
 void* operator new[](std::size_t size) { return ::operator new(size); }
 void operator delete(void* memory) noexcept { std::free(memory); }
