@@ -131,7 +131,10 @@ void RefuseWhatBreaksTheLine(const Script& script, const Level& level, const Cha
   const Range& field = level.*change.field;
   const std::string changed = Spliced(
       script.Text(line), {{{field.begin - line.begin, field.end - line.begin}, *change.text}});
-  if (IsSaidBy(changed, script, level, change)) return;
+  if (IsSaidBy(changed, script, level, change) &&
+      LeavesTheRest(script.Text(), {field, *change.text})) {
+    return;
+  }
   throw RuntimeError("\"" + ToUtf8(*change.text) + "\" cannot be the " + change.what +
                      " of level " + LevelText(script, level) + ".");
 }

@@ -68,6 +68,13 @@ void RefuseTwice(const std::vector<Splice>& splices, language::Range range,
   throw RuntimeError(item.name + " is set twice.");
 }
 
+void RefuseToRunIntoTheRest(const std::string& bytes, const Splice& splice,
+                            const WantedItem& item) {
+  if (LeavesTheRest(bytes, splice)) return;
+  throw RuntimeError("\"" + ToUtf8(splice.text) + "\" cannot be the value of " + item.name +
+                     ": it would run into the comment behind it.");
+}
+
 /// What is to be written where; the report says so.
 std::vector<Splice> ValuesToWrite(const std::string& bytes, const SetArguments& arguments,
                                   FileReport& report) {
@@ -80,6 +87,7 @@ std::vector<Splice> ValuesToWrite(const std::string& bytes, const SetArguments& 
     RefuseTwice(splices, *looked.value, item);
     report.rows.push_back(ChangeRow(look, item, looked, value));
     splices.push_back({*looked.value, std::move(value)});
+    RefuseToRunIntoTheRest(bytes, splices.back(), item);
   }
   return splices;
 }

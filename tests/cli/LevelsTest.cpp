@@ -119,6 +119,17 @@ TEST_F(CommandLineLevels, LeavesCommentsAlone) {
   EXPECT_EQ(OutputOf({"level", "lv.con", "0 1", "--title", "NEW"}), With(text, "TITLE", "NEW"));
 }
 
+TEST_F(CommandLineLevels, LetsNothingRunIntoTheCommentBehindIt) {
+  Put("lv.con", "definelevelname 0 1 a.map/*x*/ 01:00 02:00 TITLE/*c\r\n*/\r\n");
+  ExpectRefusal({"level", "lv.con", "0 1", "--title", "NEW/", "--in-place"},
+                "\"NEW/\" cannot be the title of level 0 1.");
+  ExpectRefusal({"level", "lv.con", "0 1", "--map", "b/", "--in-place"},
+                "\"b/\" cannot be the map of level 0 1.");
+  Put("lv.con", "definelevelname 0 1 a.map 01:00 02:00 TITLE//note\r\n");
+  ExpectRefusal({"level", "lv.con", "0 1", "--title", "NEW/", "--in-place"},
+                "\"NEW/\" cannot be the title of level 0 1.");
+}
+
 TEST_F(CommandLineLevels, TakesALevelAsPeopleWriteIt) {
   for (const char* level : {"0 7", "0/7", "E1L8", "e1l8"}) {
     EXPECT_EQ(OutputOf({"level", "User.con", level}), "E1L8.map\tCAF\xC3\x89 <b>\n") << level;

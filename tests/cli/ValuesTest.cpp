@@ -116,6 +116,20 @@ TEST_F(CommandLineValues, RefusesWhatCannotBeAValue) {
                 "\"maybe\" cannot be the value of Cameras Destructable: it takes YES or NO.");
 }
 
+TEST_F(CommandLineValues, LetsNoValueRunIntoTheCommentBehindIt) {
+  const std::string block = "define WORD b/* old\r\ndefine X 2\r\n*/\r\ndefine Y 3\r\n";
+  Put("odd.con", block);
+  ExpectRefusal({"set", "odd.con", "WORD=c/", "--in-place"},
+                "\"c/\" cannot be the value of WORD: it would run into the comment behind it.");
+  EXPECT_EQ(OutputOf({"set", "odd.con", "WORD=c/d"}), With(block, "b/*", "c/d/*"));
+  Put("odd.con", "define WORD b//note");
+  ExpectRefusal({"set", "odd.con", "WORD=/", "--in-place"},
+                "\"/\" cannot be the value of WORD: it would run into the comment behind it.");
+  Put("odd.con", "define WORD b //note\r\ndefine LAST b");
+  EXPECT_EQ(OutputOf({"set", "odd.con", "WORD=c/", "LAST=d/"}),
+            "define WORD c/ //note\r\ndefine LAST d/");
+}
+
 TEST_F(CommandLineValues, ListsEverySettingAndADashForWhatIsMissing) {
   const std::string list = OutputOf({"settings", "User.con"});
   EXPECT_THAT(list, testing::HasSubstr("Player  Max Regular Health                100\n"));
