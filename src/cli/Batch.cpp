@@ -10,6 +10,8 @@
 #include "cli/report/Difference.h"
 #include "cli/report/Json.h"
 #include "cli/report/Terminal.h"
+#include "posix/EditTurn.h"
+#include "posix/PathResolution.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
@@ -65,13 +67,21 @@ void TellHowMuch(const FileReport& file) {
             << (changed == 1 ? " change\n" : " changes\n");
 }
 
+void PreviewEdit(const EditArguments& arguments, FileReport& file, const Edit& edit) {
+  const std::string before = ReadInput(file.file);
+  ShowDifference(arguments, file, before, edit(before, file));
+}
+
+void EditInPlace(const EditArguments& arguments, FileReport& file, const Edit& edit) {
+  const posix::EditTurn turn(posix::ResolveIgnoringCase(file.file));
+  WriteResult(edit(ReadInput(file.file), file), arguments.destination, {file.file, turn.Found()});
+}
+
 void EditFile(const EditArguments& arguments, FileReport& file, const Edit& edit) {
-  std::string before = ReadInput(file.file);
-  if (!arguments.destination.dryRun) {
-    WriteResult(edit(std::move(before), file), arguments.destination, file.file);
-  } else {
-    ShowDifference(arguments, file, before, edit(before, file));
-  }
+  const Destination& destination = arguments.destination;
+  if (destination.dryRun) return PreviewEdit(arguments, file, edit);
+  if (destination.inPlace) return EditInPlace(arguments, file, edit);
+  WriteResult(edit(ReadInput(file.file), file), destination, {file.file, std::nullopt});
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include "base/RuntimeError.h"
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
-#include "posix/SafeSave.h"
 #include "posix/SaveTarget.h"
 #include "services/Paths.h"
 #include "text/Wildcards.h"
@@ -77,10 +76,16 @@ void PosixFiles::WriteAs(const std::string& path, std::string_view bytes) {
   OrTell("save", path, [&] { Save(path, bytes); });
 }
 
-void PosixFiles::Save(const std::string& path, std::string_view bytes) {
+void PosixFiles::WriteUnlessChanged(const std::string& path, std::string_view bytes,
+                                    const struct stat& read) {
+  OrTell("save", path, [&] { Save(ResolveIgnoringCase(path), bytes, {.unchanged = read}); });
+}
+
+void PosixFiles::Save(const std::string& path, std::string_view bytes,
+                      const SaveCondition& condition) {
   KeepOldBytes keep;
   if (keeper_) keep = [&](std::string_view old) { keeper_(path, old); };
-  SaveWhole(FindSaveTarget(path), bytes, keep);
+  SaveWhole(FindSaveTarget(path), bytes, keep, condition);
 }
 
 void PosixFiles::SetAttributesNormal(const std::string& path) {

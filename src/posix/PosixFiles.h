@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "posix/SafeSave.h"
 #include "services/Services.h"
 
 namespace tessel {
@@ -26,13 +27,16 @@ class PosixFiles : public Files {
   std::string Read(const std::string& path) override;
   void Write(const std::string& path, std::string_view bytes) override;
   void WriteAs(const std::string& path, std::string_view bytes) override;
+  /// Write, but refused when the file is not the one that `read` was said of, or was changed since.
+  void WriteUnlessChanged(const std::string& path, std::string_view bytes, const struct stat& read);
   void SetAttributesNormal(const std::string& path) override;
   /// In byte order. Directories and links that lead nowhere are no files.
   std::vector<std::string> Listing(const std::string& path) override;
   char Separator() const override { return '/'; }
 
  private:
-  void Save(const std::string& path, std::string_view bytes);
+  void Save(const std::string& path, std::string_view bytes,
+            const posix::SaveCondition& condition = {});
 
   Keeper keeper_;
 };

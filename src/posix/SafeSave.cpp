@@ -51,6 +51,24 @@ void RefuseUnlessWritable(const SaveTarget& target, const struct stat& old) {
   }
 }
 
+bool IsSameTime(const timespec& a, const timespec& b) {
+  return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+bool IsUnchanged(const struct stat& now, const struct stat& before) {
+  return now.st_dev == before.st_dev && now.st_ino == before.st_ino &&
+         now.st_size == before.st_size && IsSameTime(now.st_mtim, before.st_mtim) &&
+         IsSameTime(now.st_ctim, before.st_ctim);
+}
+
+void RefuseUnlessHolds(const SaveCondition& condition, const SaveTarget& target) {
+  if (!condition.unchanged) return;
+  const Status now = StatusOf(target);
+  if (!now || !IsUnchanged(*now, *condition.unchanged)) {
+    throw FileProblem("another program has changed it meanwhile");
+  }
+}
+
 /// Only the superuser can give a file away, and a group only its members.
 bool KeepsOwner(int file, const struct stat& old) {
   const struct stat fresh = StatusOfOpen(file);
@@ -81,9 +99,11 @@ void SyncDirectory(int directory) {
   }
 }
 
-void Replace(FreshFile& fresh, const SaveTarget& target, std::string_view bytes) {
+void Replace(FreshFile& fresh, const SaveTarget& target, std::string_view bytes,
+             const SaveCondition& condition) {
   WriteAll(fresh.Number(), bytes);
   Checked([&] { return ::fsync(fresh.Number()); });
+  RefuseUnlessHolds(condition, target);
   fresh.TakePlaceOf(target.name);
   const Descriptor directory(OpenAgain(target.directory));
   if (directory.Number() == -1) return;
@@ -118,13 +138,15 @@ void Keep(std::string_view old, const KeepOldBytes& keep) {
   }
 }
 
-void OverwriteInPlace(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep) {
+void OverwriteInPlace(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep,
+                      const SaveCondition& condition) {
   const Descriptor file(Checked([&] {
     return ::openat(target.directory.Number(), target.name.c_str(),
                     O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
   }));
   const std::string old = ReadAll(file.Number());
   Keep(old, keep);
+  RefuseUnlessHolds(condition, target);
   ReserveRoom(file.Number(), old.size(), bytes.size());
   try {
     PutBytes(file.Number(), bytes);
@@ -154,21 +176,25 @@ std::unique_ptr<FreshFile> CreateBeside(const SaveTarget& target, const Status& 
 }
 
 /// False when the old file is to be written into instead.
-bool SaveBeside(const SaveTarget& target, const Status& old, std::string_view bytes) {
+bool SaveBeside(const SaveTarget& target, const Status& old, std::string_view bytes,
+                const SaveCondition& condition) {
   if (old && HasOtherNames(*old)) return false;
   const auto fresh = CreateBeside(target, old);
   if (!fresh || (old && !TakesAfter(*fresh, target, *old))) return false;
-  Replace(*fresh, target, bytes);
+  Replace(*fresh, target, bytes, condition);
   return true;
 }
 
 }  // namespace
 
-void SaveWhole(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep) {
+void SaveWhole(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep,
+               const SaveCondition& condition) {
   const Status old = StatusOf(target);
   if (!old && errno != ENOENT) throw FileProblem(errno);
   if (old) RefuseUnlessWritable(target, *old);
-  if (!SaveBeside(target, old, bytes)) OverwriteInPlace(target, bytes, keep);
+  if (!SaveBeside(target, old, bytes, condition)) {
+    OverwriteInPlace(target, bytes, keep, condition);
+  }
 }
 
 }  // namespace tessel::posix

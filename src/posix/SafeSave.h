@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "posix/SaveTarget.h"
@@ -12,8 +13,13 @@ namespace tessel::posix {
 /// exception says why they cannot be kept.
 using KeepOldBytes = std::function<void(std::string_view bytes)>;
 
+/// What has to hold at the last moment before the new bytes take their place.
+struct SaveCondition {
+  std::optional<struct stat> unchanged;  ///< the file is still this one, not written to since
+};
+
 /// Gives a regular file new bytes, or makes it. A failure is a FileProblem and leaves the old
-/// bytes.
+/// bytes; so does a condition that does not hold.
 ///
 /// The bytes go to a new file beside the old one, are flushed and then take the old one's place,
 /// with its owner, group, permissions and access control list, and with its extended attributes
@@ -27,6 +33,7 @@ using KeepOldBytes = std::function<void(std::string_view bytes)>;
 ///
 /// What a save that was killed has left in the same directory is taken away by a later one, after
 /// an hour at the earliest.
-void SaveWhole(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep);
+void SaveWhole(const SaveTarget& target, std::string_view bytes, const KeepOldBytes& keep,
+               const SaveCondition& condition = {});
 
 }  // namespace tessel::posix

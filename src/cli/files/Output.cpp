@@ -61,23 +61,24 @@ void BackUp(const std::string& named, const std::string& suffix, bool force) {
   }
 }
 
-void WriteOver(const std::string& file, std::string_view bytes, const Destination& destination,
+void WriteOver(const Source& source, std::string_view bytes, const Destination& destination,
                PosixFiles& files) {
+  const std::string& file = source.name;
   if (IsStream(file)) throw RuntimeError("Cannot save " + file + ": it is a stream.");
+  if (!source.read) throw RuntimeError("Cannot save " + file + ": it is not a regular file.");
   if (destination.backup) BackUp(file, *destination.backup, destination.force);
-  files.Write(file, bytes);
+  files.WriteUnlessChanged(file, bytes, *source.read);
 }
 
 }  // namespace
 
-void WriteResult(std::string_view bytes, const Destination& destination,
-                 const std::string& source) {
+void WriteResult(std::string_view bytes, const Destination& destination, const Source& source) {
   PosixFiles files;
   files.KeepOldBytesBy(KeepAsBackups(DefaultBackupFolder()));
   if (destination.inPlace) return WriteOver(source, bytes, destination, files);
   if (destination.file.empty()) return WriteStream("-", bytes);
   if (IsStream(destination.file)) return WriteStream(destination.file, bytes);
-  if (!destination.force) RefuseToReplace(destination.file, source);
+  if (!destination.force) RefuseToReplace(destination.file, source.name);
   files.WriteAs(destination.file, bytes);
 }
 

@@ -1,6 +1,8 @@
 // Where a command's result goes.
 #pragma once
 
+#include <sys/stat.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,9 +21,15 @@ struct Destination {
   bool LeavesStandardOutput() const { return inPlace || dryRun || (!file.empty() && file != "-"); }
 };
 
-/// Writes a result byte for byte. `source` is the file it was made from, empty where there is none.
+/// The file that a result was made from.
+struct Source {
+  std::string name;                 ///< empty where there is none
+  std::optional<struct stat> read;  ///< the file when it was read, where it is to be written over
+};
+
+/// Writes a result byte for byte. A source that has changed since it was read is not written over.
 /// What cannot be written is a RuntimeError, and the file is as it was. (Failures of standard
 /// output are told when the program ends.)
-void WriteResult(std::string_view bytes, const Destination& destination, const std::string& source);
+void WriteResult(std::string_view bytes, const Destination& destination, const Source& source);
 
 }  // namespace tessel::cli
