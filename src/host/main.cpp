@@ -7,11 +7,13 @@
 #include <optional>
 
 #include "automation/BusAddress.h"
+#include "base/RuntimeError.h"
 #include "host/AbruptEnd.h"
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"
 #include "host/MemoryEnd.h"
 #include "host/Options.h"
+#include "host/Picture.h"
 #include "host/StandardError.h"
 #include "posix/FallbackSettingsStore.h"
 #include "posix/Signals.h"
@@ -46,11 +48,12 @@ class WrittenMessages : public MessageBox {
 };
 
 /// Leaves a picture of the window and says whether that worked.
-bool TakePicture(MainWindow& window, const std::string& file) {
+bool TakePicture(MainWindow& window, const std::string& file) try {
   QApplication::processEvents();
-  const QString path = ShownName(file);
-  if (window.grab().save(path)) return true;
-  TellOnStandardError("cannot write the picture " + file);
+  WritePicture(window.grab().toImage(), file);
+  return true;
+} catch (const RuntimeError& problem) {
+  TellOnStandardError("cannot write the picture " + file + ": " + problem.what());
   return false;
 }
 

@@ -1,5 +1,6 @@
 // The program as it is started from a shell, without anybody at it: for a picture of its window.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QImage>
 #include <cstdio>
@@ -55,6 +56,42 @@ TEST_F(HostProgram, LeavesAPictureOfAsManyPixelsAsASizeCanName) {
 TEST_F(HostProgram, SaysThatThePictureCannotBeWritten) {
   EXPECT_EQ(Start({"--screenshot", directory / "none/picture.png"}), 1);
   EXPECT_TRUE(Said("zanth-manager: cannot write the picture")) << BytesOf(errors);
+}
+
+TEST_F(HostProgram, LeavesAFileThatIsNoPicture) {
+  const std::string name = "user.png";
+  const std::string other = directory.Put("game.con", "define G 1\r\n");
+  directory.Put(name, "notes");
+  std::filesystem::create_symlink(other, directory / "link.png");
+  for (const std::string& file : {user, directory / name, directory / "link.png"}) {
+    EXPECT_EQ(Start({"--screenshot", file}), 1);
+    EXPECT_TRUE(Said("zanth-manager: cannot write the picture " + file)) << BytesOf(errors);
+  }
+  EXPECT_EQ(BytesOf(user), "define A 1\r\n");
+  EXPECT_EQ(BytesOf(other), "define G 1\r\n");
+  EXPECT_EQ(BytesOf(directory / name), "notes");
+}
+
+TEST_F(HostProgram, WritesOverAPictureOfTheSameKindOnly) {
+  const std::string small = directory / "small.jpg";
+  ASSERT_TRUE(QImage(10, 10, QImage::Format_RGB32).save(QString::fromStdString(small)));
+  std::filesystem::copy(small, picture);
+  EXPECT_EQ(Start({"--screenshot", picture, "--size", "760x520"}), 1);
+  EXPECT_EQ(BytesOf(picture), BytesOf(small));
+  EXPECT_EQ(Start({"--screenshot", small, "--size", "760x520"}), 0);
+  EXPECT_EQ(QImage(QString::fromStdString(small)).size(), QSize(760, 520));
+}
+
+TEST_F(HostProgram, WritesOverAnEmptyFile) {
+  directory.Put("picture.png", "");
+  EXPECT_EQ(Start({"--screenshot", picture, "--size", "760x520"}), 0);
+  EXPECT_EQ(QImage(QString::fromStdString(picture)).size(), QSize(760, 520));
+}
+
+TEST_F(HostProgram, DoesNotWaitAtAPipe) {
+  ASSERT_EQ(::mkfifo(picture.c_str(), 0600), 0);
+  EXPECT_EQ(Start({"--screenshot", picture}), 1);
+  EXPECT_TRUE(Said("zanth-manager: cannot write the picture " + picture)) << BytesOf(errors);
 }
 
 TEST_F(HostProgram, WritesDownWhatABoxWouldHaveSaid) {
