@@ -70,7 +70,7 @@ class WindowWithoutMemory : public testing::TestWithParam<Gesture> {
   }
   /// Opens the file, types, and makes the gesture; "" when all is as it should be afterwards.
   std::string Live(long allocation) {
-    HostRun run(State());
+    HostRun run(State(), settings_);
     const AbruptEnd abruptEnd([&run] { run.window->KeepEverything(); });
     const MemoryEnd memoryEnd([&run] { return run.window->KeepTexts(); },
                               [&run] { return run.window->Control().Tessel().Running(); });
@@ -144,7 +144,7 @@ class Uncaught : public HostTest {};
 TEST_F(Uncaught, AnExceptionEndsTheProgramWithTheTextKept) {
   run_.reset();
   const std::string result = InChild([&]() -> std::string {
-    HostRun run(State());
+    HostRun run(State(), settings_);
     const AbruptEnd abruptEnd([&run] { run.window->KeepEverything(); });
     run.Editor(0).Type("typed");
     const std::function<void()> fail = [] { throw std::bad_alloc(); };

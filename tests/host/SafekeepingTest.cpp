@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QStatusBar>
 #include <QTreeWidget>
+#include <csignal>
 
 #include "HostFixture.h"
 #include "host/AbruptEnd.h"

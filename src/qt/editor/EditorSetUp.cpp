@@ -71,10 +71,10 @@ void SetUpFont(QsciScintillaBase& widget, const QString& family, int points) {
   const QByteArray name = QFontInfo(font).family().toUtf8();
   widget.SendScintilla(Sci::SCI_STYLESETFONT, static_cast<uintptr_t>(Sci::STYLE_DEFAULT),
                        name.constData());
-  widget.SendScintilla(
-      Sci::SCI_STYLESETSIZEFRACTIONAL, static_cast<unsigned long>(Sci::STYLE_DEFAULT),
-      std::lround((points > 0 ? points : QFontInfo(font).pointSizeF()) *
-                  int{Sci::SC_FONT_SIZE_MULTIPLIER}));
+  widget.SendScintilla(Sci::SCI_STYLESETSIZEFRACTIONAL,
+                       static_cast<unsigned long>(Sci::STYLE_DEFAULT),
+                       std::lround((points > 0 ? points : QFontInfo(font).pointSizeF()) *
+                                   int{Sci::SC_FONT_SIZE_MULTIPLIER}));
 }
 
 void SetUpEditor(QsciScintillaBase& widget) {
