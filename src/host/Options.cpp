@@ -10,7 +10,7 @@
 #include <system_error>
 #include <utility>
 
-#include "host/StandardError.h"
+#include "host/process/StandardError.h"
 #include "posix/HostDirectory.h"
 #include "posix/SqliteSettingsStore.h"
 

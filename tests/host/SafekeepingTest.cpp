@@ -8,12 +8,12 @@
 #include <csignal>
 
 #include "HostFixture.h"
-#include "host/AbruptEnd.h"
 #include "host/BackupsDialog.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
 #include "host/RestoredText.h"
 #include "host/Session.h"
+#include "host/process/AbruptEnd.h"
 #include "surface/CurrentEditor.h"
 
 namespace tessel::test {

@@ -1,4 +1,4 @@
-#include "host/StandardError.h"
+#include "host/process/StandardError.h"
 
 #include <iostream>
 

@@ -1,4 +1,4 @@
-#include "host/Picture.h"
+#include "host/process/Picture.h"
 
 #include <QBuffer>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "host/AbruptEnd.h"
+#include "host/process/AbruptEnd.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "host/MemoryEnd.h"
+#include "host/process/MemoryEnd.h"
 
 #include <unistd.h>
 
