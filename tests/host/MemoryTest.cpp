@@ -70,7 +70,8 @@ class WindowWithoutMemory : public testing::TestWithParam<Gesture> {
   }
   /// Opens the file, types, and makes the gesture; "" when all is as it should be afterwards.
   std::string Live(long allocation) {
-    HostRun run(State(), settings_);
+    MemorySettingsStore settings;
+    HostRun run(State(), settings);
     const AbruptEnd abruptEnd([&run] { run.window->KeepEverything(); });
     const MemoryEnd memoryEnd([&run] { return run.window->KeepTexts(); },
                               [&run] { return run.window->Control().Tessel().Running(); });
