@@ -94,10 +94,27 @@ TEST_F(LiveColoursOfTheWindow, EndForTheDocumentForWhichColorizeIsReleased) {
   EXPECT_EQ(Drawn(0), kRed);
 }
 
+TEST_F(LiveColoursOfTheWindow, HaveColorizeStandPressedWhereTheyAreDrawn) {
+  const auto pressed = [&] { return Run().Controls().tbToolBar.Pressed("Colorize"); };
+  OpenThree();
+  Run().Tabs().Select(2);
+  EXPECT_TRUE(pressed());
+  PressColorize();
+  EXPECT_FALSE(pressed());
+  Run().Tabs().Select(3);
+  EXPECT_TRUE(pressed());
+  Run().Tabs().Select(2);
+  EXPECT_FALSE(pressed());
+  Run().Tabs().Select(3);
+  Item().trigger();
+  EXPECT_FALSE(pressed());
+  Item().trigger();
+  EXPECT_TRUE(pressed());
+}
+
 TEST_F(LiveColoursOfTheWindow, StayWithTheDocumentThatMovesUp) {
   OpenThree();
   Run().Tabs().Select(3);
-  PressColorize();  // stands released in front of a document that nobody has coloured
   PressColorize();
   ASSERT_EQ(Live(), (Flags{true, true, false}));
   Run().Tabs().Select(1);

@@ -21,6 +21,7 @@ LiveColouring::LiveColouring(TesselWidget& control, MainMenu& menu, Preferences&
     menu.Action(WindowCommand::kLiveColours).setChecked(preferences_.Wants(wish));
     released_.clear();
     Apply();
+    ShowOnButton();
   }));
   subscriptions_.push_back(
       toolbar_.ButtonClick.Connect([this](const ToolbarButton& button) { ButtonPressed(button); }));
@@ -35,6 +36,7 @@ void LiveColouring::ListenToDocuments() {
       documents_.Shown.Connect([this](const Document&) {
         reloading_.reset();
         Apply();
+        ShowOnButton();
       })};
 }
 
@@ -66,6 +68,7 @@ void LiveColouring::Loaded(const Document& document) {
   }
   reloading_.reset();
   Apply();
+  ShowOnButton();
 }
 
 void LiveColouring::Moved(Slot from, Slot to) {
@@ -79,9 +82,20 @@ void LiveColouring::Moved(Slot from, Slot to) {
 void LiveColouring::Apply() {
   for (const Document& document : documents_.All()) {
     auto* view = qobject_cast<ScintillaView*>(control_.WidgetFor(document.Editor()));
-    view->SetLiveColours(preferences_.Wants(Wish::kLiveColours) &&
-                         !released_.contains(document.Place()));
+    view->SetLiveColours(IsLive(document));
   }
+}
+
+bool LiveColouring::IsLive(const Document& document) const {
+  return preferences_.Wants(Wish::kLiveColours) && !released_.contains(document.Place());
+}
+
+// The control has it stand as its own colours are, when it shows a document. On the start tab it
+// says what becomes of the next file.
+void LiveColouring::ShowOnButton() {
+  const Document document = documents_.Current();
+  if (document.IsFree()) return;
+  toolbar_.SetPressed(kColorize, IsLive(document) || document.Mode() == ColourMode::kColoured);
 }
 
 }  // namespace tessel

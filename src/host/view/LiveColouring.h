@@ -17,7 +17,8 @@ namespace tessel {
 
 /// Has every document drawn in live colours while the user wishes that: an item of the View menu,
 /// kept for the next start. Who releases "Colorize" by hand has that document drawn in the
-/// control's colours, until it is pressed again.
+/// control's colours, until it is pressed again: the button stands pressed where live colours are
+/// drawn.
 class LiveColouring : public QObject {
   Q_OBJECT
 
@@ -32,6 +33,8 @@ class LiveColouring : public QObject {
   void Loaded(const Document& document);
   void Moved(Slot from, Slot to);
   void Apply();
+  bool IsLive(const Document& document) const;
+  void ShowOnButton();
 
   Preferences& preferences_;
   Toolbar& toolbar_;
