@@ -177,7 +177,7 @@ void MainWindow::OfferTextCommands() {
   menu_->On(kPreviousMatch, [this] { find_->FindPrevious(); });
   connect(find_, &FindBar::told, this, &MainWindow::ShowNotice);
   menu_->On(kGoToLine, [this] { AskForLine(*control_); });
-  script_ = new ScriptTools(*this, *control_, settings_);
+  script_ = new ScriptTools(*this, *control_, preferences_, settings_);
   connect(script_, &ScriptTools::said, this, &MainWindow::ShowNotice);
   for (QAction* action : script_->findChildren<QAction*>()) {
     menu_->Of(MenuOfScriptCommand(action->objectName())).addAction(action);

@@ -184,9 +184,9 @@ TEST_F(Completing, KnowsWordsThatWereAddedMeanwhile) {
 
 TEST_F(Completing, IsRememberedAsAWish) {
   SetPreference("CompletesWhileTyping", true);
-  CloseAndStartAgain();
-  EXPECT_TRUE(Shown().findChild<QAction*>("CompletesWhileTyping")->isChecked());
-  SetPreference("CompletesWhileTyping", false);
+  EXPECT_TRUE(Shown().Wishes().Wants(Wish::kCompletion));
+  Shown().Wishes().Set(Wish::kCompletion, false);
+  EXPECT_FALSE(Shown().findChild<QAction*>("CompletesWhileTyping")->isChecked());
 }
 
 // --- Return
@@ -238,8 +238,7 @@ TEST_F(Indentation, IsNotKeptWhereThatIsNotWanted) {
   PutCaretBehind("x");
   Press(Qt::Key_Return);
   EXPECT_EQ(Text().Text(), "  x\r\n");
-  CloseAndStartAgain();
-  EXPECT_FALSE(Shown().findChild<QAction*>("KeepsIndentation")->isChecked());
+  EXPECT_FALSE(Shown().Wishes().Wants(Wish::kIndentation));
 }
 
 }  // namespace

@@ -26,6 +26,8 @@ constexpr WishRow kWishes[] = {
     {Wish::kButtonWords, "ButtonWords", "0"},
     {Wish::kLiveColours, "LiveColours", "1"},
     {Wish::kRuler, "Ruler", "0"},
+    {Wish::kCompletion, "Completion", "0"},
+    {Wish::kIndentation, "Indentation", "1"},
     {Wish::kZoom, "Zoom", "0"},
     {Wish::kTabWidth, "TabWidth", "8"},
     {Wish::kFont, "Font", ""},

@@ -16,6 +16,8 @@ enum class Wish {
   kButtonWords,  ///< words stand beside the icons of the toolbar
   kLiveColours,  ///< texts are drawn in colours that follow each edit
   kRuler,        ///< a line marks column 80
+  kCompletion,   ///< words and parameters are offered while somebody types
+  kIndentation,  ///< a new line begins as the one before
   kZoom,         ///< in points, added to the size of the font
   kTabWidth,     ///< in characters
   kFont,         ///< a family; empty: the desktop's fixed font

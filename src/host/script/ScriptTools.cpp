@@ -1,7 +1,6 @@
 #include "host/script/ScriptTools.h"
 
 #include <QAction>
-#include <QSettings>
 
 #include "qt/editor/ScintillaView.h"
 
@@ -36,14 +35,13 @@ const ScriptCommand kScriptCommands[] = {
      Qt::CTRL | Qt::SHIFT | Qt::Key_Space, &ScriptTools::ShowParameters},
 };
 
-constexpr const char* kCompletesKey = "editor/completesWhileTyping";
-constexpr const char* kIndentationKey = "editor/keepsIndentation";
-
 }  // namespace
 
-ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control, SettingsStore& settings)
+ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control, Preferences& preferences,
+                         SettingsStore& settings)
     : QObject(&control),
       control_(control),
+      preferences_(preferences),
       scripts_(control.Tessel().Controls().rtbCon),
       navigator_(control, scripts_),
       reader_(control.Tessel().OpenDocuments(), scripts_, nullptr),
@@ -52,18 +50,12 @@ ScriptTools::ScriptTools(QMainWindow& window, TesselWidget& control, SettingsSto
       folding_(control, scripts_, reader_, nullptr),
       completion_(control, scripts_, settings, nullptr) {
   AddActions(window);
-  const QSettings kept;
-  const bool completes = kept.value(kCompletesKey, false).toBool();
-  const bool indents = kept.value(kIndentationKey, true).toBool();
-  connect(AddPreference(window, "CompletesWhileTyping", tr("Complete &While Typing"), completes),
-          &QAction::toggled, this, &ScriptTools::SetCompletesWhileTyping);
-  connect(AddPreference(window, "KeepsIndentation", tr("Keep &Indentation"), indents),
-          &QAction::toggled, this, &ScriptTools::SetKeepsIndentation);
-  completion_.SetWhileTyping(completes);
-  KeepIndentation(indents);
-  loaded_ = control_.Tessel().Controls().rtbCon.Loaded.Connect([this](RichTextBox& editor) {
-    qobject_cast<ScintillaView*>(control_.WidgetFor(editor))->KeepIndentation(keepsIndentation_);
-  });
+  AddPreference(window, "CompletesWhileTyping", tr("Complete &While Typing"), Wish::kCompletion);
+  AddPreference(window, "KeepsIndentation", tr("Keep &Indentation"), Wish::kIndentation);
+  subscriptions_.push_back(preferences_.Changed.Connect([this](Wish) { ApplyWishes(); }));
+  subscriptions_.push_back(
+      control_.Tessel().Controls().rtbCon.Loaded.Connect([this](RichTextBox&) { ApplyWishes(); }));
+  ApplyWishes();
 }
 
 void ScriptTools::AddActions(QMainWindow& window) {
@@ -79,14 +71,18 @@ void ScriptTools::AddActions(QMainWindow& window) {
   connect(&outline_, &OutlineDock::shownChanged, outline, &QAction::setChecked);
 }
 
-QAction* ScriptTools::AddPreference(QMainWindow& window, const char* name, const QString& text,
-                                    bool set) {
+void ScriptTools::AddPreference(QMainWindow& window, const char* name, const QString& text,
+                                Wish wish) {
   auto* action = new QAction(text, this);
   action->setObjectName(name);
   action->setCheckable(true);
-  action->setChecked(set);
+  action->setChecked(preferences_.Wants(wish));
+  connect(action, &QAction::toggled, this,
+          [this, wish](bool wanted) { preferences_.Set(wish, wanted); });
+  subscriptions_.push_back(preferences_.Changed.Connect([this, action, wish](Wish changed) {
+    if (changed == wish) action->setChecked(preferences_.Wants(wish));
+  }));
   window.addAction(action);
-  return action;
 }
 
 void ScriptTools::Say(const QString& sentence) {
@@ -99,21 +95,12 @@ void ScriptTools::ToggleOutline() {
   if (show) outline_.FocusFilter();
 }
 
-void ScriptTools::SetCompletesWhileTyping(bool wanted) {
-  QSettings().setValue(kCompletesKey, wanted);
-  completion_.SetWhileTyping(wanted);
-}
-
-void ScriptTools::SetKeepsIndentation(bool wanted) {
-  QSettings().setValue(kIndentationKey, wanted);
-  KeepIndentation(wanted);
-}
-
-void ScriptTools::KeepIndentation(bool keep) {
-  keepsIndentation_ = keep;
+void ScriptTools::ApplyWishes() {
+  completion_.SetWhileTyping(preferences_.Wants(Wish::kCompletion));
   const auto& editors = control_.Tessel().Controls().rtbCon;
   for (int i = 0; i < editors.Count(); ++i) {
-    qobject_cast<ScintillaView*>(control_.WidgetFor(editors[i]))->KeepIndentation(keep);
+    qobject_cast<ScintillaView*>(control_.WidgetFor(editors[i]))
+        ->KeepIndentation(preferences_.Wants(Wish::kIndentation));
   }
 }
 

@@ -4,7 +4,9 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QObject>
+#include <vector>
 
+#include "host/preferences/Preferences.h"
 #include "host/script/BlockMarks.h"
 #include "host/script/Completion.h"
 #include "host/script/Folding.h"
@@ -22,8 +24,9 @@ class ScriptTools : public QObject {
   Q_OBJECT
 
  public:
-  /// `settings` holds the script words.
-  ScriptTools(QMainWindow& window, TesselWidget& control, SettingsStore& settings);
+  /// `settings` holds the script words. All outlive this.
+  ScriptTools(QMainWindow& window, TesselWidget& control, Preferences& preferences,
+              SettingsStore& settings);
 
   /// As the user left it.
   void RestoreLook() { outline_.RestoreLook(); }
@@ -41,21 +44,19 @@ class ScriptTools : public QObject {
   /// Offers what the word at the caret may become.
   void Complete() { Say(completion_.Complete()); }
   void ShowParameters() { Say(completion_.ShowParameters()); }
-  // Preferences; each is remembered.
-  void SetCompletesWhileTyping(bool wanted);
-  void SetKeepsIndentation(bool wanted);
 
  signals:
   /// A sentence for the status bar.
   void said(const QString& sentence);
 
  private:
-  void KeepIndentation(bool keep);
   void AddActions(QMainWindow& window);
-  QAction* AddPreference(QMainWindow& window, const char* name, const QString& text, bool set);
+  void AddPreference(QMainWindow& window, const char* name, const QString& text, Wish wish);
+  void ApplyWishes();
   void Say(const QString& sentence);
 
   TesselWidget& control_;
+  Preferences& preferences_;
   OpenScripts scripts_;
   Navigator navigator_;
   StructureReader reader_;
@@ -63,8 +64,7 @@ class ScriptTools : public QObject {
   BlockMarks marks_;
   Folding folding_;
   Completion completion_;
-  bool keepsIndentation_ = false;
-  Subscription loaded_;
+  std::vector<Subscription> subscriptions_;
 };
 
 }  // namespace tessel
