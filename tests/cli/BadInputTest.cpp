@@ -104,9 +104,12 @@ TEST_F(CommandLineBadInput, SaysSoWhenAFileIsTooLargeForTheMemory) {
 }
 
 TEST_F(CommandLineBadInput, ReadsNoMoreThanAGibibyte) {
+  constexpr std::uintmax_t kGiB = std::uintmax_t{1} << 30;
   Put("huge.con", "");
-  std::filesystem::resize_file(PathOf("huge.con"), (std::uintmax_t{1} << 30) + 1);
-  ExpectUnreadable("huge.con", "Cannot open huge.con: it has more than 1 GiB.");
+  for (const auto length : {kGiB + 1, 2 * kGiB - 1, 2 * kGiB, 4 * kGiB + 1}) {
+    std::filesystem::resize_file(PathOf("huge.con"), length);
+    ExpectUnreadable("huge.con", "Cannot open huge.con: it has more than 1 GiB.");
+  }
 }
 
 TEST_F(CommandLineBadInput, RefusesPlacesWhereNothingCanBeWritten) {

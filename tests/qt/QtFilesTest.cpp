@@ -1,6 +1,10 @@
 // Files that the editor widget cannot show.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+
 #include "base/RuntimeError.h"
 #include "qt/services/QtFiles.h"
 #include "support/TempDirectory.h"
@@ -18,18 +22,31 @@ TEST(QtFiles, TellHowLongTheLinesOfATextAre) {
   EXPECT_TRUE(LinesAreUpTo("\n\n\n\n\n\n", 3));
 }
 
-TEST(QtFiles, RefuseALineThatTheEditorCannotShow) {
+/// What is said of a file of that length; NULs take no room on the disk.
+std::string RefusalOfLength(std::uintmax_t length) {
   const TempDirectory directory;
   const std::string path = directory.Put("user.con", "define A 1\r\n");
-  EXPECT_EQ(QtFiles().Read(path), "define A 1\r\n");
-  std::filesystem::resize_file(path, kLongestShownLine + 100);  // NULs, which take no room on disk
+  std::filesystem::resize_file(path, length);
   try {
     QtFiles().Read(path);
-    FAIL() << "it was read";
+    return "it was read";
   } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.what(),
-              "Cannot open " + path +
-                  ": it has a line of more than 256 MiB, which the editor cannot show.");
+    const std::string told = error.what();
+    return told.substr(std::min(told.size(), ("Cannot open " + path + ": ").size()));
+  }
+}
+
+TEST(QtFiles, RefuseALineThatTheEditorCannotShow) {
+  EXPECT_EQ(RefusalOfLength(12), "it was read");
+  EXPECT_EQ(RefusalOfLength(kLongestShownLine + 100),
+            "it has a line of more than 256 MiB, which the editor cannot show.");
+}
+
+TEST(QtFiles, RefuseATextThatTheEditorCannotShow) {
+  constexpr std::uintmax_t kGiB = std::uintmax_t{1} << 30;
+  for (const auto length : {kGiB / 2 + 1, kGiB, 2 * kGiB - 1, 2 * kGiB, 4 * kGiB + 1, 64 * kGiB}) {
+    EXPECT_EQ(RefusalOfLength(length), "it has more than 512 MiB, which the editor cannot show.")
+        << length;
   }
 }
 

@@ -1,8 +1,24 @@
 #include "qt/services/QtFiles.h"
 
 #include "base/RuntimeError.h"
+#include "posix/PathResolution.h"
+#include "posix/Posix.h"
 
 namespace tessel {
+namespace {
+
+[[noreturn]] void Refuse(const std::string& path, const char* what) {
+  throw RuntimeError("Cannot open " + path + ": it has " + what +
+                     ", which the editor cannot show.");
+}
+
+bool IsTooLong(const std::string& path) {
+  const auto status = posix::StatusOf(posix::ResolveIgnoringCase(path));
+  return status && S_ISREG(status->st_mode) &&
+         static_cast<std::size_t>(status->st_size) > kLongestShownText;
+}
+
+}  // namespace
 
 bool LinesAreUpTo(std::string_view bytes, std::size_t longest) {
   while (bytes.size() > longest) {
@@ -14,10 +30,10 @@ bool LinesAreUpTo(std::string_view bytes, std::size_t longest) {
 }
 
 std::string QtFiles::Read(const std::string& path) {
+  if (IsTooLong(path)) Refuse(path, "more than 512 MiB");
   std::string bytes = PosixFiles::Read(path);
-  if (LinesAreUpTo(bytes, kLongestShownLine)) return bytes;
-  throw RuntimeError("Cannot open " + path +
-                     ": it has a line of more than 256 MiB, which the editor cannot show.");
+  if (!LinesAreUpTo(bytes, kLongestShownLine)) Refuse(path, "a line of more than 256 MiB");
+  return bytes;
 }
 
 }  // namespace tessel

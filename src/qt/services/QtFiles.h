@@ -9,12 +9,15 @@ namespace tessel {
 /// eight times as much.
 inline constexpr std::size_t kLongestShownLine = std::size_t{256} << 20;
 
+/// Bytes of a file: the editor widget counts its own, up to three for each of these, in an int.
+inline constexpr std::size_t kLongestShownText = std::size_t{512} << 20;
+
 /// True when no line, without its break (CR, LF or both), is longer than that.
 bool LinesAreUpTo(std::string_view bytes, std::size_t longest);
 
 class QtFiles : public PosixFiles {
  public:
-  /// A text with a line that the editor cannot show is a RuntimeError.
+  /// A text that is longer than the editor can show, or has such a line, is a RuntimeError.
   std::string Read(const std::string& path) override;
 };
 
