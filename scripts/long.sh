@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# What takes too long for "./test.sh --all": scripts/long.sh [kills] [memory] [fuzz] [packages] [mutants]
-# Without arguments all five, in this order. ROUNDS (kills of each kind), TYPING_ROUNDS (kills of the window),
+# What takes too long for "./test.sh --all": scripts/long.sh [kills] [memory] [texts] [fuzz] [packages] [mutants]
+# Without arguments all six, in this order. ROUNDS (kills of each kind), TYPING_ROUNDS (kills of the window),
 # FUZZ_SECONDS (for each target) and MUTANTS ask for less or more:
 # ROUNDS=2 TYPING_ROUNDS=2 FUZZ_SECONDS=2 MUTANTS=2 scripts/long.sh tries it out.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-: "${ROUNDS:=1000}" "${TYPING_ROUNDS:=100}" "${MEMORY_STEPS:=7}" "${FUZZ_SECONDS:=600}" "${MUTANTS:=200}"
+: "${ROUNDS:=1000}" "${TYPING_ROUNDS:=100}" "${MEMORY_STEPS:=7}" "${TEXTS:=100000}" "${FUZZ_SECONDS:=600}" "${MUTANTS:=200}"
 
 jobs=$(nproc)
 export QT_QPA_PLATFORM=offscreen
@@ -26,6 +26,15 @@ memory() {
   cmake --preset release -DTESSEL_TESTS=ON >/dev/null
   cmake --build --preset release -j "$jobs" --target test_host -- --quiet
   TESSEL_MEMORY_STEPS=$((2 * MEMORY_STEPS)) build/release/tests/test_host --gtest_filter='*WindowWithoutMemory*'
+}
+
+# In memory: a disk would need hours to flush them all.
+texts() {
+  step "Trying $TEXTS texts of any bytes"
+  cmake --preset release -DTESSEL_TESTS=ON >/dev/null
+  cmake --build --preset release -j "$jobs" --target test_faults test_qt -- --quiet
+  TESSEL_TEXTS=$TEXTS TMPDIR=/dev/shm build/release/tests/test_faults --gtest_filter='AnyBytes.*'
+  TESSEL_TEXTS=$TEXTS build/release/tests/test_qt --gtest_filter='ScintillaViewKeeps.*'
 }
 
 fuzz() {
@@ -52,11 +61,11 @@ mutants() {
 
 for part in "$@"; do
   case $part in
-    kills|memory|fuzz|packages|mutants) ;;
-    *) echo "Usage: scripts/long.sh [kills] [memory] [fuzz] [packages] [mutants]" >&2; exit 2 ;;
+    kills|memory|texts|fuzz|packages|mutants) ;;
+    *) echo "Usage: scripts/long.sh [kills] [memory] [texts] [fuzz] [packages] [mutants]" >&2; exit 2 ;;
   esac
 done
-[ $# -gt 0 ] || set -- kills memory fuzz packages mutants
+[ $# -gt 0 ] || set -- kills memory texts fuzz packages mutants
 install_missing "${build_packages[@]}" "${test_packages[@]}" "${all_packages[@]}"
 for part in "$@"; do "$part"; done
 step "Done"
