@@ -82,6 +82,15 @@ RC_GTEST_PROP(LineEdits, LeadFromOneTextToTheOtherWithTheFewestLines, ()) {
   RC_ASSERT(removed == before.size() - CommonLines(before, after));
 }
 
+TEST(LineEdits, WithoutALineBetweenThemAreOne) {
+  const auto edits = LineEditsBetween({"same", "a", "b", "end"}, {"same", "c", "d", "e", "end"});
+  ASSERT_EQ(edits.size(), 1U);
+  EXPECT_EQ(edits[0].before, 1U);
+  EXPECT_EQ(edits[0].removed, 2U);
+  EXPECT_EQ(edits[0].after, 1U);
+  EXPECT_EQ(edits[0].added, 3U);
+}
+
 TEST(LineEdits, BetweenTextsThatDifferEverywhereAreOne) {
   std::string before = "first\n";
   std::string after = "first\n";
