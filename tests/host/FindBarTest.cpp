@@ -149,6 +149,24 @@ TEST_F(FindBarKeys, GoesOnAlsoWhileItIsHidden) {
   EXPECT_EQ(Boxed(kMatchBox), "one two one");
 }
 
+TEST_F(FindBarKeys, GoesOnFromAMatchThatWasNotCounted) {
+  std::string text;
+  for (int i = 0; i < 15'000; ++i) text += "one ";
+  Editor().SetText(text);
+  Editor().SelectByHand(4 * 14'000, 3);
+  Press(Qt::Key_E, Qt::ControlModifier);
+  ASSERT_TRUE(Counts("More than 10,000"));
+  for (const int match : {14'001, 14'002}) {
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Editor().SelStart(), 4 * match);
+  }
+  Press(Qt::Key_Escape);
+  for (const int match : {14'003, 14'004}) {
+    Bar().FindNext();
+    EXPECT_EQ(Editor().SelStart(), 4 * match);
+  }
+}
+
 TEST_F(FindBarKeys, ShowsItselfWhenNothingWasLookedForYet) {
   Bar().FindNext();
   EXPECT_TRUE(Field().hasFocus());

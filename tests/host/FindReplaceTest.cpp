@@ -211,6 +211,14 @@ TEST_F(FindReplaceKeys, OnlyGoesThereWhileNoMatchIsSelected) {
   EXPECT_EQ(Shown(), "one two [one]");
 }
 
+TEST_F(FindReplaceKeys, SaysThatItWentOnFromTheTop) {
+  Given("one [] one");
+  Replace("one", "1");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Shown(), "[one]  1");
+  EXPECT_EQ(Said(), "The search went on from the top.");
+}
+
 TEST_F(FindReplaceKeys, ReplacesAnEmptyMatchOnce) {
   Given("[]a\r\nb\r\nc");
   Replace("^", "// ", true);

@@ -48,7 +48,7 @@ QString DocumentReplace::One(const QString& text) {
   const Replacement replacement = ReplacementBy(text);
   if (!replacement.Problem().isEmpty()) return replacement.Problem();
   Position from = search_.From(Direction::kForward);
-  if (const auto match = search_.Current()) {
+  if (const auto match = search_.Selected()) {
     const Position behind = search_.Pattern()->Behind(search_.Text(), *match) - match->End();
     auto changes = ChangesOf(*search_.Pattern(), search_.Text(), {*match}, replacement);
     from = match->start + std::ssize(changes.front().inserted) + behind;

@@ -141,7 +141,7 @@ void DocumentSearch::Step(Position from, Direction direction) {
 }
 
 Position DocumentSearch::From(Direction direction) {
-  const auto current = Current();
+  const auto current = Selected();
   if (direction == Direction::kBackward) return current ? current->start : editor_->SelStart();
   return current ? pattern_->Behind(Text(), *current) : editor_->SelStart();
 }
@@ -206,6 +206,17 @@ std::optional<TextMatch> DocumentSearch::Current() const {
   const auto it = std::ranges::lower_bound(Matches(), editor_->SelStart(), {}, &TextMatch::start);
   if (it == Matches().end() || !IsSelected(*editor_, *it)) return std::nullopt;
   return *it;
+}
+
+std::optional<TextMatch> DocumentSearch::Selected() {
+  auto match = Current();
+  if (match || editor_ == nullptr || !pattern_) return match;
+  try {
+    match = pattern_->FirstIn(Text(), editor_->SelStart(), editor_->SelStart());
+  } catch (const RuntimeError&) {
+    return std::nullopt;  // the search itself will say so
+  }
+  return match && IsSelected(*editor_, *match) ? match : std::nullopt;
 }
 
 qsizetype DocumentSearch::CurrentNumber() const {

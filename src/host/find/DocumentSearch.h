@@ -48,6 +48,8 @@ class DocumentSearch : public QObject {
   const std::vector<TextMatch>& Matches() const;
   /// The match that is selected.
   std::optional<TextMatch> Current() const;
+  /// The same, also where the count has not come to it yet.
+  std::optional<TextMatch> Selected();
   /// Its place among the matches, from 1; 0 when that is not known.
   qsizetype CurrentNumber() const;
   /// Those in a small part of the text, such as the one in sight. Nothing while the text has just

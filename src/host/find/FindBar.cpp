@@ -67,7 +67,10 @@ void FindBar::BuildReplaceRow(QGridLayout& rows) {
   row_ = new ReplaceRow(rows, 1, this);
   row_->SetVisible(false);
   setTabOrder(field_, row_->Field());
-  connect(row_, &ReplaceRow::oneWanted, this, [this] { emit told(replace_.One(row_->Text())); });
+  connect(row_, &ReplaceRow::oneWanted, this, [this] {
+    typed_ = false;
+    if (const QString why = replace_.One(row_->Text()); !why.isEmpty()) emit told(why);
+  });
   connect(row_, &ReplaceRow::allWanted, this, [this] { emit told(replace_.All(row_->Text())); });
   connect(row_, &ReplaceRow::everywhereWanted, this,
           [this] { emit told(replace_.Everywhere(row_->Text())); });
@@ -208,6 +211,7 @@ void FindBar::OnStepped(bool found) {
   }
   ShowState();
   ShowMarks();
+  if (!isVisible()) search_.Stop();
 }
 
 // --- What is shown
@@ -238,7 +242,7 @@ QString FindBar::StateText() const {
 void FindBar::ShowState() {
   count_->setText(StateText());
   const QString problem = search_.Problem();
-  count_->setToolTip(problem);
+  count_->setToolTip(PlainToolTip(problem));
   if (problem == toldProblem_) return;
   toldProblem_ = problem;
   emit told(problem);
