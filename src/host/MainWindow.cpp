@@ -75,7 +75,7 @@ std::string OpenedPathOf(TesselWidget& control, const std::string& file) {
 
 Menu MenuOfScriptCommand(const QString& name) {
   if (name.startsWith("Go")) return Menu::kSearch;
-  const bool shows = name.endsWith("Outline") || name.contains("Fold");
+  const bool shows = name.endsWith("Outline") || name.contains("fold", Qt::CaseInsensitive);
   return shows ? Menu::kView : Menu::kEdit;
 }
 
