@@ -64,6 +64,28 @@ bool IsAbandoned(int file, std::chrono::seconds age) {
          IsOld(status, age) && Lock(file);
 }
 
+/// Does the file system not know what was asked for?
+bool IsUnknown(int problem) {
+  return problem == EINVAL || problem == ENOSYS || problem == EOPNOTSUPP || problem == EPERM;
+}
+
+/// −1 with the reason in errno, as of rename.
+int RenameToFreeName(int directory, const char* name, const char* target) {
+  const int renamed = ::renameat2(directory, name, directory, target, RENAME_NOREPLACE);
+  if (renamed == 0 || !IsUnknown(errno)) return renamed;
+  if (::linkat(directory, name, directory, target, 0) == 0) {
+    ::unlinkat(directory, name, 0);
+    return 0;
+  }
+  if (!IsUnknown(errno)) return -1;
+  struct stat status {};
+  if (::fstatat(directory, target, &status, AT_SYMLINK_NOFOLLOW) == 0) {
+    errno = EEXIST;
+    return -1;
+  }
+  return ::renameat(directory, name, directory, target);
+}
+
 }  // namespace
 
 FreshFile::FreshFile(int directory, const std::string& prefix, mode_t mode)
@@ -99,6 +121,12 @@ FreshFile::Created FreshFile::Create(int directory, const std::string& prefix, m
 void FreshFile::TakePlaceOf(const std::string& target) {
   file_.Close();
   Checked([&] { return ::renameat(directory_, name_.c_str(), directory_, target.c_str()); });
+  placed_ = true;
+}
+
+void FreshFile::TakeFreeName(const std::string& target) {
+  file_.Close();
+  Checked([&] { return RenameToFreeName(directory_, name_.c_str(), target.c_str()); });
   placed_ = true;
 }
 

@@ -25,6 +25,8 @@ class FreshFile {
   int Number() const { return file_.Number(); }
   /// Closes it and gives it that name, in the same directory.
   void TakePlaceOf(const std::string& target);
+  /// The same, where nothing has that name; otherwise an EEXIST.
+  void TakeFreeName(const std::string& target);
 
  private:
   struct Created {

@@ -81,6 +81,10 @@ void PosixFiles::WriteUnlessChanged(const std::string& path, std::string_view by
   OrTell("save", path, [&] { Save(ResolveIgnoringCase(path), bytes, {.unchanged = read}); });
 }
 
+void PosixFiles::WriteNew(const std::string& path, std::string_view bytes) {
+  OrTell("save", path, [&] { Save(path, bytes, {.isNew = true}); });
+}
+
 void PosixFiles::Save(const std::string& path, std::string_view bytes,
                       const SaveCondition& condition) {
   KeepOldBytes keep;

@@ -29,6 +29,8 @@ class PosixFiles : public Files {
   void WriteAs(const std::string& path, std::string_view bytes) override;
   /// Write, but refused when the file is not the one that `read` was said of, or was changed since.
   void WriteUnlessChanged(const std::string& path, std::string_view bytes, const struct stat& read);
+  /// WriteAs, but refused where something has the name already, at the last moment too.
+  void WriteNew(const std::string& path, std::string_view bytes);
   void SetAttributesNormal(const std::string& path) override;
   /// In byte order. Directories and links that lead nowhere are no files.
   std::vector<std::string> Listing(const std::string& path) override;

@@ -99,12 +99,24 @@ void SyncDirectory(int directory) {
   }
 }
 
+[[noreturn]] void RefuseWhatIsThere() { throw FileProblem("it is there already"); }
+
+void GiveName(FreshFile& fresh, const SaveTarget& target, const SaveCondition& condition) {
+  if (!condition.isNew) return fresh.TakePlaceOf(target.name);
+  try {
+    fresh.TakeFreeName(target.name);
+  } catch (const FileProblem& problem) {
+    if (problem.Code() == EEXIST) RefuseWhatIsThere();
+    throw;
+  }
+}
+
 void Replace(FreshFile& fresh, const SaveTarget& target, std::string_view bytes,
              const SaveCondition& condition) {
   WriteAll(fresh.Number(), bytes);
   Checked([&] { return ::fsync(fresh.Number()); });
   RefuseUnlessHolds(condition, target);
-  fresh.TakePlaceOf(target.name);
+  GiveName(fresh, target, condition);
   const Descriptor directory(OpenAgain(target.directory));
   if (directory.Number() == -1) return;
   SyncDirectory(directory.Number());
@@ -192,6 +204,7 @@ void SaveWhole(const SaveTarget& target, std::string_view bytes, const KeepOldBy
   const Status old = StatusOf(target);
   if (!old && errno != ENOENT) throw FileProblem(errno);
   if (old) RefuseUnlessWritable(target, *old);
+  if (old && condition.isNew) RefuseWhatIsThere();
   if (!SaveBeside(target, old, bytes, condition)) {
     OverwriteInPlace(target, bytes, keep, condition);
   }

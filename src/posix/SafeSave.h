@@ -15,7 +15,8 @@ using KeepOldBytes = std::function<void(std::string_view bytes)>;
 
 /// What has to hold at the last moment before the new bytes take their place.
 struct SaveCondition {
-  std::optional<struct stat> unchanged;  ///< the file is still this one, not written to since
+  bool isNew = false;                         ///< nothing has the name yet
+  std::optional<struct stat> unchanged = {};  ///< the file is still this one, not written to since
 };
 
 /// Gives a regular file new bytes, or makes it. A failure is a FileProblem and leaves the old

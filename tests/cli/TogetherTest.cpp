@@ -46,5 +46,19 @@ TEST_F(CommandLineTogether, WaitsNotForEver) {
   ::close(file);
 }
 
+TEST_F(CommandLineTogether, GiveANewNameToOneOfTwoOnly) {
+  for (int round = 0; round < 20; ++round) {
+    std::filesystem::remove(PathOf("new.con"));
+    const Outcome outcome = Shell(
+        "tessel new 13DU -o new.con & first=$!; tessel new 13DG -o new.con; second=$?; wait "
+        "$first; "
+        "echo $((second + $?))");
+    ASSERT_EQ(outcome.out, "1\n") << outcome.err;
+    ASSERT_THAT(outcome.err,
+                testing::StartsWith("tessel: Cannot save new.con: it is there already"));
+  }
+  EXPECT_THAT(files_.Names(), testing::ElementsAre("new.con"));
+}
+
 }  // namespace
 }  // namespace tessel::test

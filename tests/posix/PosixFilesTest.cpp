@@ -57,6 +57,28 @@ TEST_F(PosixFilesTest, KeepsAll256BytesInBothDirections) {
   EXPECT_EQ(BytesOf(directory / "b.con"), AllBytes() + "\r\n\n\r" + AllBytes());
 }
 
+TEST_F(PosixFilesTest, WritesOverNoFileThatWasChangedSinceItWasRead) {
+  const std::string path = directory.Put("a.con", "old");
+  struct stat read {};
+  ASSERT_EQ(::stat(path.c_str(), &read), 0);
+  files.Write(path, "foreign");
+  EXPECT_EQ(ErrorOf([&] { files.WriteUnlessChanged(path, "new", read); }),
+            "Cannot save " + path + ": another program has changed it meanwhile.");
+  EXPECT_EQ(BytesOf(path), "foreign");
+  EXPECT_EQ(directory.Names().size(), 1U);
+  ASSERT_EQ(::stat(path.c_str(), &read), 0);
+  files.WriteUnlessChanged(path, "new", read);
+  EXPECT_EQ(BytesOf(path), "new");
+}
+
+TEST_F(PosixFilesTest, MakesANewFileOnlyWhereNoneIs) {
+  const std::string path = directory / "a.con";
+  files.WriteNew(path, "first");
+  EXPECT_EQ(ErrorOf([&] { files.WriteNew(path, "second"); }),
+            "Cannot save " + path + ": it is there already.");
+  EXPECT_EQ(BytesOf(path), "first");
+}
+
 TEST_F(PosixFilesTest, ReadsAndWritesAnEmptyFile) {
   const std::string path = directory.Put("a.con", "old");
   files.Write(path, "");

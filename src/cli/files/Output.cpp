@@ -78,8 +78,9 @@ void WriteResult(std::string_view bytes, const Destination& destination, const S
   if (destination.inPlace) return WriteOver(source, bytes, destination, files);
   if (destination.file.empty()) return WriteStream("-", bytes);
   if (IsStream(destination.file)) return WriteStream(destination.file, bytes);
-  if (!destination.force) RefuseToReplace(destination.file, source.name);
-  files.WriteAs(destination.file, bytes);
+  if (destination.force) return files.WriteAs(destination.file, bytes);
+  RefuseToReplace(destination.file, source.name);
+  files.WriteNew(destination.file, bytes);
 }
 
 }  // namespace tessel::cli
