@@ -100,6 +100,9 @@ bool LookAtFiles(const LookArguments& arguments, Report report, const Look& look
 
 bool EditFiles(const EditArguments& arguments, Report report, const Edit& edit,
                const RowsAsText& text) {
+  if (!arguments.destination.dryRun) {
+    RefuseToReplaceByBackups(arguments.files, arguments.destination);
+  }
   const bool forPeople = arguments.format == Format::kText;
   const bool several = arguments.files.size() > 1;
   const bool tells = forPeople && several && !arguments.quiet && !arguments.destination.dryRun;

@@ -1,4 +1,5 @@
 // What every command that changes files offers.
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <nlohmann/json.hpp>
@@ -97,6 +98,27 @@ TEST_F(CommandLineEdit, ReplacesABackupOnlyWhenForced) {
                 "Cannot back up a.con as a.con~: it is there already; --force replaces it.");
   OutputOf({"set", "a.con", "QSIZE=9", "--in-place", "--backup", "--force"});
   EXPECT_EQ(Bytes("a.con~"), kEditText);
+}
+
+TEST_F(CommandLineEdit, KeepsTheOldBackupUntilTheNewOneIsWhole) {
+  const std::string text = kEditText + std::string(20000, '\n');
+  Put("a.con", text);
+  Put("a.con~", "mine");
+  const Outcome outcome =
+      Tessel({"set", "a.con", "QSIZE=9", "--in-place", "--backup", "--force"}, [] {
+        const rlimit limit = {8192, 8192};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+      });
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.err, "tessel: Cannot back up a.con as a.con~: File too large.\n");
+  EXPECT_EQ(Bytes("a.con"), text);
+  EXPECT_EQ(Bytes("a.con~"), "mine");
+}
+
+TEST_F(CommandLineEdit, ReplacesByABackupNoFileOfTheSameCall) {
+  Put("a.con~", kEditText);
+  ExpectRefusal({"set", "a.con", "./a.con~", "QSIZE=9", "--in-place", "--backup", "--force"},
+                "Cannot back up a.con as a.con~: ./a.con~ is to be changed as well.");
 }
 
 TEST_F(CommandLineEdit, KnowsWhatABackupNeeds) {

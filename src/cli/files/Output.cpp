@@ -5,6 +5,7 @@
 
 #include "base/RuntimeError.h"
 #include "cli/files/Streams.h"
+#include "posix/FreshFile.h"
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
 #include "posix/PosixFiles.h"
@@ -30,29 +31,27 @@ void RefuseToReplace(const std::string& file, const std::string& source) {
                                : "it is there already; --force replaces it."));
 }
 
-void WriteNew(const std::string& file, std::string_view bytes, mode_t mode) {
-  posix::Descriptor copy(
-      Checked([&] { return ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode); }));
-  try {
-    posix::WriteAll(copy.Number(), bytes);
-    Checked([&] { return ::fsync(copy.Number()); });
-    copy.Close();
-  } catch (const posix::FileProblem&) {
-    ::unlink(file.c_str());
-    throw;
-  }
+std::string BackupOf(const std::string& file, const std::string& suffix) {
+  return posix::ResolveIgnoringCase(file) + suffix;
+}
+
+/// The bytes get the name when they are whole: until then another file keeps it.
+void WriteBackup(const std::string& name, std::string_view bytes, mode_t mode, bool force) {
+  posix::FreshFile fresh(AT_FDCWD, posix::DirectoryPart(name) + ".tessel-", mode);
+  posix::WriteAll(fresh.Number(), bytes);
+  Checked([&] { return ::fsync(fresh.Number()); });
+  force ? fresh.TakePlaceOf(name) : fresh.TakeFreeName(name);
 }
 
 /// Copies a file to a new one beside it that the same people may read.
 void BackUp(const std::string& named, const std::string& suffix, bool force) {
   const std::string file = posix::ResolveIgnoringCase(named);
-  const std::string backup = file + suffix;
+  const std::string backup = BackupOf(named, suffix);
   const std::string old = PosixFiles().Read(file);
   try {
     const auto status = posix::StatusOf(file);
     if (!status) throw posix::FileProblem(errno);
-    if (force && ::unlink(backup.c_str()) == -1 && errno != ENOENT) throw posix::FileProblem(errno);
-    WriteNew(backup, old, status->st_mode & 0777);
+    WriteBackup(backup, old, status->st_mode & 0777, force);
   } catch (const posix::FileProblem& problem) {
     const bool isThere = problem.Code() == EEXIST;
     throw RuntimeError("Cannot back up " + named + " as " + backup + ": " +
@@ -71,6 +70,21 @@ void WriteOver(const Source& source, std::string_view bytes, const Destination& 
 }
 
 }  // namespace
+
+void RefuseToReplaceByBackups(const std::vector<std::string>& files,
+                              const Destination& destination) {
+  if (!destination.inPlace || !destination.backup || !destination.force) return;
+  for (const std::string& file : files) {
+    const std::string backup = BackupOf(file, *destination.backup);
+    const auto there = posix::StatusOf(backup);
+    for (const std::string& other : files) {
+      const auto read = there ? posix::StatusOf(posix::ResolveIgnoringCase(other)) : std::nullopt;
+      if (!read || !IsSameFile(*there, *read)) continue;
+      throw RuntimeError("Cannot back up " + file + " as " + backup + ": " + other +
+                         " is to be changed as well.");
+    }
+  }
+}
 
 void WriteResult(std::string_view bytes, const Destination& destination, const Source& source) {
   PosixFiles files;

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessel::cli {
 
@@ -20,6 +21,10 @@ struct Destination {
   /// Is standard output free for something else?
   bool LeavesStandardOutput() const { return inPlace || dryRun || (!file.empty() && file != "-"); }
 };
+
+/// A RuntimeError where the backup of one of the files would take the place of another of them.
+void RefuseToReplaceByBackups(const std::vector<std::string>& files,
+                              const Destination& destination);
 
 /// The file that a result was made from.
 struct Source {
