@@ -2,8 +2,9 @@
 
 #include <dirent.h>
 
+#include <algorithm>
 #include <memory>
-#include <optional>
+#include <utility>
 
 #include "posix/Posix.h"
 #include "posix/SharedFolder.h"
@@ -24,21 +25,23 @@ bool IsPlanted(const std::string& directory, const std::string& name) {
   return folder && entry && MayBePlanted(*folder, *entry);
 }
 
-std::optional<std::string> NameIn(const std::string& directory, const std::string& wanted,
-                                  bool wantsDirectory) {
-  if (Fits(directory + wanted, wantsDirectory)) return wanted;
+/// In byte order; the wanted one alone where it exists as written.
+std::vector<std::string> NamesIn(const std::string& directory, const std::string& wanted,
+                                 bool wantsDirectory) {
+  if (Fits(directory + wanted, wantsDirectory)) return {wanted};
   const std::unique_ptr<DIR, int (*)(DIR*)> listing(
       ::opendir(directory.empty() ? "." : directory.c_str()), ::closedir);
-  if (listing == nullptr) return std::nullopt;
+  std::vector<std::string> found;
+  if (listing == nullptr) return found;
   const std::string folded = ToLowerText(wanted);
-  std::optional<std::string> found;
   while (const dirent* entry = ::readdir(listing.get())) {
-    const std::string name = entry->d_name;
-    if (ToLowerText(name) == folded && (!found || name < *found) &&
-        Fits(directory + name, wantsDirectory) && !IsPlanted(directory, name)) {
-      found = name;
+    std::string name = entry->d_name;
+    if (ToLowerText(name) == folded && Fits(directory + name, wantsDirectory) &&
+        !IsPlanted(directory, name)) {
+      found.push_back(std::move(name));
     }
   }
+  std::ranges::sort(found);
   return found;
 }
 
@@ -48,8 +51,8 @@ std::string DirectoryPart(std::string_view path) {
   return std::string(path.substr(0, path.rfind('/') + 1));
 }
 
-std::string ResolveIgnoringCase(const std::string& path) {
-  if (StatusOfLink(path)) return path;
+std::vector<std::string> ChoiceIgnoringCase(const std::string& path) {
+  if (StatusOfLink(path)) return {path};
   std::string resolved;
   for (std::size_t at = 0; at < path.size();) {
     if (path[at] == '/') {
@@ -57,12 +60,23 @@ std::string ResolveIgnoringCase(const std::string& path) {
       continue;
     }
     const std::size_t end = std::min(path.find('/', at), path.size());
-    const auto name = NameIn(resolved, path.substr(at, end - at), end < path.size());
-    if (!name) return resolved + path.substr(at);
-    resolved += *name;
+    std::vector<std::string> names =
+        NamesIn(resolved, path.substr(at, end - at), end < path.size());
+    if (names.empty()) return {resolved + path.substr(at)};
+    if (names.size() > 1) {
+      for (std::string& name : names) name = resolved + name + path.substr(end);
+      return names;
+    }
+    resolved += names.front();
     at = end;
   }
-  return resolved;
+  return {resolved};
+}
+
+std::string ResolveIgnoringCase(const std::string& path) {
+  std::vector<std::string> choice = ChoiceIgnoringCase(path);
+  while (choice.size() > 1) choice = ChoiceIgnoringCase(choice.front());
+  return choice.front();
 }
 
 }  // namespace tessel::posix

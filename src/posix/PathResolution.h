@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessel::posix {
 
@@ -15,5 +16,9 @@ std::string DirectoryPart(std::string_view path);
 /// somebody else may have planted in a shared folder (see SharedFolder.h) is none. The components
 /// behind one that nothing matches stay as they are.
 std::string ResolveIgnoringCase(const std::string& path);
+
+/// What it chooses from at the first component that is there in several other spellings: the whole
+/// path with each of them, in byte order. The resolved path alone where there is no choice.
+std::vector<std::string> ChoiceIgnoringCase(const std::string& path);
 
 }  // namespace tessel::posix

@@ -127,6 +127,20 @@ TEST_F(CommandLineEdit, KnowsWhatABackupNeeds) {
   EXPECT_EQ(Bytes("a.con"), kEditText);
 }
 
+TEST_F(CommandLineEdit, ChoosesNotBetweenTwoSpellings) {
+  Put("User.con", kEditText);
+  Put("uSER.con", kEditText);
+  ExpectRefusal(
+      {"set", "user.con", "QSIZE=9", "--in-place"},
+      "Cannot open user.con: it may be User.con or uSER.con; write the one that is meant.");
+  ExpectRefusal(
+      {"get", "USER.CON", "QSIZE"},
+      "Cannot open USER.CON: it may be User.con or uSER.con; write the one that is meant.");
+  EXPECT_EQ(OutputOf({"set", "uSER.con", "QSIZE=9", "--in-place"}), "");
+  EXPECT_EQ(Bytes("User.con"), kEditText);
+  EXPECT_EQ(OutputOf({"get", "A.CON", "QSIZE"}), "64\n");
+}
+
 TEST_F(CommandLineEdit, IsQuietWhenAsked) {
   EXPECT_EQ(OutputOf({"set", "a.con", "b.con", "QSIZE=9", "--in-place", "--quiet"}), "");
   Put("lf.con", With(TemplateText("zmuser.dat"), "\r\n", "\n"));

@@ -7,9 +7,20 @@
 #include "posix/PosixFiles.h"
 
 namespace tessel::cli {
+namespace {
+
+void RefuseToChoose(const std::string& name) {
+  const std::vector<std::string> choice = posix::ChoiceIgnoringCase(name);
+  if (choice.size() == 1) return;
+  throw RuntimeError("Cannot open " + name + ": it may be " + choice[0] + " or " + choice[1] +
+                     "; write the one that is meant.");
+}
+
+}  // namespace
 
 std::string ReadInput(const std::string& name) {
   if (IsStream(name)) return ReadStream(name);
+  RefuseToChoose(name);
   const auto status = posix::StatusOf(posix::ResolveIgnoringCase(name));
   if (status && S_ISREG(status->st_mode) &&
       static_cast<std::size_t>(status->st_size) > kMostBytes) {
