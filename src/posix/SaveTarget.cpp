@@ -29,7 +29,7 @@ Descriptor StartOf(const std::string& path) {
   return Descriptor(Checked([&] { return ::open(start, kToReachOnly); }));
 }
 
-void RefusePlanted(int directory, const struct stat& link) {
+void RefusePlantedLink(int directory, const struct stat& link) {
   if (!MayBePlanted(StatusOfOpen(directory), link)) return;
   throw FileProblem(
       "a symbolic link of somebody else leads there, in a folder that everybody can write to");
@@ -63,7 +63,7 @@ SaveTarget FindSaveTarget(std::string path) {
     const struct stat status = StatusOfOpen(step.Number());
     if (S_ISLNK(status.st_mode)) {
       if (++links > kMostLinks) throw FileProblem(ELOOP);
-      RefusePlanted(directory.Number(), status);
+      RefusePlantedLink(directory.Number(), status);
       path.insert(0, TextOf(step));
       if (path.starts_with('/')) directory = StartOf(path);
     } else if (last) {
@@ -74,6 +74,12 @@ SaveTarget FindSaveTarget(std::string path) {
       directory = std::move(step);
     }
   }
+}
+
+void RefusePlanted(const SaveTarget& target) {
+  const auto status = StatusOf(target);
+  if (!status || !MayBePlanted(StatusOfOpen(target.directory.Number()), *status)) return;
+  throw FileProblem("it belongs to somebody else, in a folder that everybody can write to");
 }
 
 std::optional<struct stat> StatusOf(const SaveTarget& target) {

@@ -20,6 +20,9 @@ struct SaveTarget {
 /// shared folder (see SharedFolder.h), whether or not the system follows such ones.
 SaveTarget FindSaveTarget(std::string path);
 
+/// A FileProblem for something that somebody else may have planted there.
+void RefusePlanted(const SaveTarget& target);
+
 /// What stat says of the target; nothing when it fails, with the reason in errno.
 std::optional<struct stat> StatusOf(const SaveTarget& target);
 

@@ -11,6 +11,7 @@
 #include "posix/HomeDirectory.h"
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
+#include "posix/SaveTarget.h"
 #include "text/Text.h"
 
 namespace tessel {
@@ -65,6 +66,7 @@ void MakePrivateDirectories(const std::string& directory) {
 void MakePrivateFile(const std::string& path) {
   if (path.empty()) throw posix::FileProblem(ENOENT);
   MakePrivateDirectories(posix::DirectoryPart(path));
+  posix::RefusePlanted(posix::FindSaveTarget(path));
   if (const auto status = posix::StatusOf(path)) return posix::RefuseUnlessRegular(*status);
   posix::Checked([&] {
     return posix::Descriptor(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)).Number();

@@ -10,6 +10,7 @@
 
 #include "base/RuntimeError.h"
 #include "posix/Posix.h"
+#include "posix/SaveTarget.h"
 
 namespace tessel::cli {
 namespace {
@@ -36,6 +37,15 @@ std::optional<int> DescriptorOf(const std::string& name) {
   const auto read = std::from_chars(name.data() + kDescriptorFolder.size(), end, number);
   if (read.ec != std::errc{} || read.ptr != end) return std::nullopt;
   return number;
+}
+
+/// What the links of /proc lead to has no path: the way there can be looked at, the end cannot.
+void RefusePlantedStream(const std::string& name) {
+  try {
+    posix::RefusePlanted(posix::FindSaveTarget(name));
+  } catch (const posix::FileProblem& problem) {
+    if (problem.Code() == 0) throw;
+  }
 }
 
 /// A descriptor that has a name is another one of the same: where a file is open, its place goes
@@ -89,6 +99,7 @@ void WriteStream(const std::string& name, std::string_view bytes) try {
     std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     std::cout.flush();
   } else {
+    if (!DescriptorOf(name)) RefusePlantedStream(name);
     posix::WriteAll(OpenStream(name, O_WRONLY).Number(), bytes);
   }
 } catch (const posix::FileProblem& problem) {

@@ -17,8 +17,9 @@ bool IsStream(const std::string& name);
 /// than kMostBytes are a RuntimeError, as is anything that cannot be read.
 std::string ReadStream(const std::string& name);
 
-/// Writes all bytes; "-" is standard output, whose failures are told when the program ends. Others
-/// are RuntimeErrors.
+/// Writes all bytes, but not to what somebody else may have planted in a shared folder (see
+/// posix/SharedFolder.h); "-" is standard output, whose failures are told when the program ends.
+/// Others are RuntimeErrors.
 void WriteStream(const std::string& name, std::string_view bytes);
 
 }  // namespace tessel::cli
