@@ -36,6 +36,7 @@ bool IsWord(const std::string& text) {
   const std::string line = "define A " + text;
   const language::Script script(line);
   const auto definitions = language::Definitions(script);
+  if (text == "{" || text == "}") return false;
   return definitions.size() == 1 && definitions.front().IsComplete() &&
          script.Text(definitions.front().value) == text &&
          definitions.front().end == script.Length();

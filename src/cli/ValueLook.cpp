@@ -12,6 +12,8 @@ namespace {
 using language::Definition;
 using language::Range;
 
+bool IsBrace(std::string_view word) { return word == "{" || word == "}"; }
+
 std::string InLine(std::int64_t line) { return "line " + std::to_string(line); }
 std::string UseLine(std::int64_t line) { return "use --line " + std::to_string(line); }
 
@@ -73,12 +75,28 @@ std::string ValueLook::WhatIsAt(Position offset) const {
   return " is no define";
 }
 
+/// The list whose words stand in front of the keyword in its line, if any.
+std::optional<std::string> ValueLook::ListInFrontOf(const Definition& definition) const {
+  const Position begin = definition.keyword.begin;
+  const auto mark = begin == 0 ? std::nullopt : script_.LastMarkUpTo(begin - 1);
+  if (!mark || language::GrammarOf(mark->keyword).form != language::Form::kList) {
+    return std::nullopt;
+  }
+  const language::Statement list = language::ReadStatement(script_, *mark);
+  if (LineOf(list.range.end) != LineOf(begin)) return std::nullopt;
+  return ToUtf8(TextOf(list.keywordRange));
+}
+
 /// The value of a define that has one, and nothing more.
 LookedAt ValueLook::OnlyComplete(const Definition& definition) const {
   const std::int64_t line = LineOf(definition.keyword.begin);
   const std::string name = ToUtf8(TextOf(definition.name));
-  if (!definition.HasValue())
+  if (const auto list = ListInFrontOf(definition)) {
+    return {{}, line, {}, InLine(line) + " is part of \"" + *list + "\""};
+  }
+  if (!definition.HasValue() || IsBrace(TextOf(definition.value))) {
     return {{}, line, {}, InLine(line) + " defines " + name + " without a value"};
+  }
   if (!definition.rest.IsEmpty()) {
     return {{}, line, {}, InLine(line) + " has more than one value for " + name};
   }

@@ -58,6 +58,7 @@ class ValueLook {
   std::optional<language::Range> ShownByPanel(const PanelItem& item, Position end);
   std::int64_t LineOf(Position offset) const { return script_.PlaceOf(offset).line; }
   std::string WhatIsAt(Position offset) const;
+  std::optional<std::string> ListInFrontOf(const language::Definition& definition) const;
   LookedAt OnlyComplete(const language::Definition& definition) const;
   LookedAt OnlyMentioned(const std::string& name) const;
   LookedAt NotShown(const language::Definition& definition,

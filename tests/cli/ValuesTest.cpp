@@ -130,6 +130,28 @@ TEST_F(CommandLineValues, LetsNoValueRunIntoTheCommentBehindIt) {
             "define WORD c/ //note\r\ndefine LAST d/");
 }
 
+TEST_F(CommandLineValues, TakesNoWordsOfAListForADefine) {
+  for (const std::string list : {"music", "gamestartup"}) {
+    Put("odd.con", list + " 0 define FOO 2\r\n");
+    ExpectRefusal({"set", "odd.con", "FOO=5", "--in-place"},
+                  "odd.con: FOO: line 1 is part of \"" + list + "\".");
+    ExpectRefusal({"set", "odd.con", "FOO=5", "--line", "1", "--in-place"},
+                  "odd.con: FOO: line 1 is part of \"" + list + "\".");
+    Put("odd.con", list + " 0 1\r\ndefine FOO 2\r\n");
+    EXPECT_EQ(OutputOf({"get", "odd.con", "FOO"}), "2\n");
+  }
+  Put("odd.con", "gamestartup 0 1\r\n 2 define FOO 2\r\n");
+  ExpectRefusal({"get", "odd.con", "FOO"}, "odd.con: FOO: line 2 is part of \"gamestartup\".");
+}
+
+TEST_F(CommandLineValues, TakesNoBraceForAValue) {
+  Put("odd.con", "define FOO {\r\ndefine BAR x\r\n}\r\n");
+  ExpectRefusal({"set", "odd.con", "FOO=5", "--in-place"},
+                "odd.con: FOO: line 1 defines FOO without a value.");
+  ExpectRefusal({"set", "odd.con", "BAR={", "--in-place"},
+                "\"{\" cannot be the value of BAR: it takes one word.");
+}
+
 TEST_F(CommandLineValues, ListsEverySettingAndADashForWhatIsMissing) {
   const std::string list = OutputOf({"settings", "User.con"});
   EXPECT_THAT(list, testing::HasSubstr("Player  Max Regular Health                100\n"));
