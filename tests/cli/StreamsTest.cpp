@@ -1,5 +1,6 @@
-#include <sys/resource.h>
 #include <sys/stat.h>
+
+#include <chrono>
 
 #include "cli/CommandLineTest.h"
 
@@ -101,12 +102,20 @@ TEST_F(CommandLineStreams, SaysSoWhenAStreamHasNoEnd) {
 #ifdef TESSEL_SANITIZED
   GTEST_SKIP() << "AddressSanitizer does not start with so little address space";
 #endif
-  const Outcome outcome = Tessel({"get", "/dev/zero", "QSIZE"}, [] {
-    const rlimit limit = {rlim_t{1} << 28, rlim_t{1} << 28};
-    ::setrlimit(RLIMIT_AS, &limit);
-  });
+  const Outcome outcome =
+      Shell("cat /dev/zero 2> cat.log | (ulimit -v 262144; tessel get - QSIZE)");
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.err, "tessel: Cannot read /dev/zero: Cannot allocate memory.\n");
+  EXPECT_EQ(outcome.err, "tessel: Cannot read -: Cannot allocate memory.\n");
+}
+
+TEST_F(CommandLineStreams, RefusesADeviceThatHasNoEndAtOnce) {
+  const auto start = std::chrono::steady_clock::now();
+  ExpectRefusal({"get", "/dev/zero", "QSIZE"},
+                "Cannot read /dev/zero: it is a device with more than 16 MiB.");
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+  EXPECT_EQ(Shell("tessel get - QSIZE < /dev/urandom").err,
+            "tessel: Cannot read -: it is a device with more than 16 MiB.\n");
+  ExpectRefusal({"get", "/dev/null", "QSIZE"}, "/dev/null does not define QSIZE.");
 }
 
 }  // namespace

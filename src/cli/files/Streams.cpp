@@ -16,6 +16,7 @@ namespace tessel::cli {
 namespace {
 
 constexpr std::size_t kFirstRoom = std::size_t{1} << 16U;
+constexpr std::size_t kMostOfDevice = std::size_t{1} << 24U;
 
 struct NamedDescriptor {
   std::string_view name;
@@ -58,11 +59,20 @@ posix::Descriptor OpenStream(const std::string& name, int access) {
   }));
 }
 
+/// Devices such as /dev/zero never end; a terminal gives what somebody types.
+void RefuseTooLong(std::size_t length, bool isDevice) {
+  if (isDevice && length > kMostOfDevice) {
+    throw posix::FileProblem("it is a device with more than 16 MiB");
+  }
+  if (length > kMostBytes) throw posix::FileProblem("it has more than 1 GiB");
+}
+
 std::string ReadToTheEnd(int file) {
+  const bool isDevice = S_ISCHR(posix::StatusOfOpen(file).st_mode);
   std::string bytes;
   std::size_t length = 0;
   for (;;) {
-    if (length > kMostBytes) throw posix::FileProblem("it has more than 1 GiB");
+    RefuseTooLong(length, isDevice);
     if (length == bytes.size()) bytes.resize(std::max(kFirstRoom, 2 * length));
     const auto count =
         posix::Checked([&] { return ::read(file, bytes.data() + length, bytes.size() - length); });

@@ -8,6 +8,7 @@
 namespace tessel::cli {
 
 /// The most bytes that a command reads, from a file as from a stream.
+/// From a device it is 16 MiB: most have no end.
 inline constexpr std::size_t kMostBytes = std::size_t{1} << 30U;
 
 /// Is it "-", a name of an open descriptor (/dev/stdin, /dev/fd/63), a pipe or a character device?
