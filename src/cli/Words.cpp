@@ -61,6 +61,14 @@ void Print(const WordsArguments& arguments, const char* command,
                                                   : ReportAsTsv(report));
 }
 
+void RefuseToReplaceTheStore(const WordsArguments& arguments) {
+  const std::string& file = arguments.destination.file;
+  const auto there = posix::StatusOf(file);
+  const auto store = posix::StatusOf(StoreOf(arguments));
+  if (!there || !store || !posix::IsSameFile(*there, *store)) return;
+  throw RuntimeError("Cannot save " + file + ": it is the settings store.");
+}
+
 void SayWhereTheStarterWordsAre() {
   Complain("The word list is empty. \"tessel words import " + DefaultHostDirectory() +
            "/words.txt\" adds the starter words.");
@@ -109,6 +117,7 @@ bool ImportWords(const WordsArguments& arguments) {
 }
 
 bool ExportWords(const WordsArguments& arguments) {
+  RefuseToReplaceTheStore(arguments);
   WriteResult(FormatWordFile(ReadWords(arguments)), arguments.destination, {});
   return true;
 }

@@ -28,8 +28,7 @@ void WaitForLock(int file, Clock::time_point end) {
 
 bool IsTheFileOf(int file, const std::optional<struct stat>& status) {
   struct stat open {};
-  return ::fstat(file, &open) == 0 && status && open.st_dev == status->st_dev &&
-         open.st_ino == status->st_ino;
+  return ::fstat(file, &open) == 0 && status && IsSameFile(open, *status);
 }
 
 }  // namespace

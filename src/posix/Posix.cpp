@@ -47,6 +47,10 @@ std::optional<struct stat> StatusOfLink(const std::string& path) {
   return status;
 }
 
+bool IsSameFile(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
 struct stat StatusOfOpen(int file) {
   struct stat status {};
   Checked([&] { return ::fstat(file, &status); });

@@ -66,6 +66,8 @@ std::optional<struct stat> StatusOf(const std::string& path);
 /// The same of a symbolic link itself.
 std::optional<struct stat> StatusOfLink(const std::string& path);
 
+bool IsSameFile(const struct stat& a, const struct stat& b);
+
 /// What fstat says.
 struct stat StatusOfOpen(int file);
 

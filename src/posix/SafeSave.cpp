@@ -56,9 +56,8 @@ bool IsSameTime(const timespec& a, const timespec& b) {
 }
 
 bool IsUnchanged(const struct stat& now, const struct stat& before) {
-  return now.st_dev == before.st_dev && now.st_ino == before.st_ino &&
-         now.st_size == before.st_size && IsSameTime(now.st_mtim, before.st_mtim) &&
-         IsSameTime(now.st_ctim, before.st_ctim);
+  return IsSameFile(now, before) && now.st_size == before.st_size &&
+         IsSameTime(now.st_mtim, before.st_mtim) && IsSameTime(now.st_ctim, before.st_ctim);
 }
 
 void RefuseUnlessHolds(const SaveCondition& condition, const SaveTarget& target) {

@@ -146,5 +146,15 @@ TEST_F(CommandLineWords, NeedsASubcommand) {
   ExpectUsageError({"words", "eat"}, "there is no subcommand \"eat\"", "tessel words");
 }
 
+TEST_F(CommandLineWords, ExportsNotOverTheStoreItself) {
+  OutputOf({"words", "--store", "s.db", "set", "foo", "[a]"});
+  std::filesystem::create_symlink("s.db", PathOf("link.db"));
+  for (const std::string name : {"s.db", "./s.db", "link.db"}) {
+    ExpectRefusal({"words", "--store", "s.db", "export", "-o", name, "--force"},
+                  "Cannot save " + name + ": it is the settings store.");
+  }
+  EXPECT_EQ(OutputOf({"words", "--store", "s.db", "list"}), "foo\n");
+}
+
 }  // namespace
 }  // namespace tessel::test

@@ -15,10 +15,7 @@ namespace tessel::cli {
 namespace {
 
 using posix::Checked;
-
-bool IsSameFile(const struct stat& a, const struct stat& b) {
-  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
-}
+using posix::IsSameFile;
 
 /// A result takes no other file's place unless it is told to.
 void RefuseToReplace(const std::string& file, const std::string& source) {
