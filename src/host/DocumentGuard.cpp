@@ -118,6 +118,11 @@ bool DocumentGuard::ChangedByOthers(const Document& document) {
   return own && files_.Changed(document.Path(), *own);
 }
 
+std::optional<std::uint64_t> DocumentGuard::BaseOf(const Document& document) {
+  const Record& own = At(document.Place());
+  return own ? own->hash : std::nullopt;
+}
+
 void DocumentGuard::Accept(const Document& document) {
   files_.Accept(document.Path());
   Renew(document);

@@ -1,6 +1,7 @@
 // Which file each document has, and what may be written over it.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,6 +32,8 @@ class DocumentGuard : public DocumentHost {
 
   /// True when the document's file is not as it was when it was loaded or saved.
   bool ChangedByOthers(const Document& document);
+  /// The hash of the file's bytes that the document's text began from, where that is known.
+  std::optional<std::uint64_t> BaseOf(const Document& document);
   /// Takes the document's file as it is now: it may be written over.
   void Accept(const Document& document);
 

@@ -317,7 +317,7 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
     }
   };
   auto texts = std::make_unique<AbandonedTexts>(folder, onDisk);
-  keeper_ = new RecoveryKeeper(control_->Tessel(), folder, this);
+  keeper_ = new RecoveryKeeper(control_->Tessel(), guard_, folder, this);
   connect(keeper_, &RecoveryKeeper::failed, this, &MainWindow::ShowNotice);
   if (texts->Problem()) {
     ShowNotice(tr("Text that an earlier run kept in %1 cannot be read: %2.")

@@ -19,8 +19,12 @@ constexpr std::size_t kMostDropped = 20;
 
 }  // namespace
 
-RecoveryKeeper::RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent)
-    : QObject(parent), documents_(tessel.OpenDocuments()), store_(std::move(folder)) {
+RecoveryKeeper::RecoveryKeeper(ucTessel& tessel, DocumentGuard& guard, std::string folder,
+                               QObject* parent)
+    : QObject(parent),
+      documents_(tessel.OpenDocuments()),
+      guard_(guard),
+      store_(std::move(folder)) {
   timer_.setSingleShot(true);
   timer_.setInterval(kDelayMilliseconds);
   connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::KeepChanges);
@@ -43,7 +47,9 @@ RecoveryKeeper::Unsaved& RecoveryKeeper::At(Slot slot) {
 // Raised for every word that a pass colours, too: only flags here.
 void RecoveryKeeper::OnChanged(const Document& document) {
   if (!document.Modified()) return;
-  At(document.Place()).changed = true;
+  Unsaved& unsaved = At(document.Place());
+  if (!unsaved.changed) unsaved.base = guard_.BaseOf(document);
+  unsaved.changed = true;
   if (!timer_.isActive()) timer_.start();
 }
 
@@ -97,7 +103,7 @@ void RecoveryKeeper::Keep(const Document& document) {
   if (unsaved.kept && unsaved.kept->revision == revision) return;  // only colours
   const bool first = !unsaved.kept;
   if (first) unsaved.kept = Kept{nextId_++};
-  store_.Keep(unsaved.kept->id, document.Path(), document.Editor().Text());
+  store_.Keep(unsaved.kept->id, document.Path(), document.Editor().Text(), unsaved.base);
   unsaved.kept->revision = revision;
   unsaved.kept->hash = std::hash<std::string_view>{}(document.Editor().Bytes());
   if (first) DropTextThatCameBack(*unsaved.kept);

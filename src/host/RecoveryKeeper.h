@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "control/ucTessel.h"
+#include "host/DocumentGuard.h"
 #include "safekeeping/RecoveryStore.h"
 
 namespace tessel {
@@ -22,8 +23,8 @@ class RecoveryKeeper : public QObject {
   Q_OBJECT
 
  public:
-  /// `folder` is that of all runs.
-  RecoveryKeeper(ucTessel& tessel, std::string folder, QObject* parent);
+  /// `folder` is that of all runs. The guard watches the documents already and outlives this.
+  RecoveryKeeper(ucTessel& tessel, DocumentGuard& guard, std::string folder, QObject* parent);
 
   /// Notes when texts are kept; null: nothing. It outlives this.
   void LogTo(KeepingLog* log) { store_.LogTo(log); }
@@ -44,7 +45,8 @@ class RecoveryKeeper : public QObject {
     std::size_t hash = 0;        // of the text
   };
   struct Unsaved {
-    bool changed = false;  // since the text was kept
+    bool changed = false;               // since the text was kept
+    std::optional<std::uint64_t> base;  // see KeptText
     std::optional<Kept> kept;
   };
   struct Dropped {
@@ -68,6 +70,7 @@ class RecoveryKeeper : public QObject {
   Unsaved& At(Slot slot);
 
   DocumentList& documents_;
+  DocumentGuard& guard_;
   RecoveryStore store_;
   RecoveryStore::Id nextId_ = 1;
   std::vector<Unsaved> unsaved_;  // by slot

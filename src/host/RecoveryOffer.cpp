@@ -6,9 +6,12 @@
 #include <span>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "host/RestoredText.h"
+#include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "safekeeping/DiskState.h"
+#include "safekeeping/Hash.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -34,6 +37,17 @@ bool TakesItsDocument(const KeptBytes& text, std::span<const KeptBytes> newerTex
   return !text.damaged && std::ranges::none_of(newerTexts, [&](const KeptBytes& newer) {
     return !newer.damaged && newer.path == text.path;
   });
+}
+
+/// Whether the file holds other bytes than the text began from. The times alone do not tell: a copy
+/// may keep an old one, and clocks are put back. A text that does not say what it began from is
+/// compared by them.
+bool HasOtherWork(const DiskState& file, const KeptText& text) try {
+  if (!text.base) return file.written.seconds > text.seconds;
+  // Not through the guarded files: this is no look that the user has taken.
+  return HashOf(PosixFiles().Read(text.path)) != *text.base;
+} catch (const RuntimeError&) {  // opening it will say why
+  return false;
 }
 
 }  // namespace
@@ -64,13 +78,13 @@ QString RecoveryOffer::Sentence() const {
   return tr("Text that was not saved when the program ended: %1.").arg(names.join(", "));
 }
 
-/// The text may be older than what is in the file now.
 bool RecoveryOffer::MayGoOverItsFile(const KeptText& text) {
   const DiskState file = DiskStateOf(text.path);
-  if (text.path.empty() || !file.exists || file.written.seconds <= text.seconds) return true;
+  if (text.path.empty() || !file.exists || !HasOtherWork(file, text)) return true;
   const QString question =
-      tr("%1 was changed at %2, after the unsaved text was kept at %3.\n"
-         "Show the older text as a change of the file? \"No\" shows it as a document of its own.")
+      tr("%1 was changed at %2; the unsaved text, kept at %3, is without that change.\n"
+         "Show the text as a change of the file all the same? "
+         "\"No\" shows it as a document of its own.")
           .arg(ShownName(NameOfPath(text.path, files_.Separator())), TimeOf(file.written.seconds),
                TimeOf(text.seconds));
   return messages_.Show(question.toStdString(), MessageIcon::kQuestion, kProgramTitle,

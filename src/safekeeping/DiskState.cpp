@@ -116,6 +116,12 @@ bool GuardedFiles::HasTheBytes(const std::string& path, const FileRecord& record
   return false;
 }
 
-void GuardedFiles::Accept(const std::string& path) { known_[path] = {DiskStateOf(path)}; }
+void GuardedFiles::Accept(const std::string& path) {
+  FileRecord& record = known_[path] = {DiskStateOf(path)};
+  try {
+    if (record.state.exists) record.hash = HashOf(files_.Read(path));
+  } catch (const RuntimeError&) {
+  }
+}
 
 }  // namespace tessel

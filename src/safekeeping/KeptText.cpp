@@ -13,7 +13,7 @@ namespace {
 using posix::FileProblem;
 
 // "ZanthMan text 1", then on a line of their own the seconds, the lengths of path and text in
-// bytes, and their hash; then path and text.
+// bytes, their hash and, where it is known, the base; then path and text.
 constexpr std::string_view kMagic = "ZanthMan text 1\n";
 constexpr std::size_t kLongestHead = 1U << 16U;
 
@@ -40,12 +40,13 @@ std::optional<Head> ParseHead(std::string_view file) {
   const auto seconds = TakeNumber(rest, ' ');
   const auto pathLength = seconds ? TakeNumber(rest, ' ') : std::nullopt;
   const auto size = pathLength ? TakeNumber(rest, ' ') : std::nullopt;
-  const auto hash = size ? TakeNumber(rest, '\n') : std::nullopt;
-  if (!hash || *pathLength > rest.size()) return std::nullopt;
+  const auto hash = size ? TakeNumber(rest, ' ') : std::nullopt;
+  const auto last = size ? TakeNumber(rest, '\n') : std::nullopt;
+  if (!last || *pathLength > rest.size()) return std::nullopt;
   const auto length = static_cast<std::size_t>(*pathLength);
   return Head{{std::string(rest.substr(0, length)), static_cast<long long>(*seconds),
-               static_cast<std::size_t>(*size)},
-              *hash,
+               static_cast<std::size_t>(*size), false, hash ? last : std::nullopt},
+              hash.value_or(*last),
               file.size() - rest.size() + length};
 }
 
@@ -64,9 +65,10 @@ Head HeadOf(std::string_view start, std::size_t size, const PrivateFolder& folde
 void WriteKeptText(const PrivateFolder& folder, const std::string& name, const KeptText& text,
                    std::string_view bytes) {
   const std::uint64_t hash = HashOf(bytes, HashOf(text.path));
+  const std::string base = text.base ? ' ' + std::to_string(*text.base) : "";
   const std::string head = std::string(kMagic) + std::to_string(std::max(text.seconds, 0LL)) + ' ' +
                            std::to_string(text.path.size()) + ' ' + std::to_string(bytes.size()) +
-                           ' ' + std::to_string(hash) + '\n' + text.path;
+                           ' ' + std::to_string(hash) + base + '\n' + text.path;
   folder.Write(name, head, bytes);
 }
 

@@ -1,6 +1,7 @@
 // Texts as the program keeps them in files, with where they belong.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +16,8 @@ struct KeptText {
   long long seconds = 0;  ///< when it was kept, since 1970
   std::size_t size = 0;   ///< of the text, in bytes
   bool damaged = false;   ///< the file is not as it was written
+  /// The hash of the file's bytes that the text began from, where that is known.
+  std::optional<std::uint64_t> base = {};
 };
 
 struct KeptBytes : KeptText {

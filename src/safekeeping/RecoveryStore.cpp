@@ -129,9 +129,10 @@ RecoveryStore::~RecoveryStore() {
   if (folder_) RemoveEmptyRun(path_);
 }
 
-void RecoveryStore::Keep(Id id, std::string path, std::string bytes) {
+void RecoveryStore::Keep(Id id, std::string path, std::string bytes,
+                         std::optional<std::uint64_t> base) {
   const std::size_t size = bytes.size();
-  Order order{true, {std::move(path), SecondsNow(), size}, std::move(bytes)};
+  Order order{true, {std::move(path), SecondsNow(), size, false, base}, std::move(bytes)};
   if (KeepingLog* log = log_) order.logged = log->Taken();
   Give(id, std::move(order));
 }

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -36,8 +37,8 @@ class RecoveryStore {
   RecoveryStore& operator=(const RecoveryStore&) = delete;
 
   /// Keeps the text of a document under a number of the caller's choice, in place of the text that
-  /// had it. `path` is empty for a document without a file.
-  void Keep(Id id, std::string path, std::string bytes);
+  /// had it. `path` is empty for a document without a file. `base`: see KeptText.
+  void Keep(Id id, std::string path, std::string bytes, std::optional<std::uint64_t> base = {});
   void Drop(Id id);
   /// The same, but not before the text with the number `by`, which holds what this one held, is on
   /// the disk.

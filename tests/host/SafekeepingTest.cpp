@@ -9,6 +9,7 @@
 
 #include "HostFixture.h"
 #include "host/BackupsDialog.h"
+#include "host/ChangeNotice.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
 #include "host/RestoredText.h"
@@ -59,6 +60,10 @@ class Safekeeping : public HostTest {
     const auto start = Clock::now();
     PosixFiles().Write(directory_ / "probe", "x");
     return 2 * (Clock::now() - start);  // its folder and it
+  }
+  static void WriteTime(const std::string& path, int secondsFromNow) {
+    const timespec times[2] = {{0, UTIME_OMIT}, {::time(nullptr) + secondsFromNow, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
   }
   BackupsDialog* OpenBackups() {
     Run().MenuItem("&Backups...")->trigger();
@@ -313,14 +318,79 @@ TEST_F(Safekeeping, RecoveringOverANewerFileIsAskedAbout) {
   KeepNow();
   Restart();
   directory_.Put("user.con", "newer");
-  const timespec later[2] = {{0, UTIME_OMIT}, {::time(nullptr) + 60, 0}};
-  ASSERT_EQ(::utimensat(AT_FDCWD, user_.c_str(), later, 0), 0);
+  WriteTime(user_, +60);
   Run().fakes.messages.answers = {MessageAnswer::kNo};
   Run().Press<RecoveryOffer>("&Recover");
   ASSERT_EQ(Run().fakes.messages.shown.size(), 1U);
   EXPECT_NE(Run().fakes.messages.shown[0].text.find("user.con was changed at"), std::string::npos);
   EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
   EXPECT_EQ(Run().Editor(0).Text(), "mine define A 1\r\n");
+}
+
+TEST_F(Safekeeping, RecoveringOverAFileOfOtherContentsIsAskedAboutWhateverItsTime) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("mine ");
+  KeepNow();
+  Restart();
+  directory_.Put("user.con", "theirs");
+  WriteTime(user_, -60);
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  Run().Press<RecoveryOffer>("&Recover");
+  ASSERT_EQ(Run().fakes.messages.shown.size(), 1U);
+  EXPECT_NE(Run().fakes.messages.shown[0].text.find("user.con was changed at"), std::string::npos);
+  EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
+  EXPECT_EQ(BytesOf(user_), "theirs");
+}
+
+TEST_F(Safekeeping, AFileThatOthersChangeBehindADocumentThatIsDroppedIsAskedAboutToo) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Tabs().Select(1);
+  Run().Editor(0).Type("mine ");
+  Run().fakes.messages.answers = {MessageAnswer::kNo};
+  Run().Controls().tbToolBar.Press("FileClose");
+  KeepNow();
+  Restart();
+  directory_.Put("user.con", "theirs");
+  WriteTime(user_, -60);
+  Run().Press<RecoveryOffer>("&Recover");
+  EXPECT_EQ(Run().fakes.messages.shown.size(), 1U);
+}
+
+TEST_F(Safekeeping, AFileThatIsAsTheTextBeganIsNotAskedAboutWhateverItsTime) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("1 ");
+  Run().SaveInPlace();
+  Run().Editor(0).Type("2 ");
+  KeepNow();
+  Restart();
+  WriteTime(user_, +60);
+  Run().Press<RecoveryOffer>("&Recover");
+  EXPECT_TRUE(Run().fakes.messages.shown.empty());
+  EXPECT_EQ(Run().Tabs().At(1).tag, user_);
+  EXPECT_EQ(Run().Editor(0).Text(), "1 2 define A 1\r\n");
+}
+
+TEST_F(Safekeeping, AFileThatTheUserTookAsItIsIsNotAskedAbout) {
+  Run().window->OpenFiles({user_});
+  Run().Editor(0).Type("1 ");
+  KeepNow();
+  directory_.Put("user.con", "theirs");
+  ASSERT_TRUE(Run().Press<ChangeNotice>("&Keep Mine"));
+  Run().Editor(0).Type("2 ");
+  KeepNow();
+  Restart();
+  Run().Press<RecoveryOffer>("&Recover");
+  EXPECT_TRUE(Run().fakes.messages.shown.empty());
+  EXPECT_EQ(Run().Editor(0).Text(), "1 2 define A 1\r\n");
+}
+
+// As an earlier version left it.
+TEST_F(Safekeeping, ATextThatDoesNotSayWhatItBeganFromIsAskedAboutWhereTheFileIsYounger) {
+  RecoveryStore(State() + "/recovery").Keep(1, user_, "mine");
+  Restart();
+  WriteTime(user_, +60);
+  Run().Press<RecoveryOffer>("&Recover");
+  EXPECT_EQ(Run().fakes.messages.shown.size(), 1U);
 }
 
 TEST_F(Safekeeping, ATextThatReplacesColouredOneIsBlack) {

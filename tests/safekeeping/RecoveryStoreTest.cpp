@@ -82,6 +82,22 @@ TEST_F(Recovery, TheTextOfAKilledProgramIsOffered) {
   EXPECT_EQ(abandoned.Texts()[1].path, "");
 }
 
+TEST_F(Recovery, ATextSaysWhatItBeganFromWhereThatIsKnown) {
+  KilledAfter([&](RecoveryStore& store) {
+    store.Keep(1, "/1 2\n3", "known", 18'446'744'073'709'551'615U);
+    store.Keep(2, "/4 5\n6", "7 8\n9");
+  });
+  const AbandonedTexts abandoned = Abandoned();
+  const auto& texts = abandoned.Texts();
+  ASSERT_EQ(texts.size(), 2U);
+  EXPECT_EQ(texts[0].base, 18'446'744'073'709'551'615U);
+  EXPECT_EQ(texts[1].base, std::nullopt);
+  EXPECT_EQ(texts[0].path, "/1 2\n3");
+  EXPECT_EQ(texts[1].path, "/4 5\n6");
+  EXPECT_EQ(texts[1].bytes, "7 8\n9");
+  EXPECT_FALSE(texts[0].damaged || texts[1].damaged);
+}
+
 TEST_F(Recovery, ATextReplacesTheOneOfTheSameDocument) {
   KilledAfter([&](RecoveryStore& store) {
     store.Keep(1, "/a", "first");
