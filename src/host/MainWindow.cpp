@@ -238,7 +238,8 @@ void MainWindow::ShowNotice(const QString& text) {
 void MainWindow::ShowDocument() {
   const Document document = control_->Tessel().OpenDocuments().Current();
   const bool modified = document.Modified();
-  const QString name = ShownName(document.Name());
+  QString name = ShownName(document.Name());
+  name.replace("[*]", "[*][*]");  // one is the mark of a modified document
   setWindowTitle(name.isEmpty() ? tr("Zanth Manager[*]") : name + tr("[*] \u2013 Zanth Manager"));
   setWindowModified(modified);
 }

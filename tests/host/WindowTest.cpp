@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTreeWidget>
+#include <QWindow>
 #include <set>
 
 #include "HostFixture.h"
@@ -92,6 +93,17 @@ TEST_F(Window, RemembersThatOtherProgramsMayUseIt) {
 }
 
 // --- Save writes into the document's own file, and its tab keeps its name
+
+// The toolkit has a mark of its own in titles, "[*]", which it takes away.
+TEST_F(Window, ShowsTheNameOfItsFileInTheTitleAsItIs) {
+  for (const std::string name : {"q[*].con", "[*][*].con", "q.con[*]", "[*"}) {
+    Run().window->OpenFiles({directory_.Put(name, "")});
+    const auto shown = [this] { return Run().window->windowHandle()->title().toStdString(); };
+    EXPECT_EQ(shown(), name + " \u2013 Zanth Manager");
+    Run().Editor(Run().Tabs().Count() - 1).Type("x");
+    EXPECT_EQ(shown(), name + "* \u2013 Zanth Manager");
+  }
+}
 
 TEST_F(Window, SavesAFileOfTheCommandLineUnderItsOwnName) {
   Run().window->OpenFiles({user_});
