@@ -67,7 +67,7 @@ bool ChangeNotice::MayDropChanges() {
   const MessageAnswer answer = messages_.Show(
       "Reload " + NameOfPath(document.Path(), '/') +
           " and drop your changes?\nYour text is kept among the backups (File > Backups).",
-      MessageIcon::kQuestion, kProgramTitle, MessageButtons::kYesNo);
+      MessageIcon::kQuestion, kProgramTitle, MessageButtons::kNoYes);
   return answer == MessageAnswer::kYes && keepText_(document.Path(), document.Editor().Bytes());
 }
 

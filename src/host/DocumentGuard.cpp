@@ -91,7 +91,7 @@ std::optional<std::string> DocumentGuard::SpellingMeantBy(const std::string& pat
 
 bool DocumentGuard::Agrees(const std::string& question) {
   return messages_.Show(question, MessageIcon::kExclamation, kProgramTitle,
-                        MessageButtons::kYesNo) == MessageAnswer::kYes;
+                        MessageButtons::kNoYes) == MessageAnswer::kYes;
 }
 
 bool DocumentGuard::BeforeSaving(const Document& document, const std::string& path) {

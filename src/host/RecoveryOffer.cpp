@@ -88,7 +88,7 @@ bool RecoveryOffer::MayGoOverItsFile(const KeptText& text) {
           .arg(ShownName(NameOfPath(text.path, files_.Separator())), TimeOf(file.written.seconds),
                TimeOf(text.seconds));
   return messages_.Show(question.toStdString(), MessageIcon::kQuestion, kProgramTitle,
-                        MessageButtons::kYesNo) == MessageAnswer::kYes;
+                        MessageButtons::kNoYes) == MessageAnswer::kYes;
 }
 
 void RecoveryOffer::Recover() {
@@ -107,7 +107,7 @@ void RecoveryOffer::Recover() {
 void RecoveryOffer::Discard() {
   const MessageAnswer answer =
       messages_.Show("Discard the text for good? It cannot be brought back.",
-                     MessageIcon::kQuestion, kProgramTitle, MessageButtons::kYesNo);
+                     MessageIcon::kQuestion, kProgramTitle, MessageButtons::kNoYes);
   if (answer != MessageAnswer::kYes) return;
   texts_->Discard();
   hide();

@@ -14,7 +14,7 @@ class Control;
 class Form;
 
 enum class MessageIcon { kNone, kInformation, kExclamation, kQuestion };
-/// With kNoYes the Return key means No: for a box that comes up while a person types.
+/// With kNoYes the Return key means No: where Yes loses something, or while a person types.
 enum class MessageButtons { kOk, kYesNo, kYesNoCancel, kNoYes };
 enum class MessageAnswer { kOk, kYes, kNo, kCancel };
 

@@ -90,6 +90,7 @@ TEST_F(ChangedOutside, ReloadAsksBeforeItDropsOwnChanges) {
   fakes_.messages.answers = {MessageAnswer::kNo};
   Press("Rel&oad");
   ASSERT_EQ(fakes_.messages.shown.size(), 1U);
+  EXPECT_EQ(fakes_.messages.shown[0].buttons, MessageButtons::kNoYes);
   EXPECT_EQ(Editor().Text(), "// mine\r\ndefine A 1\r\n");
   EXPECT_TRUE(Notice().isVisible());
   EXPECT_TRUE(backups_.List().empty());

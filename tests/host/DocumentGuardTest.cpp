@@ -22,7 +22,13 @@ class Guard : public HostTest {
     for (const auto& box : Run().fakes.messages.shown) texts.push_back(box.text);
     return texts;
   }
+  /// Once, and the Return key means No.
   bool AskedFor(const std::string& part) {
+    const auto& shown = Run().fakes.messages.shown;
+    return shown.size() == 1 && shown[0].text.find(part) != std::string::npos &&
+           shown[0].buttons == MessageButtons::kNoYes;
+  }
+  bool Told(const std::string& part) {
     return Asked().size() == 1 && Asked()[0].find(part) != std::string::npos;
   }
   void Answer(MessageAnswer answer) { Run().fakes.messages.answers = {answer}; }
@@ -88,7 +94,7 @@ TEST_F(Guard, TheOtherTabSeesThatItsFileWasReplaced) {
   Run().Editor(0).Type("mine ");
   Run().fakes.messages.shown.clear();
   Run().SaveInPlace();
-  EXPECT_TRUE(AskedFor("has not been saved"));
+  EXPECT_TRUE(Told("has not been saved"));
   EXPECT_EQ(BytesOf(user_), "longer define G 1\r\n");
 }
 
@@ -154,7 +160,7 @@ TEST_F(Guard, RecordsMoveWithTheirDocuments) {
   directory_.Put("game.con", "theirs, and longer");
   Run().Editor(0).Type("mine ");
   Run().SaveInPlace();
-  EXPECT_TRUE(AskedFor("has not been saved"));
+  EXPECT_TRUE(Told("has not been saved"));
   EXPECT_EQ(BytesOf(game_), "theirs, and longer");
 }
 

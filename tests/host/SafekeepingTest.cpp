@@ -323,6 +323,7 @@ TEST_F(Safekeeping, RecoveringOverANewerFileIsAskedAbout) {
   Run().Press<RecoveryOffer>("&Recover");
   ASSERT_EQ(Run().fakes.messages.shown.size(), 1U);
   EXPECT_NE(Run().fakes.messages.shown[0].text.find("user.con was changed at"), std::string::npos);
+  EXPECT_EQ(Run().fakes.messages.shown[0].buttons, MessageButtons::kNoYes);
   EXPECT_EQ(Run().Tabs().At(1).tag, kUntitled);
   EXPECT_EQ(Run().Editor(0).Text(), "mine define A 1\r\n");
 }
@@ -438,6 +439,7 @@ TEST_F(Safekeeping, DiscardAsksOnceMoreAndThenForgets) {
   Restart();
   Run().fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kYes};
   Run().Press<RecoveryOffer>("&Discard");
+  EXPECT_EQ(Run().fakes.messages.shown.at(0).buttons, MessageButtons::kNoYes);
   EXPECT_TRUE(OfferVisible());
   Run().Press<RecoveryOffer>("&Discard");
   EXPECT_FALSE(OfferVisible());
