@@ -83,8 +83,11 @@ std::optional<std::string> DocumentGuard::SpellingMeantBy(const std::string& pat
   const std::vector<std::string> candidates = realPaths_.Candidates(path);
   if (candidates.empty()) return path;  // the control says that it is not there
   if (candidates.size() == 1) return candidates.front();
+  const std::string why = posix::StatusOfLink(path)
+                              ? "Names that differ only in the case of letters are several files. "
+                              : path + " is not there. ";
   for (const std::string& candidate : candidates) {
-    if (Agrees(path + " is not there. Open " + candidate + "?")) return candidate;
+    if (Agrees(why + "Open " + candidate + "?")) return candidate;
   }
   return std::nullopt;
 }

@@ -30,14 +30,20 @@ void RealPaths::Remember(const std::string& path) {
   }
 }
 
+std::optional<std::string> RealPaths::Remembered(const std::string& key) const try {
+  const auto real = settings_.GetSetting(kSection, key);
+  return real && posix::StatusOfLink(*real) ? real : std::nullopt;
+} catch (const RuntimeError&) {
+  return std::nullopt;
+}
+
 std::vector<std::string> RealPaths::Candidates(const std::string& path) const {
-  if (posix::StatusOfLink(path)) return {path};
-  try {
-    const auto real = settings_.GetSetting(kSection, ToUpperText(path));
-    if (real && posix::StatusOfLink(*real)) return {*real};
-  } catch (const RuntimeError&) {
-  }
-  return posix::SpellingsOf(path);
+  const std::string key = ToUpperText(path);
+  const bool isThere = posix::StatusOfLink(path).has_value();
+  if (isThere && path != key) return {path};
+  const auto real = Remembered(key);
+  if (isThere) return real && *real != path ? std::vector{*real, path} : std::vector{path};
+  return real ? std::vector{*real} : posix::SpellingsOf(path);
 }
 
 }  // namespace tessel

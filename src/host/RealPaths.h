@@ -1,6 +1,7 @@
 // The real paths of files whose recent names are kept in capital letters.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,11 +22,15 @@ class RealPaths {
   void Watch(DocumentList& documents);
 
   /// Where the file is that the path means: the path itself when it exists as written; else the
-  /// remembered one, if that exists; else every spelling that exists. Empty: there is none.
+  /// remembered one, if that exists; else every spelling that exists. Empty: there is none. A path
+  /// in capital letters may be that of the recent list: where it exists as written and another one
+  /// is remembered, these are two.
   std::vector<std::string> Candidates(const std::string& path) const;
 
  private:
   void Remember(const std::string& path);
+  /// Nothing when it is not there any more.
+  std::optional<std::string> Remembered(const std::string& key) const;
 
   SettingsStore& settings_;
   std::vector<Subscription> subscriptions_;

@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "HostFixture.h"
+#include "base/ScopeGuard.h"
 #include "host/ChangeNotice.h"
 #include "host/DocumentGuard.h"
 #include "text/Text.h"
@@ -144,6 +145,31 @@ TEST_F(Guard, WhereSeveralFilesMayBeMeantItAsks) {
   Run().window->OpenFiles({directory_ / "MODS/USER.CON"});
   EXPECT_EQ(Asked().size(), 4U);
   EXPECT_EQ(Documents().Current().Path(), second);
+}
+
+// The recent list keeps the names in capital letters, and another file is called like that.
+TEST_F(Guard, ARecentFileIsAskedAboutWhereAnotherIsInCapitalLetters) {
+  const auto before = std::filesystem::current_path();
+  const ScopeGuard back([&] { std::filesystem::current_path(before); });
+  std::filesystem::current_path(directory_.Path());
+  directory_.Put("MODS/USER.CON", "the other");
+  directory_.Put("MODS/user.con", "mine");
+  Run().window->OpenFiles({"MODS/user.con"});
+  ASSERT_EQ(Run().Editor(0).Text(), "mine");
+  EXPECT_TRUE(Asked().empty());
+  Run().Controls().tbToolBar.Press("FileClose");
+  Answer(MessageAnswer::kYes);
+  Run().window->OpenFiles({"MODS/USER.CON"});
+  EXPECT_TRUE(AskedFor("Open MODS/user.con?"));
+  EXPECT_EQ(Run().Editor(0).Text(), "mine");
+  Run().Controls().tbToolBar.Press("FileClose");
+  Run().fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kYes};
+  Run().window->OpenFiles({"MODS/USER.CON"});
+  EXPECT_EQ(Run().Editor(0).Text(), "the other");
+  Run().Controls().tbToolBar.Press("FileClose");
+  Run().fakes.messages.shown.clear();
+  Run().window->OpenFiles({"MODS/USER.CON"});
+  EXPECT_TRUE(Asked().empty()) << "now it is the one that was opened last";
 }
 
 TEST_F(Guard, OneFileOfAnotherSpellingIsOpenedByItsOwnPath) {
