@@ -78,6 +78,16 @@ TEST_F(ScintillaViewReading, HidesTheSameTailWhenColouredFromTheMiddle) {
   EXPECT_EQ(XOf(500), XOf(kShown));
 }
 
+TEST_F(ScintillaViewReading, HidesTheTailInNewColoursToo) {
+  Draw();
+  view.clearFocus();
+  EXPECT_EQ(XOf(500), XOf(kShown));
+  QPalette dark = view.palette();
+  dark.setColor(QPalette::Base, Qt::black);
+  view.setPalette(dark);
+  EXPECT_EQ(XOf(500), XOf(kShown));
+}
+
 TEST_F(ScintillaViewReading, EndsWhereItIsTakenBack) {
   Draw();
   view.SetReading(std::nullopt);

@@ -50,6 +50,7 @@ std::optional<int> ScintillaStyles::Make(Colour colour) {
 void ScintillaStyles::SetTheme(const EditorTheme& theme) {
   theme_ = theme;
   for (const int style : styles_) Paint(style);
+  Hidden();  // whoever sets the looks of all styles makes them visible
 }
 
 void ScintillaStyles::Paint(int style) const {
