@@ -169,7 +169,8 @@ say "Offering nothing for a picture"
 before=$(clients)
 "$program" --host-dir "$data" --screenshot "$work/picture.png" "$work/x.con" 2>"$work/picture.errors" || fail "no picture"
 [ "$(clients)" = $((before + 1)) ] || fail "the program is on the bus for a picture"
-rm "$wish"
+[ ! -e "$wish" ] || grep -q wanted "$wish" && fail "the wish of an earlier version is not taken over"
+rm -f "$ZANTHMAN_STORE"
 grep '^zanth-manager:' "$work"/*.errors && fail "it complains"
 
 say "Asking for what cannot be"
