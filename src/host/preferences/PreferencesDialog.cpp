@@ -14,6 +14,7 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences, QWidget* parent)
     : QDialog(parent), preferences_(preferences) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(tr("Preferences"));
+  setMinimumWidth(fontMetrics().horizontalAdvance('x') * 56);  // the title, with the program's name
   auto* column = new QVBoxLayout(this);
   auto* form = new QFormLayout;
   column->addLayout(form);
