@@ -64,7 +64,7 @@ std::vector<std::string> ChoiceIgnoringCase(const std::string& path) {
         NamesIn(resolved, path.substr(at, end - at), end < path.size());
     if (names.empty()) return {resolved + path.substr(at)};
     if (names.size() > 1) {
-      for (std::string& name : names) name = resolved + name + path.substr(end);
+      for (std::string& name : names) name.insert(0, resolved).append(path.substr(end));
       return names;
     }
     resolved += names.front();

@@ -146,7 +146,7 @@ void RecoveryStore::DropReplaced(Id id, Id by) {
 }
 
 // No memory is asked for under the lock: a host keeps its texts where an allocation fails.
-void RecoveryStore::Give(Id id, Order order) {
+void RecoveryStore::Give(Id id, Order&& order) {
   if (!worker_.joinable()) return;
   std::map<Id, Order> given;
   given.try_emplace(id, std::move(order));

@@ -72,7 +72,7 @@ class RecoveryStore {
   void Carry(Id id, const Order& order);
   std::string Carried(Id id, const Order& order);
   void Note(std::map<Id, Order>::node_type order, std::string problem);
-  void Give(Id id, Order order);
+  void Give(Id id, Order&& order);
 
   std::string parent_;
   std::chrono::milliseconds patience_;

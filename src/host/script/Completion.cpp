@@ -121,9 +121,10 @@ std::vector<std::string> Completion::WordsFor(const std::string& prefix, bool th
     if (BeginsWith(word.word, prefix)) words.push_back(word.word);
   }
   std::ranges::sort(words, IsLess);
-  const auto same = std::ranges::unique(
-      words, [](const std::string& a, const std::string& b) { return language::SameName(a, b); });
-  words.erase(same.begin(), same.end());
+  const auto same = [](const std::string& a, const std::string& b) {
+    return language::SameName(a, b);
+  };
+  words.erase(std::unique(words.begin(), words.end(), same), words.end());
   if (words.size() > kMostWords) words.resize(kMostWords);
   return words;
 }

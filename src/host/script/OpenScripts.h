@@ -19,6 +19,8 @@ class OpenScripts {
   /// The editors outlive this.
   explicit OpenScripts(ControlArray<RichTextBox>& editors);
 
+  /// False for a tab whose editor could not be made.
+  bool Has(Slot slot) const { return Index(slot) < editors_.Count(); }
   /// Up to date, and valid until the text changes.
   const language::Script& Of(Slot slot);
 

@@ -50,6 +50,7 @@ void StructureReader::StartIn(int milliseconds) {
 void StructureReader::ReadOn() {
   if (!walk_) {
     slot_ = documents_.Current().Place();
+    if (!scripts_.Has(slot_)) return;
     walk_.emplace(scripts_.Of(slot_), WantsSymbols());
   }
   QElapsedTimer time;

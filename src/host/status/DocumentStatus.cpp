@@ -95,6 +95,7 @@ void DocumentStatus::ShowCaret() {
 }
 
 void DocumentStatus::ReadText() {
+  if (control_.CurrentEditorView() == nullptr) return;
   const std::string_view text = control_.Tessel().OpenDocuments().CurrentEditor().Bytes();
   lineEnds_->setText(LineEndsShown(text));
   dialect_->setText(DialectOf(text));
