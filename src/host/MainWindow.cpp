@@ -132,6 +132,9 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   ShowDocument();
 }
 
+// The focus leaves the parts as they go, when what listens to it is gone already.
+MainWindow::~MainWindow() { disconnect(qApp, nullptr, this, nullptr); }
+
 ucTessel::Options MainWindow::ControlOptions() {
   return {.dialogHoldsDocument = true,
           .host = &guard_,

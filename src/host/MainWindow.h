@@ -34,6 +34,7 @@ class MainWindow : public QMainWindow {
  public:
   /// `files` are those of the services.
   MainWindow(const Services& services, WidgetMap& widgets, GuardedFiles& files);
+  ~MainWindow() override;
 
   TesselWidget& Control() { return *control_; }
   Preferences& Wishes() { return preferences_; }
