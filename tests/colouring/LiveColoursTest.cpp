@@ -11,6 +11,7 @@
 #include "colouring/LiveColours.h"
 #include "data/DataFiles.h"
 #include "models/ControlSet.h"
+#include "support/BestSeconds.h"
 
 namespace tessel {
 namespace {
@@ -211,22 +212,6 @@ TEST_F(LiveColoursOf, ATextThatIsEmptiedAndFilled) {
 // --- Speed: an edit costs a small part of a whole reading, both measured here as the best of
 // several, on the same machine under the same load.
 
-template <class Work>
-double BestSecondsOf(int times, Work work) {
-  const auto now = [] {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
-  };
-  double best = 1e9;
-  for (int i = 0; i < times; ++i) {
-    const double start = now();
-    work();
-    best = std::min(best, now() - start);
-  }
-  return best;
-}
-
 class LiveColoursSpeed : public testing::Test {
  protected:
   LiveColoursSpeed() {
@@ -241,8 +226,8 @@ class LiveColoursSpeed : public testing::Test {
     const std::string after = std::string(text_).insert(at, written);
     LiveColours live(text_);
     const auto offset = static_cast<Position>(at);
-    const double whole = BestSecondsOf(3, [&] { live = LiveColours(text_); });
-    const double edits = BestSecondsOf(5, [&] {
+    const double whole = test::BestSecondsOf(3, [&] { live = LiveColours(text_); });
+    const double edits = test::BestSecondsOf(5, [&] {
       live.Update(after, offset, 0, std::ssize(written));
       const Position end = std::min(offset + 4000, std::ssize(after));
       EXPECT_EQ(std::ssize(live.ColoursOf(after, offset, end)), end - offset);

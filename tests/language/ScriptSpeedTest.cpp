@@ -8,25 +8,10 @@
 
 #include "data/DataFiles.h"
 #include "language/Script.h"
+#include "support/BestSeconds.h"
 
 namespace tessel::language {
 namespace {
-
-template <class Work>
-double BestSecondsOf(int times, Work work) {
-  const auto now = [] {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
-  };
-  double best = 1e9;
-  for (int i = 0; i < times; ++i) {
-    const double start = now();
-    work();
-    best = std::min(best, now() - start);
-  }
-  return best;
-}
 
 class ScriptSpeed : public testing::Test {
  protected:
@@ -41,8 +26,8 @@ class ScriptSpeed : public testing::Test {
     const std::string after = std::string(text_).insert(at, written);
     Script script(text_);
     const auto offset = static_cast<Position>(at);
-    const double whole = BestSecondsOf(3, [&] { script = Script(text_); });
-    const double edits = BestSecondsOf(5, [&] {
+    const double whole = test::BestSecondsOf(3, [&] { script = Script(text_); });
+    const double edits = test::BestSecondsOf(5, [&] {
       script.Update(after, offset, 0, std::ssize(written));
       script.Update(text_, offset, std::ssize(written), 0);
     });
@@ -70,8 +55,8 @@ TEST_F(ScriptSpeed, OfOpeningACommentIsNotThatOfAllItSwallows) {
 
 TEST_F(ScriptSpeed, OfAskingForAPlaceIsThatOfTheLinesAroundIt) {
   const Script script(text_);
-  const double whole = BestSecondsOf(3, [&] { EXPECT_GT(Script(text_).LineCount(), 1); });
-  const double asking = BestSecondsOf(5, [&] {
+  const double whole = test::BestSecondsOf(3, [&] { EXPECT_GT(Script(text_).LineCount(), 1); });
+  const double asking = test::BestSecondsOf(5, [&] {
     const Position at = script.Length() - 1;
     EXPECT_GT(script.PlaceOf(at).line, 1);
     EXPECT_FALSE(script.IsInComment(at));
