@@ -49,10 +49,17 @@ void SetUpMargin(ScintillaView& view) {
                      static_cast<long>(static_cast<int>(Sci::SC_MASK_FOLDERS)));
   view.SendScintilla(Sci::SCI_SETMARGINSENSITIVEN, kFoldMargin, 1L);
   view.SendScintilla(Sci::SCI_SETMARGINWIDTHN, kFoldMargin, long{kMarginWidth});
-  view.SendScintilla(Sci::SCI_SETAUTOMATICFOLD,
-                     LineNumber(Sci::SC_AUTOMATICFOLD_SHOW | Sci::SC_AUTOMATICFOLD_CHANGE));
   view.SendScintilla(Sci::SCI_SETFOLDFLAGS, LineNumber(Sci::SC_FOLDFLAG_LINEAFTER_CONTRACTED));
   PaintMargin(view);
+}
+
+// Only where lines are out of sight has Scintilla to look what a new level means to them; it wants
+// all of the text coloured for it.
+void LookAfterHiddenLines(ScintillaView& view) {
+  const bool hidden = view.SendScintilla(Sci::SCI_GETALLLINESVISIBLE) == 0;
+  view.SendScintilla(Sci::SCI_SETAUTOMATICFOLD,
+                     LineNumber(hidden ? Sci::SC_AUTOMATICFOLD_SHOW | Sci::SC_AUTOMATICFOLD_CHANGE
+                                       : Sci::SC_AUTOMATICFOLD_SHOW));
 }
 
 long LevelOf(const language::FoldLine& line) {
@@ -128,6 +135,7 @@ void Folding::MarkOn() {
                     view_->SendScintilla(Sci::SCI_GETLINECOUNT) == std::ssize(lines_);
   if (!fits) return marking_.stop();
   if (next_ == 0) PaintMargin(*view_);
+  LookAfterHiddenLines(*view_);
   QElapsedTimer time;
   time.start();
   for (; next_ < lines_.size(); ++next_) {
