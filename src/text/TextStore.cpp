@@ -1,7 +1,6 @@
 #include "text/TextStore.h"
 
 #include <algorithm>
-#include <cstring>
 
 #include "base/RuntimeError.h"
 
@@ -38,7 +37,7 @@ void TextStore::Replace(Position at, Position length, std::string_view inserted,
   if (length == 0 && inserted.empty()) return;
   // What may throw comes first: without room nothing has changed.
   const char index = PaletteIndex(colour);
-  MakeRoom(length, inserted);
+  MakeRoom(at, length, inserted);
   Step* step = stepStarted_ && !undo_.empty() ? &undo_.back() : nullptr;
   TextEdit told{at, {}, inserted, step != nullptr};
   const bool continues = step != nullptr && length == 0 && !step->empty() &&
@@ -55,20 +54,18 @@ void TextStore::Replace(Position at, Position length, std::string_view inserted,
   Change(told, index);
 }
 
-void TextStore::MakeRoom(Position length, std::string_view inserted) {
+void TextStore::MakeRoom(Position at, Position length, std::string_view inserted) {
   const std::size_t size = bytes_.size() - static_cast<std::size_t>(length) + inserted.size();
-  if (size > bytes_.size()) {
-    bytes_.reserve(size);
-    colours_.reserve(size);
-  }
+  if (size > bytes_.size()) bytes_.reserve(size);
+  colours_.MakeRoomToReplace(at, std::ssize(inserted));
 }
 
 void TextStore::Change(const TextEdit& edit, char colourIndex) {
   const Position length = std::ssize(edit.removed);
-  MakeRoom(length, edit.inserted);
+  MakeRoom(edit.at, length, edit.inserted);
   bytes_.replace(edit.at, length, edit.inserted);
   ++revision_;
-  colours_.replace(edit.at, length, edit.inserted.size(), colourIndex);
+  colours_.Replace(edit.at, length, std::ssize(edit.inserted), colourIndex);
   if (view_ != nullptr) view_->Replaced(edit.at, length, std::ssize(edit.inserted));
   Edited.Raise(edit);
 }
@@ -88,32 +85,45 @@ char TextStore::PaletteIndex(Colour colour) {
   return static_cast<char>(palette_.size() - 1);
 }
 
-Colour TextStore::ColourAt(Position at) const {
-  return palette_[static_cast<unsigned char>(colours_[at])];
-}
+Colour TextStore::ColourAt(Position at) const { return ColourOf(colours_.At(at).index); }
 
 std::optional<Colour> TextStore::UniformColour(Position at, Position length) const {
   if (length == 0) return std::nullopt;
-  const char* first = colours_.data() + at;
-  // A range is uniform when it equals itself shifted by one.
-  if (std::memcmp(first, first + 1, static_cast<std::size_t>(length - 1)) != 0) return std::nullopt;
-  return ColourAt(at);
+  const IndexRuns::Stretch first = colours_.At(at);
+  for (Position next = first.end; next < at + length;) {
+    const IndexRuns::Stretch stretch = colours_.At(next);
+    if (stretch.index != first.index) return std::nullopt;
+    next = stretch.end;
+  }
+  return ColourOf(first.index);
 }
 
 void TextStore::Paint(Position at, Position length, Colour colour) {
-  const char index = PaletteIndex(colour);
-  std::fill_n(colours_.begin() + at, length, index);
+  colours_.Fill(at, length, PaletteIndex(colour));
   if (view_ != nullptr) view_->Painted(at, length);
+}
+
+std::string TextStore::ColourIndices(Position at, Position length) const {
+  std::string indices;
+  indices.reserve(static_cast<std::size_t>(length));
+  while (std::ssize(indices) < length) {
+    const Position next = at + std::ssize(indices);
+    const IndexRuns::Stretch stretch = colours_.At(next);
+    const Position count = std::min(stretch.end, at + length) - next;
+    indices.append(static_cast<std::size_t>(count), stretch.index);
+  }
+  return indices;
 }
 
 std::vector<ColourRun> TextStore::Runs(Position at, Position length) const {
   std::vector<ColourRun> runs;
-  const Position end = at + length;
-  while (at < end) {
-    const auto next = static_cast<Position>(
-        std::min(colours_.find_first_not_of(colours_[at], at), static_cast<std::size_t>(end)));
-    runs.push_back({at, next - at, ColourAt(at)});
-    at = next;
+  for (Position next = at; next < at + length;) {
+    const IndexRuns::Stretch stretch = colours_.At(next);
+    const Position end = std::min(stretch.end, at + length);
+    const Colour colour = ColourOf(stretch.index);
+    if (runs.empty() || runs.back().colour != colour) runs.push_back({next, 0, colour});
+    runs.back().length += end - next;
+    next = end;
   }
   return runs;
 }

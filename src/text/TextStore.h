@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/Event.h"
+#include "text/IndexRuns.h"
 #include "text/TextTypes.h"
 
 namespace tessel {
@@ -34,14 +35,11 @@ struct TextEdit {
 
 /// A text with all the room that a store needs for it: a store takes it over without fail.
 struct PreparedText {
-  PreparedText(std::string text) : bytes(std::move(text)) {
-    colours.reserve(bytes.capacity());  // what has room to grow in has it for its colours
-    colours.resize(bytes.size());
-  }
+  PreparedText(std::string text) : bytes(std::move(text)), colours(std::ssize(bytes), 0) {}
   PreparedText(const char* text) : PreparedText(std::string(text)) {}
 
   std::string bytes;
-  std::string colours;  // all black
+  IndexRuns colours;  // all black
 };
 
 /// A text of single-byte characters in one contiguous buffer, a colour for each, and what undo
@@ -67,8 +65,8 @@ class TextStore {
   std::optional<Colour> UniformColour(Position at, Position length) const;
   /// Colours are no undo step. A store holds at most 256 different colours: a RuntimeError beyond.
   void Paint(Position at, Position length, Colour colour);
-  /// For a view: each byte's colour as an index into the palette. Valid until the next change.
-  std::string_view ColourIndices() const { return colours_; }
+  /// For a view: the colour of each byte of a range, as an index into the palette.
+  std::string ColourIndices(Position at, Position length) const;
   const std::vector<Colour>& Palette() const { return palette_; }
   /// All maximal runs of one colour, in order; black ones too.
   std::vector<ColourRun> Runs(Position at, Position length) const;
@@ -111,13 +109,14 @@ class TextStore {
   };
   using Step = std::vector<Edit>;
 
-  void MakeRoom(Position length, std::string_view inserted);
+  void MakeRoom(Position at, Position length, std::string_view inserted);
   void Change(const TextEdit& edit, char colourIndex);
   void TellReset(Position lengthBefore);
   char PaletteIndex(Colour colour);
+  Colour ColourOf(char index) const { return palette_[static_cast<unsigned char>(index)]; }
 
   std::string bytes_;
-  std::string colours_;  // an index into palette_ for each byte
+  IndexRuns colours_;  // an index into palette_ for each byte
   std::vector<Colour> palette_ = {kBlack};
   std::uint64_t revision_ = 0;
   std::vector<Step> undo_;
@@ -129,7 +128,7 @@ class TextStore {
 
 struct TextStore::Snapshot {
   std::string bytes;
-  std::string colours;
+  IndexRuns colours;
   std::vector<Colour> palette;
   std::vector<Step> undo;
   std::vector<Step> redo;

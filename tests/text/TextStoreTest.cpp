@@ -135,7 +135,7 @@ TEST(TextStore, GivesItsBytesAwayAndIsAsEmptyAsANewOne) {
   EXPECT_EQ(store.Bytes(), "");
   EXPECT_NE(store.Revision(), revision);
   EXPECT_FALSE(store.CanUndo());
-  EXPECT_EQ(store.ColourIndices(), "");
+  EXPECT_THAT(store.Runs(0, store.Length()), IsEmpty());
   EXPECT_EQ(store.Palette().size(), 1);
 }
 

@@ -18,10 +18,7 @@ std::span<const Colour> DrawnColours::Palette() const {
 }
 
 std::string_view DrawnColours::Indices(Position begin, Position end) {
-  if (!areLive_) {
-    return store_.ColourIndices().substr(static_cast<std::size_t>(begin),
-                                         static_cast<std::size_t>(end - begin));
-  }
+  if (!areLive_) return indices_ = store_.ColourIndices(begin, end - begin);
   if (!live_) live_.emplace(store_.Bytes());
   indices_ = live_->ColoursOf(store_.Bytes(), begin, end);
   return indices_;
