@@ -1,4 +1,6 @@
 // Zanth Manager: a window around the control.
+#include <malloc.h>
+
 #include <QApplication>
 #include <QIcon>
 #include <algorithm>
@@ -127,11 +129,15 @@ int Run(const Options& options) {
   return QApplication::exec();
 }
 
+// By itself the C library keeps large buffers from the first one on that is given back.
+void GiveLargeBuffersBack() { mallopt(M_MMAP_THRESHOLD, 1 << 20); }
+
 }  // namespace
 }  // namespace tessel
 
 int main(int argc, char** argv) {
   tessel::posix::TakeSizeLimitsAsErrors();
+  tessel::GiveLargeBuffersBack();
   int exitStatus = 0;
   const auto options = tessel::ParseOptions(argc, argv, exitStatus);
   if (!options) return exitStatus;
