@@ -167,6 +167,17 @@ TEST_F(CommandLineLevels, SaysWhatALineLacks) {
             "lv.con\t0 1\tA.map\t01:00\t\t\t1\tit has no record\n");
 }
 
+TEST_F(CommandLineLevels, CountsWhatItChanged) {
+  const auto changed = [&](const std::string& map, const std::string& title) {
+    const std::string out = OutputOf(
+        {"level", "User.con", "0 0", "--map", map, "--title", title, "--dry-run", "--json"});
+    return json::parse(out)["files"][0]["changed"].get<int>();
+  };
+  EXPECT_EQ(changed("E1L1.map", "HOLLYWOOD HOLOCAUST"), 0);
+  EXPECT_EQ(changed("a.map", "HOLLYWOOD HOLOCAUST"), 1);
+  EXPECT_EQ(changed("a.map", "B"), 2);
+}
+
 TEST_F(CommandLineLevels, ReportsWhatItChanged) {
   const Outcome outcome = Tessel(
       {"level", "User.con", "0 7", "--map", "n.map", "--title", "N", "--report", "-o", "new.con"});

@@ -94,8 +94,15 @@ TEST_F(CommandLineStreams, WritesNoStreamInPlace) {
 TEST_F(CommandLineStreams, SaysSoWhenStandardInputCannotBeRead) {
   EXPECT_EQ(Shell("tessel get - QSIZE <&-").err, "tessel: Cannot read -: Bad file descriptor.\n");
   EXPECT_EQ(Shell("tessel get - QSIZE < .").err, "tessel: Cannot read -: Is a directory.\n");
-  ExpectUsageError({"get", "-", "-", "QSIZE"}, "get: standard input can be read once",
-                   "tessel get");
+  using Arguments = std::vector<std::string>;
+  for (const Arguments& arguments : {Arguments{"get", "-", "-", "QSIZE"},
+                                     {"settings", "-", "-"},
+                                     {"levels", "-", "-"},
+                                     {"level", "-", "-", "0 0"},
+                                     {"convert", "-", "-", "--dry-run"}}) {
+    const std::string& command = arguments.front();
+    ExpectUsageError(arguments, command + ": standard input can be read once", "tessel " + command);
+  }
 }
 
 TEST_F(CommandLineStreams, SaysSoWhenAStreamHasNoEnd) {

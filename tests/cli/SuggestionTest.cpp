@@ -22,5 +22,11 @@ TEST(Suggestion, NamesTheNearestFirstAndThreeAtMost) {
   EXPECT_EQ(Suggestions("xxxx", {"xxxa", "xxxb", "xxxc", "xxxd"}), (Names{"xxxa", "xxxb", "xxxc"}));
 }
 
+TEST(Suggestion, KnowsTheBeginningOfANameAndOfItsLastPart) {
+  EXPECT_EQ(Suggestions("wea", {"weapon/strength"}), Names{"weapon/strength"});
+  EXPECT_EQ(Suggestions("str", {"weapon/strength"}), Names{"weapon/strength"});
+  EXPECT_EQ(Suggestions("we", {"weapon/strength"}), Names{});
+}
+
 }  // namespace
 }  // namespace tessel::cli
