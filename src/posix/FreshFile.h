@@ -23,6 +23,8 @@ class FreshFile {
   FreshFile& operator=(const FreshFile&) = delete;
 
   int Number() const { return file_.Number(); }
+  /// The same file, also when it has taken its place.
+  int Held() const { return lock_.Number(); }
   /// Closes it and gives it that name, in the same directory.
   void TakePlaceOf(const std::string& target);
   /// The same, where nothing has that name; otherwise an EEXIST.

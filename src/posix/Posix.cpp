@@ -1,5 +1,6 @@
 #include "posix/Posix.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -91,6 +92,17 @@ void WriteAll(int file, std::string_view bytes) {
     const auto written = Checked([&] { return ::write(file, bytes.data(), count); });
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
+}
+
+void FlushNames(int directory) {
+  if (Retry([&] { return ::fsync(directory); }) == -1 && errno != EINVAL) throw FileProblem(errno);
+}
+
+void FlushNames(int directory, int inside) {
+  const Descriptor again(
+      Retry([&] { return ::openat(directory, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+  if (again.Number() != -1) return FlushNames(again.Number());
+  Checked([&] { return ::syncfs(inside); });
 }
 
 }  // namespace tessel::posix

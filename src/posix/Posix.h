@@ -78,4 +78,10 @@ void RefuseUnlessRegular(const struct stat& status);
 std::string ReadAll(int file);
 void WriteAll(int file, std::string_view bytes);
 
+/// Flushes the names in a directory that is open to be read, where its file system knows that.
+void FlushNames(int directory);
+/// The same of one that may be open to be reached only. Where it must not be listed, all that is
+/// unflushed on the disk of `inside`, an open file in it, is flushed.
+void FlushNames(int directory, int inside);
+
 }  // namespace tessel::posix

@@ -84,18 +84,11 @@ bool TakesAfter(const FreshFile& fresh, const SaveTarget& target, const struct s
   return true;
 }
 
-/// Opened to be listed and flushed; −1 when that is forbidden.
-int OpenAgain(const Descriptor& directory) {
-  return Retry(
-      [&] { return ::openat(directory.Number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
-}
-
-void SyncDirectory(int directory) {
-  // Some file systems know no flushing of directories.
-  if (Retry([&] { return ::fsync(directory); }) == -1 && errno != EINVAL) {
-    throw FileProblem("the new text is in the file, but may not survive a power failure (" +
-                      std::string(FileProblem(errno).what()) + ")");
-  }
+void FlushName(const FreshFile& placed, const SaveTarget& target) try {
+  FlushNames(target.directory.Number(), placed.Held());
+} catch (const FileProblem& problem) {
+  throw FileProblem("the new text is in the file, but may not survive a power failure (" +
+                    std::string(problem.what()) + ")");
 }
 
 [[noreturn]] void RefuseWhatIsThere() { throw FileProblem("it is there already"); }
@@ -116,10 +109,8 @@ void Replace(FreshFile& fresh, const SaveTarget& target, std::string_view bytes,
   Checked([&] { return ::fsync(fresh.Number()); });
   RefuseUnlessHolds(condition, target);
   GiveName(fresh, target, condition);
-  const Descriptor directory(OpenAgain(target.directory));
-  if (directory.Number() == -1) return;
-  SyncDirectory(directory.Number());
-  RemoveAbandonedFiles(directory.Number(), kFreshPrefix, kAbandonedAge);
+  FlushName(fresh, target);
+  RemoveAbandonedFiles(target.directory.Number(), kFreshPrefix, kAbandonedAge);
 }
 
 void ReserveRoom(int file, std::size_t oldSize, std::size_t newSize) {

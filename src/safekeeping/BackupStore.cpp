@@ -100,6 +100,8 @@ void BackupStore::Keep(const std::string& path, std::string_view bytes) {
   if (name.empty()) {
     name = NextName(names, hash);
     WriteKeptText(folder, name, {path, NanosecondsNow() / 1'000'000'000, bytes.size()}, bytes);
+  } else {
+    folder.FlushNames();  // the killed save may not have come that far
   }
   Prune(folder, name);
 }

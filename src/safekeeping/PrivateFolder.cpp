@@ -23,10 +23,21 @@ constexpr mode_t kOwnersFile = S_IRUSR | S_IWUSR;
 constexpr mode_t kOthers = S_IRWXG | S_IRWXO;
 constexpr const char* kLeftover = ".new-";
 
+void FlushNameOf(const std::string& directory) {
+  const Descriptor made(
+      Checked([&] { return ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+  const std::string parent = directory.substr(0, directory.rfind('/'));
+  const Descriptor around(
+      Checked([&] { return ::open((parent + "/").c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
+  posix::FlushNames(around.Number(), made.Number());
+}
+
 void MakeDirectories(const std::string& path) {
   for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
     const std::string part = path.substr(0, end);
-    if (::mkdir(part.c_str(), kOwnerOnly) == -1) {
+    if (::mkdir(part.c_str(), kOwnerOnly) == 0) {
+      FlushNameOf(part);
+    } else {
       const FileProblem problem(errno);
       if (!StatusOf(part)) throw problem;
     }
@@ -79,8 +90,7 @@ void PrivateFolder::Write(const std::string& name, std::string_view head,
   WriteAll(file.Number(), bytes);
   Checked([&] { return ::fsync(file.Number()); });
   file.TakePlaceOf(name);
-  // Some file systems know no flushing of directories.
-  if (Retry([&] { return ::fsync(folder); }) == -1 && errno != EINVAL) throw FileProblem(errno);
+  FlushNames();
 }
 
 int PrivateFolder::OpenToRead(const std::string& name) const {
@@ -153,7 +163,10 @@ void PrivateFolder::RemoveLeftovers() const {
 void PrivateFolder::Rename(const std::string& from, const std::string& to) const {
   const int folder = directory_.Number();
   Checked([&] { return ::renameat(folder, from.c_str(), folder, to.c_str()); });
+  FlushNames();
 }
+
+void PrivateFolder::FlushNames() const { posix::FlushNames(directory_.Number()); }
 
 bool PrivateFolder::IsAt(const std::string& path) const {
   struct stat here {};

@@ -31,7 +31,8 @@ struct FolderLock {
 /// FileProblems.
 class PrivateFolder {
  public:
-  /// Makes the directory, and those on the way to it, where they are not there. One that belongs to
+  /// Makes the directory, and those on the way to it, where they are not there, and flushes the
+  /// names of those that it made. One that belongs to
   /// somebody else is refused, and so is a symbolic link in its place or in that of the folder
   /// around it. Links further up are the user's own affair.
   explicit PrivateFolder(const std::string& path);
@@ -54,8 +55,10 @@ class PrivateFolder {
   /// Takes away what writes that were killed half-way have left behind.
   void RemoveLeftovers() const;
 
-  /// Gives an entry another name. An empty directory of that name is replaced.
+  /// Gives an entry another name, flushed. An empty directory of that name is replaced.
   void Rename(const std::string& from, const std::string& to) const;
+  /// Flushes the names in it, whoever gave them.
+  void FlushNames() const;
   /// Does the path still lead here?
   bool IsAt(const std::string& path) const;
 

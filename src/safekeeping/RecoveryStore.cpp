@@ -38,8 +38,12 @@ long long SecondsNow() {
 }
 
 /// Only asked for where no lock tells that the run lives; then its process number has to do.
-void LeaveMark(int file) try {
-  if (file != -1) posix::WriteAll(file, MarkOfThisRun());
+void LeaveMark(const PrivateFolder& folder, const FolderLock& lock) try {
+  if (lock.file == -1) return;
+  posix::WriteAll(lock.file, MarkOfThisRun());
+  if (lock.state != FolderLock::State::kUnknown) return;
+  posix::Checked([&] { return ::fsync(lock.file); });
+  folder.FlushNames();
 } catch (const FileProblem&) {
 }
 
@@ -107,8 +111,9 @@ void RecoveryStore::MakeFolder() {
   const std::string hidden = "." + name;
   try {
     auto folder = std::make_unique<PrivateFolder>(parent_ + "/" + hidden);
-    auto lock = std::make_unique<posix::Descriptor>(folder->Lock(kLock).file);
-    LeaveMark(lock->Number());
+    const FolderLock taken = folder->Lock(kLock);
+    auto lock = std::make_unique<posix::Descriptor>(taken.file);
+    LeaveMark(*folder, taken);
     all.Rename(hidden, name);
     folder_ = std::move(folder);
     lock_ = std::move(lock);

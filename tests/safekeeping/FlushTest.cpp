@@ -75,7 +75,8 @@ TEST_F(Flushes, ABackupIsFlushedWholeAndThenItsFolder) {
   BackupStore store(folder_);
   store.Keep("/a", "text");
   const std::string kept = folder_ + "/" + store.List().at(0).name;
-  EXPECT_THAT(TakeFlushes(), ElementsAre("hidden file of " + SizeOf(kept), "folder of 1"));
+  EXPECT_THAT(TakeFlushes(),
+              ElementsAre("folder of 1", "hidden file of " + SizeOf(kept), "folder of 1"));
   store.Keep("/a", "another");
   EXPECT_THAT(TakeFlushes(), ElementsAre(testing::StartsWith("hidden file of "), "folder of 2"));
 }
@@ -85,8 +86,10 @@ TEST_F(Flushes, AnUnsavedTextIsFlushedWholeAndThenItsFolder) {
   store.Keep(1, "/a", std::string(100'000, 'x'));
   ASSERT_TRUE(store.Flush());
   const std::string run = std::filesystem::directory_iterator(folder_)->path();
+  // The names of the folders first: of all runs, and of this one before and after it is locked.
   EXPECT_THAT(TakeFlushes(),
-              ElementsAre("hidden file of " + SizeOf(run + "/text-1"), "folder of 1"));
+              ElementsAre("folder of 1", "folder of 0", "folder of 1",
+                          "hidden file of " + SizeOf(run + "/text-1"), "folder of 1"));
 }
 
 TEST_F(Flushes, ASavedFileIsFlushedWholeAndThenItsFolder) {
@@ -103,8 +106,8 @@ TEST_F(Flushes, AFileWrittenInPlaceIsFlushedBehindItsBackup) {
   PosixFiles files;
   files.KeepOldBytesBy(KeepAsBackups(folder_));
   files.Write(path, "new bytes");
-  EXPECT_THAT(TakeFlushes(),
-              ElementsAre(testing::StartsWith("hidden file of "), "folder of 1", "file of 9"));
+  EXPECT_THAT(TakeFlushes(), ElementsAre("folder of 3", testing::StartsWith("hidden file of "),
+                                         "folder of 1", "file of 9"));
 }
 
 }  // namespace
