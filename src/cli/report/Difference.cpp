@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "cli/report/LineEdits.h"
+#include "text/LineEdits.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

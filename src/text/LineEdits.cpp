@@ -1,10 +1,10 @@
-#include "cli/report/LineEdits.h"
+#include "text/LineEdits.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <span>
 
-namespace tessel::cli {
+namespace tessel {
 namespace {
 
 using LineSpan = std::span<const std::string_view>;
@@ -128,4 +128,4 @@ std::vector<LineEdit> LineEditsBetween(const std::vector<std::string_view>& befo
   return edits;
 }
 
-}  // namespace tessel::cli
+}  // namespace tessel

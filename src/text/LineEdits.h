@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tessel::cli {
+namespace tessel {
 
 /// The lines of a text, each with its LF; the last one may have none.
 std::vector<std::string_view> LinesOf(std::string_view text);
@@ -23,4 +23,4 @@ struct LineEdit {
 std::vector<LineEdit> LineEditsBetween(const std::vector<std::string_view>& before,
                                        const std::vector<std::string_view>& after);
 
-}  // namespace tessel::cli
+}  // namespace tessel
