@@ -3,28 +3,51 @@
 #include <algorithm>
 #include <cstdint>
 #include <span>
+#include <unordered_map>
 
 namespace tessel {
 namespace {
 
 using LineSpan = std::span<const std::string_view>;
+using LineNumbers = std::vector<std::uint32_t>;
 
 // The search for the fewest edits keeps the square of their number.
 constexpr std::ptrdiff_t kMostEdits = 2000;
+// Of lines that are compared: some tenths of a second.
+constexpr std::ptrdiff_t kMostSteps = 50'000'000;
+
+/// Equal lines have the same number, so that a line is read once, however often it is compared.
+class Numbering {
+ public:
+  LineNumbers Of(LineSpan lines) {
+    LineNumbers numbers;
+    numbers.reserve(lines.size());
+    for (const std::string_view line : lines) {
+      const auto next = static_cast<std::uint32_t>(numbers_.size());
+      numbers.push_back(numbers_.try_emplace(line, next).first->second);
+    }
+    return numbers;
+  }
+
+ private:
+  std::unordered_map<std::string_view, std::uint32_t> numbers_;
+};
 
 /// The furthest line of `before` that each diagonal (line before − line after) has been followed
 /// to, after 0, 1, 2 ... lines removed or added.
 class Frontiers {
  public:
-  Frontiers(LineSpan before, LineSpan after) : before_(before), after_(after) {}
+  Frontiers(const LineNumbers& before, const LineNumbers& after) : before_(before), after_(after) {}
 
-  /// False when it takes more than kMostEdits.
+  /// False when it takes more than kMostEdits or kMostSteps.
   bool Search() {
-    for (std::ptrdiff_t edits = 0; edits <= kMostEdits; ++edits) {
+    for (std::ptrdiff_t edits = 0; edits <= kMostEdits && steps_ <= kMostSteps; ++edits) {
       std::vector<std::ptrdiff_t>& frontier =
           frontiers_.emplace_back(static_cast<std::size_t>(2 * edits + 1));
       for (std::ptrdiff_t diagonal = -edits; diagonal <= edits; diagonal += 2) {
-        const std::ptrdiff_t line = Follow(Start(edits, diagonal), diagonal);
+        const std::ptrdiff_t start = Start(edits, diagonal);
+        const std::ptrdiff_t line = Follow(start, diagonal);
+        steps_ += line - start + 1;
         frontier[static_cast<std::size_t>(diagonal + edits)] = line;
         if (line >= std::ssize(before_) && line - diagonal >= std::ssize(after_)) return true;
       }
@@ -73,7 +96,9 @@ class Frontiers {
     return line;
   }
 
-  LineSpan before_, after_;
+  const LineNumbers& before_;
+  const LineNumbers& after_;
+  std::ptrdiff_t steps_ = 0;
   std::vector<std::vector<std::ptrdiff_t>> frontiers_;
 };
 
@@ -92,6 +117,29 @@ std::vector<LineEdit> Joined(const std::vector<LineEdit>& singles) {
   return joined;
 }
 
+/// Between texts of as many lines, single lines.
+std::vector<LineEdit> LinesThatDiffer(const LineNumbers& before, const LineNumbers& after) {
+  std::vector<LineEdit> edits;
+  for (std::size_t line = 0; line < before.size(); ++line) {
+    if (before[line] != after[line]) edits.push_back({line, 1, line, 1});
+  }
+  return edits;
+}
+
+/// Between texts whose first and last lines differ.
+LineEdits EditsBetween(LineSpan before, LineSpan after) {
+  if (before.empty() && after.empty()) return {};
+  Numbering numbering;
+  const LineNumbers oldNumbers = numbering.Of(before);
+  const LineNumbers newNumbers = numbering.Of(after);
+  Frontiers frontiers(oldNumbers, newNumbers);
+  if (frontiers.Search()) return {Joined(frontiers.Edits())};
+  if (before.size() == after.size()) {
+    return {Joined(LinesThatDiffer(oldNumbers, newNumbers)), false};
+  }
+  return {{{0, before.size(), 0, after.size()}}, false};
+}
+
 }  // namespace
 
 std::vector<std::string_view> LinesOf(std::string_view text) {
@@ -105,8 +153,8 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
   return lines;
 }
 
-std::vector<LineEdit> LineEditsBetween(const std::vector<std::string_view>& before,
-                                       const std::vector<std::string_view>& after) {
+LineEdits LineEditsBetween(const std::vector<std::string_view>& before,
+                           const std::vector<std::string_view>& after) {
   const std::size_t shorter = std::min(before.size(), after.size());
   std::size_t start = 0;
   while (start < shorter && before[start] == after[start]) ++start;
@@ -115,17 +163,13 @@ std::vector<LineEdit> LineEditsBetween(const std::vector<std::string_view>& befo
          before[before.size() - 1 - end] == after[after.size() - 1 - end]) {
     ++end;
   }
-  const LineSpan oldLines = LineSpan(before).subspan(start, before.size() - start - end);
-  const LineSpan newLines = LineSpan(after).subspan(start, after.size() - start - end);
-  if (oldLines.empty() && newLines.empty()) return {};
-  Frontiers frontiers(oldLines, newLines);
-  if (!frontiers.Search()) return {{start, oldLines.size(), start, newLines.size()}};
-  std::vector<LineEdit> edits = Joined(frontiers.Edits());
-  for (LineEdit& edit : edits) {
+  LineEdits found = EditsBetween(LineSpan(before).subspan(start, before.size() - start - end),
+                                 LineSpan(after).subspan(start, after.size() - start - end));
+  for (LineEdit& edit : found.edits) {
     edit.before += start;
     edit.after += start;
   }
-  return edits;
+  return found;
 }
 
 }  // namespace tessel

@@ -17,10 +17,17 @@ struct LineEdit {
   std::size_t after = 0, added = 0;
 };
 
-/// The edits from one text to another, in order, with lines that stay between them. They are the
-/// fewest, unless the texts differ so much that finding those would take long: then one edit has
-/// everything between the first and the last line that differ.
-std::vector<LineEdit> LineEditsBetween(const std::vector<std::string_view>& before,
-                                       const std::vector<std::string_view>& after);
+/// The way from one text to another.
+struct LineEdits {
+  std::vector<LineEdit> edits;  ///< in order, with lines that stay between them
+  bool fewest = true;           ///< false where finding the fewest would have taken too long
+};
+
+/// The edits from one text to another: the fewest, unless the texts differ so much that finding
+/// those would take long. Then texts of as many lines are compared line by line, and between others
+/// one edit has everything from the first to the last line that differs. Any pieces will do that
+/// make up the texts, words as well as lines.
+LineEdits LineEditsBetween(const std::vector<std::string_view>& before,
+                           const std::vector<std::string_view>& after);
 
 }  // namespace tessel

@@ -62,6 +62,22 @@ const char* NameOf(LineEnd lineEnd) {
   return "";
 }
 
+std::vector<std::string_view> LinesWithBreaks(std::string_view text) {
+  std::vector<std::string_view> lines;
+  std::size_t from = 0;
+  while (from < text.size()) {
+    const Break found = NextBreak(text, from);
+    const std::size_t end = found.at + found.length;
+    lines.push_back(text.substr(from, end - from));
+    from = end;
+  }
+  return lines;
+}
+
+std::string_view WithoutBreak(std::string_view line) {
+  return line.substr(0, line.find_last_not_of("\r\n") + 1);
+}
+
 std::string WithLineEnds(std::string_view text, LineEnd lineEnd) {
   std::string result;
   result.reserve(text.size());

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessel {
 
@@ -23,6 +24,13 @@ LineEnds LineEndsOf(std::string_view text);
 
 /// "CR LF", "LF" or "CR".
 const char* NameOf(LineEnd lineEnd);
+
+/// The lines as the editor counts them, each with its break; only the last one may have none. A
+/// text that ends with a break has no empty line behind it here.
+std::vector<std::string_view> LinesWithBreaks(std::string_view text);
+
+/// A line of LinesWithBreaks without its break.
+std::string_view WithoutBreak(std::string_view line);
 
 /// The text with each of its breaks written as this one.
 std::string WithLineEnds(std::string_view text, LineEnd lineEnd);

@@ -41,7 +41,7 @@ RC_GTEST_PROP(LineEdits, LeadFromOneTextToTheOtherWithTheFewestLines, ()) {
   const std::string other = *text;
   const auto before = LinesOf(one);
   const auto after = LinesOf(other);
-  const auto edits = LineEditsBetween(before, after);
+  const auto edits = LineEditsBetween(before, after).edits;
   RC_ASSERT(Applied(before, after, edits) == after);
   std::size_t removed = 0;
   for (const LineEdit& edit : edits) removed += edit.removed;
@@ -49,7 +49,8 @@ RC_GTEST_PROP(LineEdits, LeadFromOneTextToTheOtherWithTheFewestLines, ()) {
 }
 
 TEST(LineEdits, WithoutALineBetweenThemAreOne) {
-  const auto edits = LineEditsBetween({"same", "a", "b", "end"}, {"same", "c", "d", "e", "end"});
+  const auto edits =
+      LineEditsBetween({"same", "a", "b", "end"}, {"same", "c", "d", "e", "end"}).edits;
   ASSERT_EQ(edits.size(), 1U);
   EXPECT_EQ(edits[0].before, 1U);
   EXPECT_EQ(edits[0].removed, 2U);
@@ -57,17 +58,44 @@ TEST(LineEdits, WithoutALineBetweenThemAreOne) {
   EXPECT_EQ(edits[0].added, 3U);
 }
 
+/// So many changed lines, with one that stays behind each.
+std::string Text(int lines, const std::string& word) {
+  std::string text = "first\n";
+  for (int i = 0; i < lines; ++i) text += word + std::to_string(i) + "\nsame\n";
+  return text;
+}
+
 TEST(LineEdits, BetweenTextsThatDifferEverywhereAreOne) {
-  std::string before = "first\n";
-  std::string after = "first\n";
-  for (int i = 0; i < 3000; ++i) {
-    before += "a" + std::to_string(i) + "\nsame\n";
-    after += "b" + std::to_string(i) + "\nsame\n";
-  }
-  const auto edits = LineEditsBetween(LinesOf(before), LinesOf(after));
+  const std::string before = Text(3000, "a");
+  const std::string after = Text(3001, "b");
+  const auto [edits, fewest] = LineEditsBetween(LinesOf(before), LinesOf(after));
+  EXPECT_FALSE(fewest);
   ASSERT_EQ(edits.size(), 1U);
   EXPECT_EQ(edits[0].before, 1U);
   EXPECT_EQ(edits[0].removed, 5999U);
+  EXPECT_EQ(edits[0].added, 6001U);
+}
+
+TEST(LineEdits, BetweenTextsOfAsManyLinesAreFoundLineByLineWhereThereAreVeryMany) {
+  const std::string before = Text(3000, "a");
+  const std::string after = Text(3000, "b");
+  const auto [edits, fewest] = LineEditsBetween(LinesOf(before), LinesOf(after));
+  EXPECT_FALSE(fewest);
+  ASSERT_EQ(edits.size(), 3000U);
+  EXPECT_EQ(edits[1].before, 3U);
+  EXPECT_EQ(edits[1].removed, 1U);
+  EXPECT_EQ(Applied(LinesOf(before), LinesOf(after), edits), LinesOf(after));
+}
+
+TEST(LineEdits, AreNotSoughtForLongInTextsThatRepeatThemselves) {
+  std::string before;
+  std::string after;
+  for (int i = 0; i < 400'000; ++i) {
+    before += "same\n";
+    after += i % 400 == 0 ? "other\nsame\n" : "same\n";
+  }
+  after += "end\n";
+  EXPECT_FALSE(LineEditsBetween(LinesOf(before), LinesOf(after)).fewest);
 }
 
 }  // namespace

@@ -22,6 +22,16 @@ TEST(LineEnds, AreOfOneKindOrOfNone) {
   EXPECT_FALSE(LineEndsOf("abc").Mixed());
 }
 
+TEST(LineEnds, EndTheLinesOfATextWhateverTheirKind) {
+  using Lines = std::vector<std::string_view>;
+  EXPECT_EQ(LinesWithBreaks("a\r\nb\n\rc"), (Lines{"a\r\n", "b\n", "\r", "c"}));
+  EXPECT_EQ(LinesWithBreaks("a\n"), Lines{"a\n"});
+  EXPECT_EQ(LinesWithBreaks(""), Lines{});
+  EXPECT_EQ(WithoutBreak("a \r\n"), "a ");
+  EXPECT_EQ(WithoutBreak("\r"), "");
+  EXPECT_EQ(WithoutBreak("a"), "a");
+}
+
 TEST(LineEnds, AreWrittenAsOneKind) {
   const std::string text = "a\r\nb\nc\r\rd\r\n\n";
   EXPECT_EQ(WithLineEnds(text, LineEnd::kLf), "a\nb\nc\n\nd\n\n");

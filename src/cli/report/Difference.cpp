@@ -88,7 +88,7 @@ std::string UnifiedDifference(std::string_view before, std::string_view after,
   if (before == after) return {};
   const Lines oldLines = LinesOf(before);
   const Lines newLines = LinesOf(after);
-  const std::vector<LineEdit> edits = LineEditsBetween(oldLines, newLines);
+  const std::vector<LineEdit> edits = LineEditsBetween(oldLines, newLines).edits;
   const std::string shown = ForTerminal(name);
   std::string text = "--- " + shown + "\n+++ " + shown + "\n";
   for (const Hunk& hunk : HunksOf(edits)) AddHunk(text, hunk, edits, oldLines, newLines);
