@@ -9,6 +9,7 @@
 
 #include "models/CommonDialog.h"
 #include "qt/base/QtText.h"
+#include "qt/base/RoomForTitle.h"
 #include "qt/services/DialogOwner.h"
 
 namespace tessel {
@@ -22,7 +23,10 @@ class PlainBoxes : public QObject {
   bool eventFilter(QObject* dialog, QEvent* event) override {
     if (event->type() == QEvent::ChildPolished) {
       auto* box = qobject_cast<QMessageBox*>(static_cast<QChildEvent*>(event)->child());
-      if (box != nullptr) box->setTextFormat(Qt::PlainText);
+      if (box != nullptr) {
+        box->setTextFormat(Qt::PlainText);
+        KeepRoomForTitle(*box);
+      }
     }
     return QObject::eventFilter(dialog, event);
   }

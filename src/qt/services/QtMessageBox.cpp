@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include "qt/base/QtText.h"
+#include "qt/base/RoomForTitle.h"
 #include "qt/services/DialogOwner.h"
 
 namespace tessel {
@@ -60,6 +61,7 @@ MessageAnswer QtMessageBox::Show(const std::string& text, MessageIcon icon,
   box.setIcon(IconOf(icon));
   box.setStandardButtons(ButtonsOf(buttons));
   if (buttons == MessageButtons::kNoYes) box.setDefaultButton(QMessageBox::No);
+  KeepRoomForTitle(box);
   return AnswerOf(box.exec());
 }
 
