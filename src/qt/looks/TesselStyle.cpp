@@ -1,12 +1,15 @@
 #include "qt/looks/TesselStyle.h"
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QPainter>
 #include <QPointer>
 #include <QStyleFactory>
 #include <QStyleOptionToolButton>
 #include <algorithm>
 
+#include "qt/looks/BoxPaint.h"
+#include "qt/looks/StandardIcons.h"
 #include "qt/looks/Theme.h"
 
 namespace tessel {
@@ -16,15 +19,6 @@ void PaintFace(QPainter& painter, const QRect& rect, const QColor& face, const Q
   painter.setPen(line.isValid() ? QPen(line) : QPen(Qt::NoPen));
   painter.setBrush(face);
   painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-}
-
-void PaintArrow(QPainter& painter, const QRect& rect, const QColor& ink) {
-  const QPointF centre = QRectF(rect).center();
-  QPen pen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-  painter.setPen(pen);
-  painter.setBrush(Qt::NoBrush);
-  painter.drawPolyline(
-      QPolygonF{centre + QPointF(-3, -1.5), centre + QPointF(0, 1.5), centre + QPointF(3, -1.5)});
 }
 
 void PaintButton(const QStyleOptionToolButton& option, QPainter& painter, const QRect& button,
@@ -47,7 +41,7 @@ void PaintButton(const QStyleOptionToolButton& option, QPainter& painter, const 
   if (!menu.isEmpty()) {
     QColor ink = theme.IconInk();
     if (!enabled) ink.setAlphaF(0.35F);
-    PaintArrow(painter, menu, ink);
+    PaintDropArrow(painter, menu, ink);
   }
   if (option.state & QStyle::State_HasFocus) {
     PaintFace(painter, option.rect, Qt::transparent, theme.Accent());
@@ -124,6 +118,26 @@ void PaintCloseButton(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+void PaintComboBox(QPainter& painter, const QStyleOptionComboBox& option, const QRect& arrow) {
+  PaintTextBox(painter, option);
+  QColor ink = Theme(option.palette).IconInk();
+  if (!option.state.testFlag(QStyle::State_Enabled)) ink.setAlphaF(0.35F);
+  PaintDropArrow(painter, arrow, ink);
+}
+
+/// What the toolkit keeps free above the frame of a group for its title.
+int TitleOfGroup(const QStyleOption& option, const QWidget* widget) {
+  constexpr int kBelowTitle = 3;
+  const auto* group = qobject_cast<const QGroupBox*>(widget);
+  if (group == nullptr || group->title().isEmpty()) return kBelowTitle;
+  return option.fontMetrics.height() + kBelowTitle;
+}
+
+bool IsSeparator(const QStyleOptionMenuItem* item) {
+  return item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator &&
+         item->text.isEmpty();
+}
+
 }  // namespace
 
 TesselStyle::TesselStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -140,23 +154,29 @@ TesselStyle* TesselStyle::Shared() {
 void TesselStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                      QPainter* painter, const QWidget* widget) const {
   const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
-  if (control != CC_ToolButton || button == nullptr || button->icon.isNull()) {
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_ToolButton && button != nullptr && !button->icon.isNull()) {
+    const bool hasMenu = button->subControls & SC_ToolButtonMenu;
+    PaintButton(*button, *painter, subControlRect(control, button, SC_ToolButton, widget),
+                hasMenu ? subControlRect(control, button, SC_ToolButtonMenu, widget) : QRect());
     return;
   }
-  const bool hasMenu = button->subControls & SC_ToolButtonMenu;
-  PaintButton(*button, *painter, subControlRect(control, button, SC_ToolButton, widget),
-              hasMenu ? subControlRect(control, button, SC_ToolButtonMenu, widget) : QRect());
+  const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+  if (control == CC_ComboBox && combo != nullptr && combo->frame) {
+    PaintComboBox(*painter, *combo, subControlRect(control, combo, SC_ComboBoxArrow, widget));
+    return;
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control == CC_SpinBox) PaintTextBoxEdge(*painter, *option);
 }
 
 // Fusion's separators cannot be seen on a dark menu.
 void TesselStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
-  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-  const bool separator = element == CE_MenuItem && item != nullptr &&
-                         item->menuItemType == QStyleOptionMenuItem::Separator &&
-                         item->text.isEmpty();
-  if (!separator) return QProxyStyle::drawControl(element, option, painter, widget);
+  if (element != CE_MenuItem ||
+      !IsSeparator(qstyleoption_cast<const QStyleOptionMenuItem*>(option))) {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    return;
+  }
   const int y = option->rect.center().y();
   painter->setPen(Theme(option->palette).Line());
   painter->drawLine(option->rect.left() + 6, y, option->rect.right() - 6, y);
@@ -164,10 +184,49 @@ void TesselStyle::drawControl(ControlElement element, const QStyleOption* option
 
 void TesselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const {
-  if (element == PE_IndicatorRadioButton) return PaintOption(*painter, *option);
-  if (element == PE_IndicatorCheckBox) return PaintCheckBox(*painter, *option);
-  if (element == PE_IndicatorTabClose) return PaintCloseButton(*painter, *option);
+  const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  switch (element) {
+    case PE_IndicatorRadioButton:
+      return PaintOption(*painter, *option);
+    case PE_IndicatorCheckBox:
+      return PaintCheckBox(*painter, *option);
+    case PE_IndicatorTabClose:
+      return PaintCloseButton(*painter, *option);
+    case PE_Frame:
+      return PaintListEdge(*painter, *option);
+    case PE_PanelMenu:
+      return PaintMenuPanel(*painter, *option);
+    case PE_FrameMenu:
+      return PaintListEdge(*painter, *option);
+    case PE_FrameGroupBox:
+      return PaintGroupEdge(*painter, *option, TitleOfGroup(*option, widget));
+    case PE_PanelLineEdit:
+      if (frame != nullptr && frame->lineWidth > 0) return PaintTextBox(*painter, *option);
+      break;
+    case PE_PanelButtonCommand:
+      if (button != nullptr && !button->features.testFlag(QStyleOptionButton::Flat)) {
+        return PaintButtonFace(*painter, *option,
+                               button->features.testFlag(QStyleOptionButton::DefaultButton));
+      }
+      break;
+    default:
+      break;
+  }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+QSize TesselStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  if (type == CT_ItemViewItem) size.setHeight(std::max(size.height(), kLeastRowHeight));
+  return size;
+}
+
+QIcon TesselStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const {
+  const QIcon own = StandardIcon(icon);
+  return own.isNull() ? QProxyStyle::standardIcon(icon, option, widget) : own;
 }
 
 int TesselStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -181,6 +240,8 @@ int TesselStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
       return 1;
     case PM_MenuButtonIndicator:
       return 14;
+    case PM_MenuPanelWidth:
+      return 1;
     case PM_TabCloseIndicatorWidth:
     case PM_TabCloseIndicatorHeight:
       return 14;
@@ -191,8 +252,15 @@ int TesselStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 
 int TesselStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* more) const {
-  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-  return QProxyStyle::styleHint(hint, option, widget, more);
+  switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_EtchDisabledText:
+    // All combo boxes drop a list below themselves, whether they can be typed into or not.
+    case SH_ComboBox_Popup:
+      return 0;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, more);
+  }
 }
 
 }  // namespace tessel

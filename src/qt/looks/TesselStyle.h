@@ -5,9 +5,13 @@
 
 namespace tessel {
 
+/// The least height of a row in lists and trees, in pixels.
+inline constexpr int kLeastRowHeight = 20;
+
 /// Fusion with flat toolbar buttons (a soft face under the mouse, an accented one while pressed or
-/// switched on), with options and check boxes that can be told from a dark ground, and without the
-/// toolkit's pictures on the buttons of dialogs, which are dark also on a dark button.
+/// switched on), with edges that can be seen on light and dark (BoxPaint.h), with the program's own
+/// drawings in boxes and file dialogs, and without the toolkit's pictures on the buttons of
+/// dialogs, which are dark also on a dark button.
 class TesselStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -25,6 +29,10 @@ class TesselStyle : public QProxyStyle {
                      const QWidget* widget) const override;
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override;
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* more) const override;
 };

@@ -41,15 +41,6 @@ constexpr Role kDisabledRoles[] = {
     {QPalette::HighlightedText, "#f5f7fa", "#a0a7b2"},
 };
 
-QPalette MakePalette(bool dark) {
-  QPalette palette;
-  for (const Role& role : kRoles) palette.setColor(role.role, dark ? role.dark : role.light);
-  for (const Role& role : kDisabledRoles) {
-    palette.setColor(QPalette::Disabled, role.role, dark ? role.dark : role.light);
-  }
-  return palette;
-}
-
 QColor Blended(const QColor& a, const QColor& b, double share) {
   return QColor::fromRgbF(static_cast<float>(a.redF() + (b.redF() - a.redF()) * share),
                           static_cast<float>(a.greenF() + (b.greenF() - a.greenF()) * share),
@@ -99,13 +90,23 @@ QColor Theme::IconInk() const {
   return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.82);
 }
 
+QPalette PaletteOf(Brightness brightness) {
+  const bool dark = brightness == Brightness::kDark;
+  QPalette palette;
+  for (const Role& role : kRoles) palette.setColor(role.role, dark ? role.dark : role.light);
+  for (const Role& role : kDisabledRoles) {
+    palette.setColor(QPalette::Disabled, role.role, dark ? role.dark : role.light);
+  }
+  return palette;
+}
+
 void ApplyTheme(QApplication& application, ColourScheme scheme) {
   // The palette is the desktop's only until the first call.
   static const bool desktopIsDark = Theme(application.palette()).Dark();
   const bool dark =
       scheme == ColourScheme::kDesktop ? desktopIsDark : scheme == ColourScheme::kDark;
   application.setStyle(new TesselStyle);
-  application.setPalette(MakePalette(dark));
+  application.setPalette(PaletteOf(dark ? Brightness::kDark : Brightness::kLight));
 }
 
 }  // namespace tessel

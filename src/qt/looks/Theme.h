@@ -28,6 +28,11 @@ class Theme {
   QPalette palette_;
 };
 
+enum class Brightness { kLight, kDark };
+
+/// The program's own colours.
+QPalette PaletteOf(Brightness brightness);
+
 enum class ColourScheme { kDesktop, kLight, kDark };
 
 /// Gives the program its style and its palette; with kDesktop light or dark as the desktop's
