@@ -155,11 +155,11 @@ TEST_F(TesselWidgetTest, F6GoesFromPartToPartAndLeavesTheEditor) {
   EXPECT_TRUE(WidgetFor(Controls().tbsRtb)->hasFocus());
 }
 
-TEST_F(TesselWidgetTest, AListShowsAtLeastFiveRowsAtTheDesignsSize) {
+TEST_F(TesselWidgetTest, AListShowsAtLeastFourRowsAtTheDesignsSize) {
   auto* list = WidgetFor<QAbstractItemView>(Controls().lstPlayers);
   QApplication::processEvents();
   const int row = list->visualRect(list->model()->index(0, 0)).height();
-  EXPECT_GE(list->viewport()->height(), 5 * row);
+  EXPECT_GE(list->viewport()->height(), 4 * row);
 }
 
 TEST(TesselWidgetLife, AControlCanBeMadeAndDestroyedAgainOnTheSameServices) {

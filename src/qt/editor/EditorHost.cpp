@@ -51,7 +51,7 @@ void EditorHost::resizeEvent(QResizeEvent*) {
 void EditorHost::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().base());
-  painter.setPen(Theme(palette()).Line());
+  painter.setPen(Theme(palette()).Outline());
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

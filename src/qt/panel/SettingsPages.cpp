@@ -21,7 +21,7 @@ constexpr int kNarrowestColumn = 120;
 constexpr int kWidestColumn = 250;
 constexpr int kValueBoxWidth = 120;
 constexpr int kColumnGap = 18;
-constexpr int kRowGap = 2;
+constexpr int kRowGap = 3;
 constexpr int kCaptionRow = 0;
 constexpr int kBoxRow = 1;
 

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 #include "base/ScopeGuard.h"
@@ -10,9 +11,15 @@
 #include "qt/views/ByteValidator.h"
 
 namespace tessel {
+namespace {
+
+constexpr int kMostRowsDropped = 12;
+
+}  // namespace
 
 ComboBoxView::ComboBoxView(ComboBox& model, QWidget* parent) : QComboBox(parent), model_(model) {
-  setMaxVisibleItems(16);
+  setMaxVisibleItems(kMostRowsDropped);
+  setItemDelegate(new QStyledItemDelegate(this));  // the toolkit's own draws lower rows
   if (model_.Editable()) MakeEditable();
   connect(this, &QComboBox::activated, this, [this](int entry) { model_.Pick(entry); });
   refresh_ = model_.Refresh.Connect([this] { Draw(); });

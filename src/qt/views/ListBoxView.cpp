@@ -2,15 +2,36 @@
 
 #include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "qt/base/ControlView.h"
 #include "qt/base/QtText.h"
+#include "qt/looks/TesselStyle.h"
 
 namespace tessel {
+namespace {
+
+/// Rows of a height that the list chooses.
+class RowsOfOneHeight : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  int height = kLeastRowHeight;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return {QStyledItemDelegate::sizeHint(option, index).width(), height};
+  }
+};
+
+}  // namespace
 
 ListBoxView::ListBoxView(ListBox& model, QWidget* parent) : QListWidget(parent), model_(model) {
   setUniformItemSizes(true);
+  setItemDelegate(new RowsOfOneHeight(this));
+  // What is left over between the last row and the edge.
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -41,6 +62,24 @@ void ListBoxView::mouseDoubleClickEvent(QMouseEvent* event) {
   QListWidget::mouseDoubleClickEvent(event);
   const QListWidgetItem* pressed = itemAt(event->position().toPoint());
   if (event->button() == Qt::LeftButton && pressed != nullptr) model_.DblClick.Raise();
+}
+
+void ListBoxView::resizeEvent(QResizeEvent* event) {
+  QListWidget::resizeEvent(event);
+  ShareRoomAmongRows();
+}
+
+void ListBoxView::ShareRoomAmongRows() {
+  const int least = std::max(kLeastRowHeight, fontMetrics().height() + 2);
+  const int room = height() - 2 * frameWidth();
+  const int rows = std::max(1, room / least);
+  const int rowHeight = std::max(least, room / rows);
+  const int left = std::max(0, room - rows * rowHeight);
+  auto* delegate = static_cast<RowsOfOneHeight*>(itemDelegate());
+  if (delegate->height == rowHeight && viewportMargins().bottom() == left) return;
+  delegate->height = rowHeight;
+  setViewportMargins(0, 0, 0, left);
+  scheduleDelayedItemsLayout();
 }
 
 void ListBoxView::Draw() {

@@ -9,7 +9,8 @@
 
 namespace tessel {
 
-/// Shows a ListBox. A click, a double click and the arrow keys are a person's picks.
+/// Shows a ListBox, as many whole rows as it has room for. A click, a double click and the arrow
+/// keys are a person's picks.
 class ListBoxView : public QListWidget {
   Q_OBJECT
 
@@ -20,10 +21,12 @@ class ListBoxView : public QListWidget {
   void focusInEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void Draw();
   void DrawEntries();
+  void ShareRoomAmongRows();
 
   ListBox& model_;
   std::vector<std::string> shown_;

@@ -72,7 +72,7 @@ void TabBar::PaintTab(QPainter& painter, int index) const {
     painter.drawLine(tab.right(), tab.top(), tab.right(), tab.bottom());
     const int accent = south ? tab.bottom() - kAccentLine + 1 : tab.top();
     painter.fillRect(tab.left(), accent, tab.width(), kAccentLine, theme.Accent());
-  } else if (index + 1 != currentIndex()) {
+  } else if (index + 1 != currentIndex() && index + 1 != count()) {
     painter.drawLine(tab.right(), tab.top() + 5, tab.right(), tab.bottom() - 5);
   }
 

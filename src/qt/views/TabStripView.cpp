@@ -73,10 +73,11 @@ void TabStripView::changeEvent(QEvent* event) {
 }
 
 void TabStripView::paintEvent(QPaintEvent*) {
-  const bool south = bar_->shape() == QTabBar::RoundedSouth;
+  // What stands above tabs has a frame of its own.
+  if (bar_->shape() == QTabBar::RoundedSouth) return;
   const Theme theme(palette());
-  QRect page = rect().adjusted(0, 0, -1, south ? -1 : -kGapBelowPages);
-  south ? page.setBottom(bar_->geometry().top()) : page.setTop(bar_->geometry().bottom());
+  QRect page = rect().adjusted(0, 0, -1, -kGapBelowPages);
+  page.setTop(bar_->geometry().bottom());
   QPainter painter(this);
   painter.fillRect(page, theme.Page());
   painter.setPen(theme.Line());

@@ -8,8 +8,8 @@
 
 namespace tessel {
 
-/// Shows a TabStrip: a row of tabs along one edge, and the line around the pages. The pages
-/// themselves are siblings that stand above it.
+/// Shows a TabStrip: a row of tabs along one edge and, below tabs, the line around the pages. The
+/// pages themselves are siblings that stand above it.
 class TabStripView : public QWidget {
   Q_OBJECT
 
