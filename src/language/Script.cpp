@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "language/StatementFinder.h"
+
 namespace tessel::language {
 namespace {
 
@@ -22,58 +24,21 @@ bool IsBetweenCrAndLf(std::string_view text, Position offset) {
          text[offset] == '\n';
 }
 
-/// What is still to come on the line of a statement that is being read.
-struct Pending {
-  bool wholeLine = false;
-  int words = 0;
-
-  /// True when the next word belongs to that statement whatever it is.
-  bool TakesWord() {
-    if (wholeLine) return true;
-    if (words == 0) return false;
-    --words;
-    return true;
-  }
-};
-
-Pending PendingAfter(Keyword keyword) {
-  const Grammar& grammar = GrammarOf(keyword);
-  return {.wholeLine = grammar.form == Form::kLine,
-          .words = grammar.form == Form::kNames ? grammar.nameWord : 0};
-}
-
 }  // namespace
 
 void Script::ReadStarts(std::string_view text, Chunk& chunk) {
   std::vector<Chunk::Start> starts;
   starts.reserve(static_cast<std::size_t>(chunk.end - chunk.begin) / 16 + 1);
   Reader reader(text, chunk.begin, chunk.end, chunk.beginsInComment && chunk.closesComment);
-  Pending pending;
-  const auto add = [&](const Token& token, Keyword keyword) {
-    starts.push_back({.offset = static_cast<std::uint32_t>(token.range.begin - chunk.begin),
-                      .keyword = keyword});
-    pending = PendingAfter(keyword);
-    if (pending.wholeLine) reader.SkipWords();
-  };
+  StatementFinder finder(text);
   for (Token token = reader.Next(); token.kind != TokenKind::kEnd; token = reader.Next()) {
     chunk.lineBreaks += token.lineBreaks;
     chunk.opensComment = !token.terminated;
-    if (token.lineBreaks > 0) pending = {};
-    switch (token.kind) {
-      case TokenKind::kWord:
-        if (!pending.TakesWord()) {
-          if (const auto keyword = KeywordOf(Slice(text, token.range))) add(token, *keyword);
-        }
-        break;
-      case TokenKind::kOpenBrace:
-        if (!pending.wholeLine) add(token, Keyword::kOpenBrace);
-        break;
-      case TokenKind::kCloseBrace:
-        if (!pending.wholeLine) add(token, Keyword::kCloseBrace);
-        break;
-      default:
-        break;
-    }
+    const auto keyword = finder.Take(token);
+    if (!keyword) continue;
+    starts.push_back({.offset = static_cast<std::uint32_t>(token.range.begin - chunk.begin),
+                      .keyword = *keyword});
+    if (finder.TakesLine()) reader.SkipWords();
   }
   chunk.starts.assign(starts.begin(), starts.end());
 }
