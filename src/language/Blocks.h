@@ -32,9 +32,33 @@ struct Block {
   std::optional<std::size_t> parent;  ///< the index of the block around it
 };
 
-/// Walks the statements of a script, knowing which blocks are open. An actor never stands inside of
-/// a state or an actor, and a brace never reaches over the end of the block that it stands in; so
-/// what is left open by then is not terminated.
+/// Is told every statement of a text and knows which blocks are open. An actor never stands inside
+/// of a state or an actor, and a brace never reaches over the end of the block that it stands in;
+/// so what is left open by then is not terminated.
+class OpenBlocks {
+ public:
+  /// What the next statement does. Of one that opens a block the caller gives the name.
+  Role Enter(Mark mark);
+  void NameTheLast(Range name) { blocks_.back().name = name; }
+  /// The text ends: so do the blocks that are open.
+  void Finish(Position end);
+
+  /// The blocks so far, in the order of their openers. What is still open ends nowhere yet.
+  const std::vector<Block>& All() const { return blocks_; }
+  bool IsOpen(std::size_t block) const;
+  std::vector<Block> Take() { return std::move(blocks_); }
+
+ private:
+  Role Open(Mark mark);
+  Role Close(Mark mark);
+  bool IsInScriptBlock() const;
+  void LeaveOpen(Position end);
+
+  std::vector<Block> blocks_;
+  std::vector<std::size_t> open_;  // the innermost last
+};
+
+/// Walks the statements of a script, knowing which blocks are open.
 class BlockWalk {
  public:
   explicit BlockWalk(const Script& script) : BlockWalk(script, 0) {}
@@ -50,24 +74,17 @@ class BlockWalk {
   std::optional<Mark> Following() const;
 
   /// The blocks so far, in the order of their openers. What is still open ends nowhere yet.
-  const std::vector<Block>& Blocks() const { return blocks_; }
+  const std::vector<Block>& Blocks() const { return open_.All(); }
   /// Whether nothing has ended that block yet.
-  bool IsOpen(std::size_t block) const;
-  std::vector<Block> TakeBlocks() { return std::move(blocks_); }
+  bool IsOpen(std::size_t block) const { return open_.IsOpen(block); }
+  std::vector<Block> TakeBlocks() { return open_.Take(); }
 
  private:
-  Role Enter();
-  Role Open();
-  Role Close();
-  bool IsInScriptBlock() const;
-  void LeaveOpen(Position end);
-
   const Script& script_;
   Script::MarkIterator next_, last_;
   Mark mark_;
   Role role_ = Role::kOther;
-  std::vector<Block> blocks_;
-  std::vector<std::size_t> open_;  // the innermost last
+  OpenBlocks open_;
 };
 
 struct BlockTree {
