@@ -1,8 +1,8 @@
 #include <iostream>
 
-#include "cli/DocumentSession.h"
 #include "cli/Subcommands.h"
 #include "cli/files/Input.h"
+#include "cli/look/DocumentSession.h"
 #include "cli/report/Json.h"
 #include "cli/report/Terminal.h"
 #include "text/SafeText.h"

@@ -2,8 +2,8 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "cli/DocumentSession.h"
 #include "cli/Subcommands.h"
+#include "cli/look/DocumentSession.h"
 #include "converter/Converter.h"
 #include "text/LineEnds.h"
 #include "text/SafeText.h"

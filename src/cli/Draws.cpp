@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "base/RuntimeError.h"
-#include "cli/DocumentSession.h"
+#include "cli/look/DocumentSession.h"
 #include "language/Definitions.h"
 #include "randomizer/frmRand.h"
 #include "text/Text.h"

@@ -6,8 +6,8 @@
 #include "base/RuntimeError.h"
 #include "cli/LevelName.h"
 #include "cli/Subcommands.h"
-#include "cli/Suggestion.h"
 #include "cli/files/Splices.h"
+#include "cli/report/Suggestion.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

@@ -1,5 +1,5 @@
-#include "cli/DocumentSession.h"
 #include "cli/Subcommands.h"
+#include "cli/look/DocumentSession.h"
 
 namespace tessel::cli {
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "cli/Declarations.h"
-#include "cli/Suggestion.h"
 #include "cli/Usage.h"
+#include "cli/report/Suggestion.h"
 
 namespace tessel::cli {
 namespace {

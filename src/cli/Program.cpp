@@ -8,8 +8,8 @@
 #include <new>
 #include <string_view>
 
-#include "cli/CommandLineServices.h"
 #include "cli/Options.h"
+#include "cli/report/Complaint.h"
 
 namespace tessel::cli {
 namespace {

@@ -3,9 +3,9 @@
 
 #include "base/RuntimeError.h"
 #include "cli/Draws.h"
-#include "cli/ItemRows.h"
 #include "cli/Subcommands.h"
 #include "cli/files/Splices.h"
+#include "cli/look/ItemRows.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

@@ -2,9 +2,9 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "cli/ItemRows.h"
 #include "cli/Subcommands.h"
 #include "cli/files/Splices.h"
+#include "cli/look/ItemRows.h"
 #include "text/SafeText.h"
 #include "text/Text.h"
 

@@ -1,8 +1,8 @@
 #include <iomanip>
 #include <sstream>
 
-#include "cli/ItemRows.h"
 #include "cli/Subcommands.h"
+#include "cli/look/ItemRows.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

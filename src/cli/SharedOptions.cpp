@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "cli/Suggestion.h"
+#include "cli/report/Suggestion.h"
 #include "text/SafeText.h"
 #include "text/Text.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/Batch.h"
+#include "cli/files/Batch.h"
 #include "cli/files/Output.h"
 
 namespace tessel::cli {

@@ -1,6 +1,6 @@
 #include "cli/Usage.h"
 
-#include "cli/Suggestion.h"
+#include "cli/report/Suggestion.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

@@ -3,11 +3,11 @@
 #include <iostream>
 
 #include "base/RuntimeError.h"
-#include "cli/CommandLineServices.h"
 #include "cli/Subcommands.h"
-#include "cli/Suggestion.h"
 #include "cli/files/Input.h"
+#include "cli/report/Complaint.h"
 #include "cli/report/Json.h"
+#include "cli/report/Suggestion.h"
 #include "posix/HostDirectory.h"
 #include "posix/Posix.h"
 #include "posix/SqliteSettingsStore.h"

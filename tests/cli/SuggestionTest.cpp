@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/Suggestion.h"
+#include "cli/report/Suggestion.h"
 
 namespace tessel::cli {
 namespace {

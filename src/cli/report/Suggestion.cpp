@@ -1,4 +1,4 @@
-#include "cli/Suggestion.h"
+#include "cli/report/Suggestion.h"
 
 #include <algorithm>
 #include <numeric>

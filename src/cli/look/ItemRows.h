@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/ValueLook.h"
+#include "cli/look/ValueLook.h"
 #include "cli/report/Report.h"
 
 namespace tessel::cli {

@@ -1,4 +1,4 @@
-#include "cli/DocumentSession.h"
+#include "cli/look/DocumentSession.h"
 
 #include <utility>
 

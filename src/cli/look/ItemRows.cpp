@@ -1,11 +1,11 @@
-#include "cli/ItemRows.h"
+#include "cli/look/ItemRows.h"
 
 #include <algorithm>
 #include <iomanip>
 #include <sstream>
 
 #include "base/RuntimeError.h"
-#include "cli/Suggestion.h"
+#include "cli/report/Suggestion.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {

@@ -1,13 +1,8 @@
-#include "cli/CommandLineServices.h"
-
-#include <iostream>
+#include "cli/look/CommandLineServices.h"
 
 #include "models/Form.h"
-#include "text/SafeText.h"
 
 namespace tessel::cli {
-
-void Complain(const std::string& text) { std::cerr << "tessel: " << ForTerminal(text) << '\n'; }
 
 MessageAnswer HeardMessages::Show(const std::string& text, MessageIcon, const std::string&,
                                   MessageButtons buttons) {

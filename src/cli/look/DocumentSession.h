@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "cli/CommandLineServices.h"
+#include "cli/look/CommandLineServices.h"
 #include "control/ucTessel.h"
 #include "posix/PosixFiles.h"
 #include "services/HeadlessServices.h"

@@ -1,4 +1,4 @@
-#include "cli/ValueLook.h"
+#include "cli/look/ValueLook.h"
 
 #include <algorithm>
 

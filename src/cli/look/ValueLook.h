@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/DefineIndex.h"
-#include "cli/PanelItems.h"
+#include "cli/look/DefineIndex.h"
+#include "cli/look/PanelRead.h"
 #include "language/Definitions.h"
 #include "language/Script.h"
 

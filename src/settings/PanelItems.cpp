@@ -1,18 +1,15 @@
-#include "cli/PanelItems.h"
+#include "settings/PanelItems.h"
 
 #include <algorithm>
 #include <span>
 
-#include "settings/Defines.h"
 #include "settings/ItemTables.h"
 #include "text/Text.h"
 
-namespace tessel::cli {
+namespace tessel {
 namespace {
 
 constexpr std::string_view kDefineWord = "define ";
-// The panel never writes this text of a value box, so it marks "nothing found".
-constexpr const char* kNothingFound = "  ";
 
 /// Of a key that begins with the keyword, the panel searches for the beginning of a define line.
 bool IsBeginning(const std::string& key) { return key.starts_with(kDefineWord); }
@@ -40,18 +37,6 @@ void AddItems(std::vector<PanelItem>& items, const char* section, std::span<cons
   }
 }
 
-struct Place {
-  ListBox& list;
-  ComboBox& box;
-};
-
-Place PlaceOf(HostedControls& c, const PanelItem& item) {
-  if (item.section == "Player") return {c.lstPlayers, c.cmbweap[kPlayerPage]};
-  if (item.section == "Weapon") return {c.lstWeapon, c.cmbweap[kWeaponPage]};
-  if (item.section == "Enemy") return {c.lstEnemy, c.cmbweap[kEnemyPage]};
-  return {c.lstConMisc, c.cmbweap[kMiscPage]};
-}
-
 }  // namespace
 
 std::vector<PanelItem> PanelItems() {
@@ -75,19 +60,4 @@ std::optional<PanelItem> FindPanelItem(const std::string& name) {
   return *it;
 }
 
-std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& item) {
-  HostedControls& c = session.Controls();
-  if (item.entry < 0) {
-    RichTextBox& editor = session.Editor();
-    if (FindDefine(editor, item.define, true) == kNotFound) return std::nullopt;
-    return ReadYesNo(editor, item.define) ? "YES" : "NO";
-  }
-  if (item.category >= 0) c.lstWeapInfo.Pick(item.category);
-  const Place place = PlaceOf(c, item);
-  place.box.SetText(kNothingFound);
-  place.list.Pick(item.entry);
-  if (place.box.Text() == kNothingFound) return std::nullopt;
-  return place.box.Text();
-}
-
-}  // namespace tessel::cli
+}  // namespace tessel

@@ -1,12 +1,12 @@
-#include "cli/Batch.h"
+#include "cli/files/Batch.h"
 
 #include <algorithm>
 #include <iostream>
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "cli/CommandLineServices.h"
 #include "cli/files/Input.h"
+#include "cli/report/Complaint.h"
 #include "cli/report/Difference.h"
 #include "cli/report/Json.h"
 #include "cli/report/Terminal.h"

@@ -1,4 +1,4 @@
-#include "cli/DefineIndex.h"
+#include "cli/look/DefineIndex.h"
 
 #include <algorithm>
 #include <tuple>

@@ -5,9 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/DocumentSession.h"
-
-namespace tessel::cli {
+namespace tessel {
 
 /// One value that the settings panel can show and change.
 struct PanelItem {
@@ -25,7 +23,4 @@ std::vector<PanelItem> PanelItems();
 /// The item of a display name or a define name, ASCII case ignored.
 std::optional<PanelItem> FindPanelItem(const std::string& name);
 
-/// What the panel shows as the value, and selects in the document; nothing when it finds nothing.
-std::optional<std::string> ReadItem(DocumentSession& session, const PanelItem& item);
-
-}  // namespace tessel::cli
+}  // namespace tessel

@@ -39,7 +39,4 @@ class AnsweredForms : public ModalForms {
   void ShowModal(Form& form) override;
 };
 
-/// Prints a line to standard error, with control characters made harmless.
-void Complain(const std::string& text);
-
 }  // namespace tessel::cli
