@@ -43,14 +43,16 @@ fuzz() {
 }
 
 # The folders differ also in the length of their names, and no cache of the compiler's helps.
+# All but what says when and where it was built, which names the sums of these.
 packages() {
-  local package
+  local first=build/packages-one second=build/packages-another-time file
   step "Building the packages twice"
-  CCACHE_DISABLE=1 scripts/build-packages.sh build/packages-one
-  CCACHE_DISABLE=1 scripts/build-packages.sh build/packages-another-time
-  for package in build/packages-one/*.deb; do
-    cmp "$package" "build/packages-another-time/$(basename "$package")"
-    echo "$(basename "$package"): equal"
+  CCACHE_DISABLE=1 scripts/build-packages.sh "$first"
+  CCACHE_DISABLE=1 scripts/build-packages.sh "$second"
+  diff <(ls "$first") <(ls "$second")
+  for file in "$first"/*.deb "$first"/*.dsc "$first"/*.tar.xz; do
+    cmp "$file" "$second/$(basename "$file")"
+    echo "$(basename "$file"): equal"
   done
 }
 
