@@ -152,6 +152,41 @@ TEST_F(MirrorInStep, LetsTheDocumentAskAgainFromWhereTheModelPainted) {
   ExpectEqualSides();
 }
 
+TEST_F(MirrorInStep, ColoursAPageForAnotherViewAndNoFurther) {
+  model.SetText(std::string(200'000, 'x'));
+  model.Store().Paint(0, 200'000, kDarkRed);
+  document.page = {0, 100};
+  mirror.ColoursNeeded(100);
+  mirror.ColourApart({150'000, 150'100});
+  EXPECT_EQ(document.styledEnd, 100) << "its own view goes on from there";
+  EXPECT_EQ(ShownColours(), (std::vector<ColourRun>{{0, 100, kDarkRed},
+                                                    {100, 149'900, kBlack},
+                                                    {150'000, 100, kDarkRed},
+                                                    {150'100, 49'900, kBlack}}));
+}
+
+TEST_F(MirrorInStep, LeavesWhatIsFarBehindItsPageToTheOtherView) {
+  model.SetText(std::string(200'000, 'x'));
+  document.page = {0, 100};
+  mirror.ShareDocument(true);
+  mirror.ColoursNeeded(150'000);
+  EXPECT_EQ(document.styledEnd, 0);
+  mirror.ColoursNeeded(100);
+  EXPECT_EQ(document.styledEnd, 100);
+  mirror.ShareDocument(false);
+  mirror.ColoursNeeded(150'000);
+  EXPECT_EQ(document.styledEnd, 150'000);
+}
+
+TEST_F(MirrorInStep, TellsFromWhereColoursAreOthers) {
+  model.SetText("abcdef");
+  std::vector<Position> told;
+  const Subscription recoloured =
+      mirror.Recoloured.Connect([&](Position from) { told.push_back(from); });
+  model.Store().Paint(3, 2, kDarkRed);
+  EXPECT_EQ(told, std::vector<Position>{3});
+}
+
 TEST_F(MirrorInStep, IsStaleWhenAParkedModelIsEditedAndLeavesTheDocumentAlone) {
   model.SetText("one");
   Park();

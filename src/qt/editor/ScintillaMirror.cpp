@@ -62,6 +62,7 @@ void ScintillaMirror::Painted(Position at, Position /*length*/) {
 
 void ScintillaMirror::RecolourFrom(Position at) {
   recolourFrom_ = std::min(recolourFrom_.value_or(at), at);
+  Recoloured.Raise(at);
 }
 
 void ScintillaMirror::FollowColours(Position at, Position removed, Position inserted) {
@@ -159,6 +160,7 @@ void ScintillaMirror::SelectionMayHaveMoved() {
 }
 
 void ScintillaMirror::ColoursNeeded(SciPosition end) {
+  if (shared_ && text_.IsFarBehindPage(end)) return;
   if (!state_.Is(kInStep)) {
     recolourFrom_ = 0;  // the two texts differ for the moment: CatchUp makes it ask again
     return;
@@ -170,6 +172,11 @@ void ScintillaMirror::ColoursNeeded(SciPosition end) {
       text_.ColourUpTo(end, model_.Bytes(), colours_);
     }
   });
+}
+
+void ScintillaMirror::ColourApart(SciRange page) {
+  if (!state_.Is(kInStep)) return;
+  Show([&] { text_.ColourApart(page, model_.Bytes(), colours_); });
 }
 
 void ScintillaMirror::AboutToDraw() {

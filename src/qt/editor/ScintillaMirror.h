@@ -5,6 +5,7 @@
 #include <QString>
 #include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "base/Event.h"
@@ -76,10 +77,20 @@ class ScintillaMirror : private TextStoreView {
   /// model's are. The model stays as it is.
   void SetLiveColours(bool live);
   bool LiveColours() const { return colours_.AreLive(); }
+  /// The styles of the text's colours; more may come with each colouring.
+  std::span<const int> StylesInUse() const { return text_.Styles().InUse(); }
   Colour ColourOfStyle(int style) const { return text_.Styles().ColourOf(style); }
   bool SelectionHidden() const { return selectionHidden_; }
   void SetTheme(const EditorTheme& theme) { text_.Styles().SetTheme(theme); }
 
+  // --- Another view that draws the same document, somewhere else
+  /// True: what is wanted far behind the page of the document's own view is the other's affair.
+  void ShareDocument(bool shared) { shared_ = shared; }
+  /// Colours what the other view is about to draw.
+  void ColourApart(SciRange page);
+
+  /// From there on other colours may have to be drawn than before. In the middle of things.
+  Event<Position> Recoloured;
   /// The document's text has changed. In the middle of things: handlers leave both sides alone.
   Event<> TextChanged;
   /// The document was changed by nobody's gesture, maybe in the middle of a painting: no time to
@@ -127,6 +138,7 @@ class ScintillaMirror : private TextStoreView {
   bool gestureTypes_ = false;
   std::optional<RichTextBox::Gesture> undoStep_;
   bool selectionHidden_ = false;
+  bool shared_ = false;
   std::vector<Subscription> subscriptions_;
 };
 

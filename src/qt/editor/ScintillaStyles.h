@@ -4,6 +4,7 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "qt/editor/EditorTheme.h"
@@ -28,6 +29,8 @@ class ScintillaStyles {
   int TwinOf(int style);
   /// The style of text that takes no place on the screen.
   int Hidden();
+  /// All but the hidden one, in the order of their making.
+  std::span<const int> InUse() const { return styles_; }
   Colour ColourOf(int style) const { return colourOfStyle_[static_cast<std::size_t>(style)]; }
   void SetTheme(const EditorTheme& theme);
 

@@ -103,6 +103,16 @@ void ScintillaText::Outdate(Position from) {
   if (start < document_.StyledEnd()) document_.SetStyledEnd(start);
 }
 
+void ScintillaText::ColourApart(SciRange page, std::string_view bytes, DrawnColours& colours) {
+  const SciPosition styled = document_.StyledEnd();
+  ColourRange(page, bytes, colours);
+  document_.SetStyledEnd(styled);
+}
+
+bool ScintillaText::IsFarBehindPage(SciPosition at) const {
+  return at > document_.Page().end + kFar;
+}
+
 void ScintillaText::ColourRange(SciRange range, std::string_view bytes, DrawnColours& colours) {
   const SciPosition start = StartOfCharacterAt(range.start);
   const SciPosition end = range.end;

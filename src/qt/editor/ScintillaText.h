@@ -46,6 +46,12 @@ class ScintillaText {
   /// The colours from there on are others now. Draws nothing.
   void Outdate(Position from);
 
+  /// Colours what another view of the document is about to draw. For the document's own view all
+  /// stays as it is.
+  void ColourApart(SciRange page, std::string_view bytes, DrawnColours& colours);
+  /// The document's own view does not draw so far behind its page.
+  bool IsFarBehindPage(SciPosition at) const;
+
   /// From now on no more than so many bytes of each line are drawn; nothing: all of them.
   void ShowOfLines(std::optional<Position> bytes);
 

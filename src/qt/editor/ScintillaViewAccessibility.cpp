@@ -3,8 +3,7 @@
 #include <Qsci/qsciscintillabase.h>
 
 #include <QAccessibleWidget>
-
-#include "qt/editor/ScintillaView.h"
+#include <set>
 
 namespace tessel {
 namespace {
@@ -14,9 +13,14 @@ using Sci = QsciScintillaBase;
 // Qt tells of an activation before, on some platforms, it admits to it.
 bool readerActive = false;
 
-QAccessibleInterface* PlainInterface(const QString& className, QObject* object) {
+std::set<const QObject*>& Served() {
+  static std::set<const QObject*> widgets;
+  return widgets;
+}
+
+QAccessibleInterface* PlainInterface(const QString& /*className*/, QObject* object) {
   if (readerActive) return nullptr;  // QScintilla's own is asked next
-  if (className != QLatin1String(ScintillaView::staticMetaObject.className())) return nullptr;
+  if (!Served().contains(object)) return nullptr;
   return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::EditableText);
 }
 
@@ -33,6 +37,7 @@ void InstallPlainInterface() {
 ScintillaViewAccessibility::ScintillaViewAccessibility(QsciScintillaBase& widget)
     : widget_(widget) {
   InstallPlainInterface();
+  Served().insert(&widget_);
   QAccessible::installActivationObserver(this);
   readerActive = readerActive || QAccessible::isActive();
   ChooseNotifications(readerActive);
@@ -40,6 +45,7 @@ ScintillaViewAccessibility::ScintillaViewAccessibility(QsciScintillaBase& widget
 
 ScintillaViewAccessibility::~ScintillaViewAccessibility() {
   QAccessible::removeActivationObserver(this);
+  Served().erase(&widget_);
 }
 
 void ScintillaViewAccessibility::accessibilityActiveChanged(bool active) {
