@@ -98,6 +98,21 @@ TEST_F(ScintillaViewPaints, TheSelectionUnlessItIsHidden) {
   EXPECT_GT(PixelsOf(QColor(42, 110, 187)), 100);
 }
 
+TEST_F(ScintillaViewPaints, TheCurrentLineWithoutTheFocusWhereThatIsWanted) {
+  view.setPalette(Light());
+  const QColor line = ThemeOf(Light(), QPalette::Inactive).currentLine;
+  model.SetText("MMMMMMMM");
+  view.clearFocus();
+  EXPECT_EQ(PixelsOf(line), 0);
+  view.ShowCaretAlways(true);
+  EXPECT_GT(PixelsOf(line), 1000);
+  view.setFocus();
+  view.clearFocus();
+  EXPECT_GT(PixelsOf(line), 1000);
+  view.ShowCaretAlways(false);
+  EXPECT_EQ(PixelsOf(line), 0);
+}
+
 TEST_F(ScintillaViewPaints, AMarginThatGrowsWithTheLines) {
   const auto margin = [this] { return view.SendScintilla(Sci::SCI_GETMARGINWIDTHN, 0UL); };
   const long narrow = margin();

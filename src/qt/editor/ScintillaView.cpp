@@ -8,6 +8,7 @@
 #include <QMetaObject>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include "base/RuntimeError.h"
@@ -19,6 +20,9 @@
 
 namespace tessel {
 namespace {
+
+constexpr int kRestingCaretWidth = 4;
+constexpr int kRestingLine = 9;  // among the markers
 
 std::optional<MouseButton> ModelButton(Qt::MouseButton button) {
   switch (button) {
@@ -63,6 +67,7 @@ void ScintillaView::ListenToScintilla() {
   connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this] {
     mirror_.SelectionMayHaveMoved();
     outline_.Follow();
+    FollowRestingCaret();
   });
   connect(this, &QsciScintillaBase::SCN_STYLENEEDED, this,
           [this](int end) { mirror_.ColoursNeeded(end); });
@@ -308,12 +313,56 @@ void ScintillaView::ApplyTheme() {
   const EditorTheme theme = ThemeOfWidget(*this);
   PaintEditor(*this, theme);
   outline_.Paint(theme);
+  SendScintilla(SCI_MARKERSETBACK, static_cast<unsigned long>(kRestingLine), theme.currentLine);
   mirror_.SetTheme(theme);
 }
 
 void ScintillaView::paintEvent(QPaintEvent* event) {
   mirror_.AboutToDraw();
   QsciScintillaBase::paintEvent(event);
+  PaintRestingCaret();
+}
+
+void ScintillaView::ShowCaretAlways(bool always) {
+  caretAlways_ = always;
+  SendScintilla(SCI_MARKERDEFINE, static_cast<unsigned long>(kRestingLine),
+                long{SC_MARK_BACKGROUND});
+  ApplyTheme();
+  MarkRestingLine();
+  viewport()->update();
+}
+
+QRect ScintillaView::RestingCaret() const {
+  const auto height = static_cast<int>(SendScintilla(SCI_TEXTHEIGHT, 0UL));
+  return {CaretPoint() - QPoint(1, 0), QSize(kRestingCaretWidth, height)};
+}
+
+// A line with a hidden selection is no current line for Scintilla.
+void ScintillaView::MarkRestingLine() {
+  if (!caretAlways_ || hasFocus()) {
+    SendScintilla(SCI_MARKERDELETEALL, kRestingLine);
+    return;
+  }
+  const long line = SendScintilla(SCI_LINEFROMPOSITION, SendScintilla(SCI_GETCURRENTPOS));
+  if ((SendScintilla(SCI_MARKERGET, line) & 1L << kRestingLine) != 0) return;
+  SendScintilla(SCI_MARKERDELETEALL, kRestingLine);
+  SendScintilla(SCI_MARKERADD, static_cast<unsigned long>(line), long{kRestingLine});
+}
+
+void ScintillaView::FollowRestingCaret() {
+  if (!caretAlways_ || hasFocus()) return;
+  MarkRestingLine();
+  if (restingCaret_ == RestingCaret()) return;
+  viewport()->update(restingCaret_);
+  viewport()->update(RestingCaret());
+}
+
+void ScintillaView::PaintRestingCaret() {
+  if (!caretAlways_ || hasFocus()) return;
+  restingCaret_ = RestingCaret();
+  QPainter painter(viewport());
+  painter.setPen(ThemeOfWidget(*this).text);
+  painter.drawRect(restingCaret_.adjusted(0, 0, -1, -1));
 }
 
 void ScintillaView::changeEvent(QEvent* event) {
@@ -332,12 +381,14 @@ void ScintillaView::changeEvent(QEvent* event) {
 void ScintillaView::focusInEvent(QFocusEvent* event) {
   QsciScintillaBase::focusInEvent(event);
   ApplyTheme();
+  MarkRestingLine();
   mirror_.FocusChanged();
 }
 
 void ScintillaView::focusOutEvent(QFocusEvent* event) {
   QsciScintillaBase::focusOutEvent(event);
   ApplyTheme();
+  MarkRestingLine();
   mirror_.FocusChanged();
 }
 

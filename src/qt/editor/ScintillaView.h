@@ -60,6 +60,11 @@ class ScintillaView : public QsciScintillaBase {
   /// An empty family and the size 0 are the desktop's.
   void SetTextFont(const QString& family, int points);
 
+  /// True: the current line and a hollow caret are drawn also while the focus is elsewhere.
+  void ShowCaretAlways(bool always);
+  /// So many pixels between the text and the scroll bar are left to others.
+  void LeaveAtRight(int pixels) { setViewportMargins(0, 0, pixels, 0); }
+
   /// From now on the Return key begins a line as the one before begins.
   void KeepIndentation(bool keep) { keepsIndentation_ = keep; }
   /// Replaces a piece of the text as a person does: one edit, one undo step.
@@ -110,6 +115,10 @@ class ScintillaView : public QsciScintillaBase {
   void ShowMenuAtCaret();
   void PasteFromMouse(QPoint at);
   QPoint CaretPoint() const;
+  QRect RestingCaret() const;
+  void FollowRestingCaret();
+  void MarkRestingLine();
+  void PaintRestingCaret();
   /// Nothing in the margin.
   std::optional<Position> OffsetAt(QPoint point) const;
 
@@ -124,6 +133,8 @@ class ScintillaView : public QsciScintillaBase {
   QPoint popupPosition_;
   std::optional<Reading> reading_;
   bool keepsIndentation_ = false;
+  bool caretAlways_ = false;
+  QRect restingCaret_;               // where it was drawn last
   PreeditLabel* preedit_ = nullptr;  // made for the first input method
 };
 
