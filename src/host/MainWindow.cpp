@@ -26,6 +26,7 @@
 #include "host/panel/ReplacementOutline.h"
 #include "host/preferences/PreferencesDialog.h"
 #include "host/script/ScriptTools.h"
+#include "host/second/SecondView.h"
 #include "host/status/DocumentStatus.h"
 #include "host/view/EditorLooks.h"
 #include "host/view/LiveColouring.h"
@@ -117,7 +118,9 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   column->addWidget(new ChangeNotice(*control_, guard_, messages_, keepText, centre));
   column->addWidget(new ReadingNotice(*control_, centre));
   column->addWidget(new ConversionNotice(control_->Tessel(), centre));
-  column->addWidget(control_, 1);
+  splitter_ = new QSplitter(Qt::Horizontal, centre);
+  splitter_->addWidget(control_);
+  column->addWidget(splitter_, 1);
   find_ = new FindBar(*control_, centre);
   column->addWidget(find_);
   setCentralWidget(centre);
@@ -156,6 +159,8 @@ void MainWindow::BuildMenu() {
   connect(tabs, &TabMenu::closeOthersWanted, documents, &DocumentMenus::CloseOthers);
   new EditorLooks(*control_, *menu_, preferences_);
   new LiveColouring(*control_, *menu_, preferences_);
+  auto* second = new SecondView(*control_, *splitter_, *menu_, preferences_);
+  connect(second, &SecondView::said, this, &MainWindow::ShowNotice);
   new WindowKeys(*this);
   OfferFileCommands();
   OfferTextCommands();

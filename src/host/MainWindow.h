@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSplitter>
 #include <QTimer>
 #include <string>
 #include <string_view>
@@ -100,6 +101,7 @@ class MainWindow : public QMainWindow {
   SettingsStore& settings_;
   MainMenu* menu_ = nullptr;
   FindBar* find_ = nullptr;
+  QSplitter* splitter_ = nullptr;
   ScriptTools* script_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;

@@ -38,11 +38,13 @@ EditorLooks::EditorLooks(TesselWidget& control, MainMenu& menu, Preferences& pre
       if (toggle.wish == wish) menu.Action(toggle.command).setChecked(preferences_.Wants(wish));
     }
     const bool font = wish == Wish::kFont || wish == Wish::kFontSize;
-    editors_.Do([this, font](ScintillaView& view) { font ? ApplyFont(view) : Apply(view); });
+    editors_.Do([this, font](ScintillaView& view) {
+      font ? ApplyFont(view) : ApplyLooks(view, preferences_);
+    });
   });
   editors_.Always([this](ScintillaView& view) {
     ApplyFont(view);
-    Apply(view);
+    ApplyLooks(view, preferences_);
     // By the wheel, in one of them.
     connect(&view, &QsciScintillaBase::SCN_ZOOM, this,
             [this, &view] { Zoom(static_cast<int>(view.SendScintilla(Sci::SCI_GETZOOM))); });
@@ -59,23 +61,23 @@ void EditorLooks::ApplyFont(ScintillaView& view) const {
   view.SetTextFont(family, points);
 }
 
-void EditorLooks::Apply(ScintillaView& view) const {
-  const auto zoom = preferences_.Number(Wish::kZoom);
+void ApplyLooks(QsciScintillaBase& view, const Preferences& preferences) {
+  const auto zoom = preferences.Number(Wish::kZoom);
   if (view.SendScintilla(Sci::SCI_GETZOOM) != zoom) {
     view.SendScintilla(Sci::SCI_SETZOOM, static_cast<long>(zoom));
   }
-  view.SendScintilla(Sci::SCI_SETWRAPMODE, preferences_.Wants(Wish::kWordWrap)
+  view.SendScintilla(Sci::SCI_SETWRAPMODE, preferences.Wants(Wish::kWordWrap)
                                                ? long{Sci::SC_WRAP_WORD}
                                                : long{Sci::SC_WRAP_NONE});
-  view.SendScintilla(Sci::SCI_SETVIEWWS, preferences_.Wants(Wish::kShowBlanks)
+  view.SendScintilla(Sci::SCI_SETVIEWWS, preferences.Wants(Wish::kShowBlanks)
                                              ? long{Sci::SCWS_VISIBLEALWAYS}
                                              : long{Sci::SCWS_INVISIBLE});
   view.SendScintilla(Sci::SCI_SETTABWIDTH, static_cast<unsigned long>(std::clamp(
-                                               preferences_.Number(Wish::kTabWidth), 1, 16)));
+                                               preferences.Number(Wish::kTabWidth), 1, 16)));
   view.SendScintilla(Sci::SCI_SETEDGECOLUMN, static_cast<long>(kRulerColumn));
   view.SendScintilla(Sci::SCI_SETEDGECOLOUR, view.palette().color(QPalette::Mid));
-  view.SendScintilla(Sci::SCI_SETEDGEMODE, preferences_.Wants(Wish::kRuler) ? long{Sci::EDGE_LINE}
-                                                                            : long{Sci::EDGE_NONE});
+  view.SendScintilla(Sci::SCI_SETEDGEMODE,
+                     preferences.Wants(Wish::kRuler) ? long{Sci::EDGE_LINE} : long{Sci::EDGE_NONE});
 }
 
 }  // namespace tessel

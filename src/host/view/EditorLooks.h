@@ -18,12 +18,14 @@ class EditorLooks : public QObject {
 
  private:
   void Zoom(int points);
-  void Apply(ScintillaView& view) const;
   void ApplyFont(ScintillaView& view) const;
 
   Preferences& preferences_;
   EveryEditor editors_;
   Subscription changed_;
 };
+
+/// Zoom, word wrap, visible blanks, tab width and ruler.
+void ApplyLooks(QsciScintillaBase& view, const Preferences& preferences);
 
 }  // namespace tessel
