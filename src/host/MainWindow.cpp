@@ -30,6 +30,7 @@
 #include "host/status/DocumentStatus.h"
 #include "host/view/EditorLooks.h"
 #include "host/view/LiveColouring.h"
+#include "host/view/ScrollMarks.h"
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
@@ -161,6 +162,7 @@ void MainWindow::BuildMenu() {
   new LiveColouring(*control_, *menu_, preferences_);
   auto* second = new SecondView(*control_, *splitter_, *menu_, preferences_);
   connect(second, &SecondView::said, this, &MainWindow::ShowNotice);
+  new ScrollMarks(*control_, *menu_, preferences_, *find_);
   new WindowKeys(*this);
   OfferFileCommands();
   OfferTextCommands();

@@ -30,6 +30,9 @@ class FindBar : public QFrame {
   /// `control` outlives it.
   FindBar(TesselWidget& control, QWidget* parent);
 
+  /// What it has found, for those who show it elsewhere.
+  const DocumentSearch& Search() const { return search_; }
+
  public slots:
   /// Shows the bar for a search, with the selection as what is looked for when that lies in one
   /// line.

@@ -40,6 +40,7 @@ enum class WindowCommand {
   kWordWrap,
   kShowBlanks,
   kRuler,
+  kScrollMarks,
   kSecondView,
   kButtonWords,
   // Window

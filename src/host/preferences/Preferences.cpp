@@ -32,6 +32,7 @@ constexpr WishRow kWishes[] = {
     {Wish::kTabWidth, "TabWidth", "8"},
     {Wish::kFont, "Font", ""},
     {Wish::kFontSize, "FontSize", "0"},
+    {Wish::kScrollMarks, "ScrollMarks", "1"},
     {Wish::kTheme, "Theme", "0"},
 };
 

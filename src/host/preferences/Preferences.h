@@ -22,6 +22,7 @@ enum class Wish {
   kTabWidth,     ///< in characters
   kFont,         ///< a family; empty: the desktop's fixed font
   kFontSize,     ///< in points; 0: the desktop's
+  kScrollMarks,  ///< a strip at the scroll bar shows matches and changed lines
   kTheme,        ///< 0 as the desktop, 1 light, 2 dark
 };
 
