@@ -45,6 +45,7 @@ EditorLooks::EditorLooks(TesselWidget& control, MainMenu& menu, Preferences& pre
   editors_.Always([this](ScintillaView& view) {
     ApplyFont(view);
     ApplyLooks(view, preferences_);
+    view.ShowCaretAlways(true);
     // By the wheel, in one of them.
     connect(&view, &QsciScintillaBase::SCN_ZOOM, this,
             [this, &view] { Zoom(static_cast<int>(view.SendScintilla(Sci::SCI_GETZOOM))); });
