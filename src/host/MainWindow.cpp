@@ -264,6 +264,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   const OpenDocuments open = OpenDocumentsOf(control_->Tessel().OpenDocuments());
   if (!control_->Tessel().CloseAll()) {
     event->ignore();
+  places_.KeepAll();
     return;
   }
   session_.stop();
@@ -352,6 +353,7 @@ void MainWindow::KeepEverything() {
   KeepTexts();
   RememberSession();
 }
+  places_.KeepAll();
 
 void MainWindow::StartSession() {
   if (preferences_.Wants(Wish::kReopen)) {

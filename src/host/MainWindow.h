@@ -18,6 +18,7 @@
 #include "host/panel/PanelGuard.h"
 #include "host/panel/RandomizeEnd.h"
 #include "host/preferences/Preferences.h"
+#include "host/view/KeptPlaces.h"
 #include "qt/TesselWidget.h"
 #include "safekeeping/BackupStore.h"
 #include "safekeeping/DiskState.h"
@@ -96,12 +97,13 @@ class MainWindow : public QMainWindow {
   OrphanedText orphans_{control_->Tessel()};
   RandomizeEnd randomizeEnd_{control_->Tessel()};
   Histories histories_{control_->Tessel()};
+  KeptPlaces places_{*control_, preferences_};
   GuardedFiles& files_;
   MessageBox& messages_;
   SettingsStore& settings_;
+  QSplitter* splitter_ = nullptr;
   MainMenu* menu_ = nullptr;
   FindBar* find_ = nullptr;
-  QSplitter* splitter_ = nullptr;
   ScriptTools* script_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;

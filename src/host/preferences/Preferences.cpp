@@ -33,6 +33,7 @@ constexpr WishRow kWishes[] = {
     {Wish::kFont, "Font", ""},
     {Wish::kFontSize, "FontSize", "0"},
     {Wish::kScrollMarks, "ScrollMarks", "1"},
+    {Wish::kPlaces, "Places", ""},
     {Wish::kTheme, "Theme", "0"},
 };
 

@@ -23,6 +23,7 @@ enum class Wish {
   kFont,         ///< a family; empty: the desktop's fixed font
   kFontSize,     ///< in points; 0: the desktop's
   kScrollMarks,  ///< a strip at the scroll bar shows matches and changed lines
+  kPlaces,       ///< where files were left; no wish of its own, but kept like one
   kTheme,        ///< 0 as the desktop, 1 light, 2 dark
 };
 
