@@ -155,14 +155,16 @@ void MainWindow::OutlineReplacements() {
 
 void MainWindow::BuildMenu() {
   menu_ = new MainMenu(*this, control_->Tessel());
-  auto* documents = new DocumentMenus(*menu_, control_->Tessel());
+  const QWidget* toolbar = control_->WidgetFor(control_->Tessel().Controls().tbToolBar);
+  auto* documents =
+      new DocumentMenus(*menu_, control_->Tessel(), *toolbar->findChild<QWidget*>("FileNew"));
   auto* tabs = new TabMenu(*control_, this);
   connect(tabs, &TabMenu::closeOthersWanted, documents, &DocumentMenus::CloseOthers);
   new EditorLooks(*control_, *menu_, preferences_);
   new LiveColouring(*control_, *menu_, preferences_);
+  new ScrollMarks(*control_, *menu_, preferences_, *find_);
   auto* second = new SecondView(*control_, *splitter_, *menu_, preferences_);
   connect(second, &SecondView::said, this, &MainWindow::ShowNotice);
-  new ScrollMarks(*control_, *menu_, preferences_, *find_);
   new WindowKeys(*this);
   OfferFileCommands();
   OfferTextCommands();
@@ -262,9 +264,9 @@ void MainWindow::showEvent(QShowEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   const OpenDocuments open = OpenDocumentsOf(control_->Tessel().OpenDocuments());
+  places_.KeepAll();
   if (!control_->Tessel().CloseAll()) {
     event->ignore();
-  places_.KeepAll();
     return;
   }
   session_.stop();
@@ -351,9 +353,9 @@ bool MainWindow::KeepTexts() { return keeper_ == nullptr || keeper_->KeepNow(); 
 
 void MainWindow::KeepEverything() {
   KeepTexts();
+  places_.KeepAll();
   RememberSession();
 }
-  places_.KeepAll();
 
 void MainWindow::StartSession() {
   if (preferences_.Wants(Wish::kReopen)) {

@@ -3,6 +3,8 @@
 #include <QMenuBar>
 #include <QTabBar>
 #include <QTextBrowser>
+#include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <map>
 #include <set>
@@ -173,6 +175,25 @@ TEST_F(Menus, OfferTemplatesAndRecentFilesByTheirWholePaths) {
   }
   EXPECT_EQ(names.size(), 6);
   EXPECT_EQ(names.first(), "User.con: 1.3D");
+}
+
+TEST_F(Menus, OpenTheListOfNewUnderItsButton) {
+  Ctrl(Qt::Key_N);
+  QMenu& list = *Run().MenuItem("&New")->menu();
+  ASSERT_TRUE(list.isVisible());
+  const auto* button = Run().window->findChild<QToolButton*>("FileNew");
+  EXPECT_EQ(list.pos(), button->mapToGlobal(QPoint(0, button->height())));
+  list.close();
+}
+
+TEST_F(Menus, OpenTheListOfNewUnderTheMenuWhereTheToolbarIsHidden) {
+  Run().window->findChild<QToolBar*>()->hide();
+  Ctrl(Qt::Key_N);
+  QMenu& list = *Run().MenuItem("&New")->menu();
+  ASSERT_TRUE(list.isVisible());
+  const QMenuBar* bar = Run().window->menuBar();
+  EXPECT_EQ(list.pos(), bar->mapToGlobal(bar->actionGeometry(bar->actions().first()).bottomLeft()));
+  list.close();
 }
 
 TEST_F(Menus, KeepWhatTheToolbarsTwoStateButtonsSay) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 
 #include "documents/RecentFiles.h"
 #include "qt/base/QtText.h"
@@ -13,8 +14,12 @@ constexpr int kDocumentsWithKeys = 9;
 
 }  // namespace
 
-DocumentMenus::DocumentMenus(MainMenu& menu, ucTessel& tessel)
-    : QObject(&menu), menu_(menu), tessel_(tessel), lastUsed_(tessel.OpenDocuments()) {
+DocumentMenus::DocumentMenus(MainMenu& menu, ucTessel& tessel, const QWidget& newButton)
+    : QObject(&menu),
+      menu_(menu),
+      tessel_(tessel),
+      newButton_(newButton),
+      lastUsed_(tessel.OpenDocuments()) {
   using enum WindowCommand;
   for (const WindowCommand command : {kNew, kRecent}) menu_.Action(command).setEnabled(true);
   connect(&menu_.SubMenu(kNew), &QMenu::aboutToShow, this, &DocumentMenus::FillNew);
@@ -25,11 +30,8 @@ DocumentMenus::DocumentMenus(MainMenu& menu, ucTessel& tessel)
     if (const auto slot = lastUsed_.StepBack()) Select(Index(*slot));
   });
   menu_.On(kCloseOthers, [this] { CloseOthers(); });
-  connect(&menu_.Action(kNew), &QAction::triggered, this, [this] {
-    QWidget* button = QApplication::activeWindow();
-    QMenu& list = menu_.SubMenu(kNew);
-    if (button != nullptr) list.popup(button->mapToGlobal(QPoint(24, 48)));
-  });
+  connect(&menu_.Action(kNew), &QAction::triggered, this,
+          [this] { menu_.SubMenu(kNew).popup(PlaceOfNew()); });
   qApp->installEventFilter(this);
   QMenu& window = menu_.Of(Menu::kWindow);
   window.addSeparator();
@@ -40,6 +42,12 @@ DocumentMenus::DocumentMenus(MainMenu& menu, ucTessel& tessel)
     connect(action, &QAction::triggered, this, [this, i] { Select(i); });
     static_cast<QWidget*>(menu_.parent())->addAction(action);
   }
+}
+
+QPoint DocumentMenus::PlaceOfNew() const {
+  if (newButton_.isVisible()) return newButton_.mapToGlobal(QPoint(0, newButton_.height()));
+  const QMenuBar* bar = static_cast<QMainWindow*>(menu_.parent())->menuBar();
+  return bar->mapToGlobal(bar->actionGeometry(menu_.Of(Menu::kFile).menuAction()).bottomLeft());
 }
 
 // As long as Ctrl is held, each Ctrl+Tab goes to an older document.

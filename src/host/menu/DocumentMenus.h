@@ -12,8 +12,9 @@ class DocumentMenus : public QObject {
   Q_OBJECT
 
  public:
-  /// Both outlive this.
-  DocumentMenus(MainMenu& menu, ucTessel& tessel);
+  /// Ctrl+N opens its list under `newButton` while that can be seen, else under the menu. All
+  /// outlive this.
+  DocumentMenus(MainMenu& menu, ucTessel& tessel, const QWidget& newButton);
 
   /// Closes all documents but the one in front; asks for those that are modified, and stops at the
   /// first that is kept.
@@ -22,6 +23,7 @@ class DocumentMenus : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  QPoint PlaceOfNew() const;
   void FillNew();
   void FillRecent();
   void FillWindow();
@@ -30,6 +32,7 @@ class DocumentMenus : public QObject {
 
   MainMenu& menu_;
   ucTessel& tessel_;
+  const QWidget& newButton_;
   LastUsed lastUsed_;
   QList<QAction*> listed_;
 };
