@@ -60,6 +60,9 @@ SecondText::SecondText(std::function<bool()> busy, QWidget* parent)
   setAttribute(Qt::WA_InputMethodEnabled, false);
   ApplyTheme();
   connect(this, &QsciScintillaBase::SCN_ZOOM, this, [this] { lineNumbers_.Fit(); });
+  recolour_.setSingleShot(true);
+  recolour_.setInterval(0);
+  connect(&recolour_, &QTimer::timeout, this, &SecondText::Recolour);
   catchUp_.setSingleShot(true);
   connect(&catchUp_, &QTimer::timeout, this, &SecondText::CatchUp);
 }
@@ -86,8 +89,8 @@ void SecondText::Follow(ScintillaView& first) {
   const auto catchUp = [this] {
     if (first_->mirror().State() == MirrorState::kStale) catchUp_.start(0);
   };
-  // Scintilla itself draws what is edited; colours may change elsewhere.
-  const auto recoloured = [this](Position) { viewport()->update(); };
+  // Scintilla itself draws what is edited; other colours of the page come a moment later.
+  const auto recoloured = [this](Position) { recolour_.start(); };
   auto& editor = const_cast<RichTextBox&>(mirror.Model());
   subscriptions_ = {mirror.Recoloured.Connect(recoloured),
                     mirror.TextChanged.Connect([this] { lineNumbers_.FollowLines(); }),
@@ -137,11 +140,14 @@ void SecondText::PaintNewStyles() {
 }
 
 void SecondText::paintEvent(QPaintEvent* event) {
-  if (first_ != nullptr) {
-    first_->mirror().ColourApart(document_.Page());
-    PaintNewStyles();
-  }
+  Recolour();
   QsciScintillaBase::paintEvent(event);
+}
+
+void SecondText::Recolour() {
+  if (first_ == nullptr) return;
+  first_->mirror().ColourApart(document_.Page());
+  PaintNewStyles();
 }
 
 void SecondText::changeEvent(QEvent* event) {

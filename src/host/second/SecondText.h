@@ -63,6 +63,8 @@ class SecondText : public QsciScintillaBase {
   void Follow(ScintillaView& first);
   void CatchUp();
   void ApplyTheme();
+  /// What has other colours is drawn again.
+  void Recolour();
   void PaintNewStyles();
   void Run(EditorCommand command);
 
@@ -72,6 +74,7 @@ class SecondText : public QsciScintillaBase {
   WidgetDocument document_;
   LineNumberMargin lineNumbers_;
   QTimer catchUp_;
+  QTimer recolour_;
   std::size_t stylesPainted_ = 0;
   std::vector<Subscription> subscriptions_;
 };
