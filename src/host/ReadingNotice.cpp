@@ -24,9 +24,10 @@ ScintillaView& ReadingNotice::ViewOf(const Document& document) const {
 }
 
 void ReadingNotice::Look(const Document& document) {
-  const Position longest = LongestLine(document.Editor().Bytes());
+  const std::string_view text = document.Editor().Bytes();
   std::optional<Reading> reading;
-  if (longest > kLongestEdited) {
+  if (HasLongLine(text, kLongestEdited + 1)) {
+    const Position longest = LongestLine(text);
     const QString sentence = tr("%1 is open for reading: a line of %2 bytes is too long for keys.");
     reading = {sentence.arg(ShownName(document.Name()), QLocale().toString(longest)), kShown};
   }

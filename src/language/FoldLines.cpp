@@ -15,9 +15,10 @@ std::vector<Position> LineBegins(const Script& script) {
   std::vector<Position> begins;
   begins.reserve(static_cast<std::size_t>(script.LineCount()));
   begins.push_back(0);
-  for (auto at = text.find_first_of("\r\n"); at != text.npos; at = text.find_first_of("\r\n", at)) {
-    at += text.substr(at, 2) == "\r\n" ? 2 : 1;
-    begins.push_back(static_cast<Position>(at));
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '\r' && text[i] != '\n') continue;
+    if (text.substr(i, 2) == "\r\n") ++i;
+    begins.push_back(static_cast<Position>(i + 1));
   }
   return begins;
 }

@@ -45,6 +45,27 @@ std::size_t LongestRun(const std::string& styles) {
   return longest;
 }
 
+RC_GTEST_PROP(HasLongLine, SaysWhatTheLongestLineSays, (unsigned char most)) {
+  const auto letters = rc::gen::element('a', 'b', 'c', 'd', 'e', 'f', '\r', '\n');
+  const auto text = *rc::gen::container<std::string>(letters);
+  const Position length = most % 9 + 1;
+  RC_ASSERT(HasLongLine(text, length) == (LongestLine(text) >= length));
+}
+
+TEST(Utf8OfBytes, TakesEachByteOfAMixedText) {
+  for (std::size_t length = 0; length < 40; ++length) {
+    for (std::size_t other = 0; other <= length; ++other) {
+      std::string bytes(length, 'a');
+      std::string utf8 = bytes;
+      if (other < length) {
+        bytes[other] = '\xE9';
+        utf8.replace(other, 1, "\u00E9");
+      }
+      EXPECT_EQ(Utf8OfBytes(bytes), utf8);
+    }
+  }
+}
+
 TEST(LongestLine, CountsBytesBetweenBreaksOfAnyKind) {
   EXPECT_EQ(LongestLine(""), 0);
   EXPECT_EQ(LongestLine("abc"), 3);

@@ -90,9 +90,9 @@ TEST(LineEdits, BetweenTextsOfAsManyLinesAreFoundLineByLineWhereThereAreVeryMany
 TEST(LineEdits, AreNotSoughtForLongInTextsThatRepeatThemselves) {
   std::string before;
   std::string after;
-  for (int i = 0; i < 400'000; ++i) {
+  for (int i = 0; i < 1'200'000; ++i) {
     before += "same\n";
-    after += i % 400 == 0 ? "other\nsame\n" : "same\n";
+    after += i % 800 == 0 ? "other\nsame\n" : "same\n";
   }
   after += "end\n";
   EXPECT_FALSE(LineEditsBetween(LinesOf(before), LinesOf(after)).fewest);

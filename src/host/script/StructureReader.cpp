@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kStatementsAtOnce = 500;
 constexpr int kPieceMilliseconds = 4;
+constexpr int kSoonMilliseconds = 50;  // once the document has been drawn
 
 }  // namespace
 
@@ -19,15 +20,15 @@ StructureReader::StructureReader(DocumentList& documents, OpenScripts& scripts, 
         if (walk_ && slot == slot_) walk_.reset();
         if (slot == documents_.Current().Place()) StartIn(kPauseMilliseconds);
       }),
-      documents_.Shown.Connect([this](const Document&) { StartIn(0); }),
-      documents_.Loaded.Connect([this](const Document&) { StartIn(0); }),
+      documents_.Shown.Connect([this](const Document&) { StartIn(kSoonMilliseconds); }),
+      documents_.Loaded.Connect([this](const Document&) { StartIn(kSoonMilliseconds); }),
   };
 }
 
 void StructureReader::SetWish(const QObject* by, Wish wish) {
   if (wish != Wish::kNothing) {
     wishes_[by] = wish;
-    StartIn(0);
+    StartIn(kSoonMilliseconds);
     return;
   }
   wishes_.erase(by);

@@ -4,6 +4,8 @@
 #include <QMimeData>
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <iterator>
 
 #include "base/RuntimeError.h"
@@ -32,6 +34,17 @@ const Utf8Map& Utf8() {
 }
 
 bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
+/// How many bytes in front are ASCII; eight at a time, for a CON file is little else.
+std::size_t AsciiInFrontOf(std::string_view bytes) {
+  std::size_t count = 0;
+  for (std::uint64_t eight; count + sizeof eight <= bytes.size(); count += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + count, sizeof eight);
+    if ((eight & 0x8080808080808080U) != 0) break;
+  }
+  while (count < bytes.size() && IsAscii(bytes[count])) ++count;
+  return count;
+}
+
 bool ContinuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 }  // namespace
@@ -62,12 +75,12 @@ QString RefusalOf(const QString& text) {
 std::string Utf8OfBytes(std::string_view bytes) {
   std::string utf8;
   utf8.reserve(bytes.size());
-  for (const char c : bytes) {
-    if (IsAscii(c)) {
-      utf8 += c;
-    } else {
-      utf8 += Utf8().of[static_cast<unsigned char>(c)];
-    }
+  while (!bytes.empty()) {
+    const std::size_t ascii = AsciiInFrontOf(bytes);
+    utf8.append(bytes, 0, ascii);
+    if (ascii == bytes.size()) break;
+    utf8 += Utf8().of[static_cast<unsigned char>(bytes[ascii])];
+    bytes.remove_prefix(ascii + 1);
   }
   return utf8;
 }

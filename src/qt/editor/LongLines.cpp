@@ -37,6 +37,19 @@ void PartLine(std::string_view line, const std::array<char, 256>& twins, char* s
 
 }  // namespace
 
+bool HasLongLine(std::string_view text, Position length) {
+  const auto wanted = static_cast<std::size_t>(length);
+  // Backwards from where a line of that length would end, the first break is where the next begins.
+  for (std::size_t begin = 0; begin + wanted <= text.size();) {
+    const auto last = text.rend() - static_cast<Position>(begin + wanted);
+    const auto first = text.rend() - static_cast<Position>(begin);
+    const auto lastBreak = std::find_if(last, first, IsBreak);
+    if (lastBreak == first) return true;
+    begin = static_cast<std::size_t>(text.rend() - lastBreak);
+  }
+  return false;
+}
+
 Position LongestLine(std::string_view text) {
   std::size_t longest = 0;
   ForEachLine(

@@ -12,6 +12,10 @@ namespace tessel {
 /// From this length on, in bytes, a line is parted for Scintilla.
 inline constexpr Position kLongLine = 1'000;
 
+/// Whether some line has that many bytes, which are more than none, without its break. Looks at one
+/// byte of many where all lines are short.
+bool HasLongLine(std::string_view text, Position length);
+
 /// The length of the longest line in bytes, without its break. CR, LF and CR LF each break a line.
 Position LongestLine(std::string_view text);
 

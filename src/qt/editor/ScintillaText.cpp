@@ -129,8 +129,9 @@ void ScintillaText::ColourRange(SciRange range, std::string_view bytes, DrawnCol
     return styleOfIndex[static_cast<unsigned char>(index)];
   });
   const auto coloured = bytes.substr(static_cast<std::size_t>(first), styles.size());
-  if (LongestLine(coloured) >= kLongLine)
+  if (HasLongLine(coloured, kLongLine)) {
     PartLongLines(coloured, TwinsOf({styleOfIndex.data(), palette.size()}), styles);
+  }
   if (shownOfLines_) HideTails(bytes, first, styles);
   if (length != end - start) styles = OnePerByte(styles, Utf8(start, end - start));
   document_.SetStyles(start, styles);
