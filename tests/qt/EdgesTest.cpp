@@ -11,15 +11,12 @@
 #include <QSpinBox>
 #include <memory>
 
-#include "qt/editor/EditorTheme.h"
+#include "qt/looks/Contrast.h"
 #include "qt/looks/TesselStyle.h"
 #include "qt/looks/Theme.h"
 
 namespace tessel::test {
 namespace {
-
-/// What WCAG 2.1 asks of the parts of a user interface.
-constexpr double kSeenContrast = 3;
 
 class Edges : public testing::TestWithParam<Brightness> {
  protected:

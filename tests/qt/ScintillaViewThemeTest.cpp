@@ -3,6 +3,7 @@
 
 #include "qt/ScintillaViewFixture.h"
 #include "qt/editor/EditorTheme.h"
+#include "qt/looks/Contrast.h"
 
 namespace tessel {
 namespace {

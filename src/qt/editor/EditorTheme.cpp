@@ -3,17 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qt/looks/Contrast.h"
+
 namespace tessel {
 namespace {
-
-double LinearOf(double channel) {
-  return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double LuminanceOf(const QColor& colour) {
-  return 0.2126 * LinearOf(colour.redF()) + 0.7152 * LinearOf(colour.greenF()) +
-         0.0722 * LinearOf(colour.blueF());
-}
 
 QColor Mixed(const QColor& a, const QColor& b, double shareOfB) {
   const auto mix = [shareOfB](int x, int y) {
@@ -37,11 +30,6 @@ QColor ReadableOn(const QColor& colour, const QColor& background, const QColor& 
 }
 
 }  // namespace
-
-double ContrastOf(const QColor& a, const QColor& b) {
-  const auto [dark, light] = std::minmax({LuminanceOf(a), LuminanceOf(b)});
-  return (light + 0.05) / (dark + 0.05);
-}
 
 QColor EditorTheme::PaintOf(Colour colour) const {
   if (colour == kBlack) return text;

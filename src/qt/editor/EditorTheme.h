@@ -8,12 +8,6 @@
 
 namespace tessel {
 
-/// The contrast that text of normal size needs (WCAG 2.1, level AA).
-inline constexpr double kReadableContrast = 4.5;
-
-/// The WCAG contrast of two opaque colours, 1 to 21.
-double ContrastOf(const QColor& a, const QColor& b);
-
 /// The editor's paints, taken from a palette.
 struct EditorTheme {
   QColor background;
