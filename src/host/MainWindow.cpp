@@ -34,7 +34,7 @@
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
-#include "qt/looks/Theme.h"
+#include "qt/views/ComboBoxView.h"
 #include "qt/views/ToolbarView.h"
 #include "services/Paths.h"
 
@@ -194,7 +194,14 @@ void MainWindow::OfferTextCommands() {
   for (QAction* action : script_->findChildren<QAction*>()) {
     menu_->Of(MenuOfScriptCommand(action->objectName())).addAction(action);
   }
+  ShowTitlesOfLevels();
   connect(qApp, &QApplication::focusChanged, this, [this] { histories_.EndValue(); });
+}
+
+void MainWindow::ShowTitlesOfLevels() {
+  auto* levels =
+      qobject_cast<ComboBoxView*>(control_->WidgetFor(control_->Tessel().Controls().cboEpisode));
+  levels->ShowNotes([this] { return script_->TitlesOfListedLevels(); });
 }
 
 void MainWindow::OfferPreferences() {

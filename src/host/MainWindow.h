@@ -81,6 +81,7 @@ class MainWindow : public QMainWindow {
   void OfferTextCommands();
   void OfferPreferences();
   void OfferHelp();
+  void ShowTitlesOfLevels();
   void BuildStatusBar();
   void ShowBackups();
   bool KeepAsBackup(const std::string& path, std::string_view text);

@@ -2,6 +2,8 @@
 
 #include <QAction>
 
+#include "host/script/LevelTitles.h"
+#include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
 
 namespace tessel {
@@ -87,6 +89,17 @@ void ScriptTools::AddPreference(QMainWindow& window, const char* name, const QSt
 
 void ScriptTools::Say(const QString& sentence) {
   if (!sentence.isEmpty()) emit said(sentence);
+}
+
+QStringList ScriptTools::TitlesOfListedLevels() {
+  const Slot current = control_.Tessel().OpenDocuments().Current().Place();
+  QStringList titles;
+  if (!scripts_.Has(current)) return titles;
+  const auto& entries = control_.Tessel().Controls().cboEpisode.List();
+  for (const std::string& title : TitlesOfLevels(scripts_.Of(current), entries)) {
+    titles += ShownText(title);
+  }
+  return titles;
 }
 
 void ScriptTools::ToggleOutline() {

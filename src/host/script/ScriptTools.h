@@ -31,6 +31,9 @@ class ScriptTools : public QObject {
   /// As the user left it.
   void RestoreLook() { outline_.RestoreLook(); }
 
+  /// The titles of the levels that the list of levels has, by the document in front.
+  QStringList TitlesOfListedLevels();
+
  public slots:
   void GoToDefinition() { Say(navigator_.GoToDefinition()); }
   void GoBack() { navigator_.GoBack(); }

@@ -1,25 +1,63 @@
 #include "qt/views/ComboBoxView.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
+#include <QPainter>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
+#include <algorithm>
 
 #include "base/ScopeGuard.h"
 #include "qt/base/ControlView.h"
 #include "qt/base/QtText.h"
+#include "qt/looks/Theme.h"
 #include "qt/views/ByteValidator.h"
 
 namespace tessel {
 namespace {
 
 constexpr int kMostRowsDropped = 12;
+constexpr int kNoteRole = Qt::UserRole + 1;
+constexpr int kGapBeforeNote = 14;
+
+/// Rows with their notes in a column of its own. The toolkit's own delegate draws lower rows.
+class RowsWithNotes : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  int noteColumn = 0;  // in pixels
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    const QString note = index.data(kNoteRole).toString();
+    if (note.isEmpty()) return size;
+    const int noteWidth = option.fontMetrics.horizontalAdvance(note) + kGapBeforeNote;
+    return {noteColumn + noteWidth, size.height()};
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    const QString note = index.data(kNoteRole).toString();
+    if (note.isEmpty()) return;
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->setPen(selected ? option.palette.color(QPalette::HighlightedText)
+                             : Theme(option.palette).QuietText());
+    const QRect room = option.rect.adjusted(noteColumn, 0, -4, 0);
+    painter->drawText(room, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                      option.fontMetrics.elidedText(note, Qt::ElideRight, room.width()));
+    painter->restore();
+  }
+};
 
 }  // namespace
 
 ComboBoxView::ComboBoxView(ComboBox& model, QWidget* parent) : QComboBox(parent), model_(model) {
   setMaxVisibleItems(kMostRowsDropped);
-  setItemDelegate(new QStyledItemDelegate(this));  // the toolkit's own draws lower rows
+  setItemDelegate(new RowsWithNotes(this));
   if (model_.Editable()) MakeEditable();
   connect(this, &QComboBox::activated, this, [this](int entry) { model_.Pick(entry); });
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
@@ -57,6 +95,24 @@ void ComboBoxView::Typed(const QString& text) {
 
 // Scrolling the panel must not change values on the way.
 void ComboBoxView::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void ComboBoxView::TakeNotes() {
+  const QSignalBlocker quiet(this);
+  const QStringList notes = notes_ ? notes_() : QStringList();
+  int widest = 0;
+  for (int i = 0; i < count(); ++i) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
+    setItemData(i, notes.value(i), kNoteRole);
+  }
+  static_cast<RowsWithNotes*>(itemDelegate())->noteColumn = widest + kGapBeforeNote;
+  const int needed = notes.isEmpty() ? 0 : view()->sizeHintForColumn(0) + kGapBeforeNote;
+  view()->setMinimumWidth(std::min(needed, screen()->availableGeometry().width() / 2));
+}
+
+void ComboBoxView::showPopup() {
+  TakeNotes();
+  QComboBox::showPopup();
+}
 
 void ComboBoxView::Draw() {
   if (typing_) return;

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <QComboBox>
+#include <QStringList>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "models/Lists.h"
@@ -17,6 +20,12 @@ class ComboBoxView : public QComboBox {
  public:
   ComboBoxView(ComboBox& model, QWidget* parent);
 
+  /// Has a note painted beside each entry of the list, quieter than the entry. `notes` is asked
+  /// whenever the list drops down; the entries themselves stay as they are.
+  void ShowNotes(std::function<QStringList()> notes) { notes_ = std::move(notes); }
+
+  void showPopup() override;
+
  protected:
   void wheelEvent(QWheelEvent* event) override;
 
@@ -25,9 +34,11 @@ class ComboBoxView : public QComboBox {
   void Typed(const QString& text);
   void Draw();
   void DrawText();
+  void TakeNotes();
 
   ComboBox& model_;
   std::vector<std::string> shown_;
+  std::function<QStringList()> notes_;
   bool typing_ = false;
   Subscription refresh_;
 };
