@@ -116,9 +116,9 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   const auto keepText = [this](const std::string& path, std::string_view text) {
     return KeepAsBackup(path, text);
   };
-  column->addWidget(new ChangeNotice(*control_, guard_, messages_, keepText, centre));
-  column->addWidget(new ReadingNotice(*control_, centre));
-  column->addWidget(new ConversionNotice(control_->Tessel(), centre));
+  control_->ShowAboveText(*new ConversionNotice(control_->Tessel(), control_));
+  control_->ShowAboveText(*new ReadingNotice(*control_, control_));
+  control_->ShowAboveText(*new ChangeNotice(*control_, guard_, messages_, keepText, control_));
   splitter_ = new QSplitter(Qt::Horizontal, centre);
   splitter_->addWidget(control_);
   column->addWidget(splitter_, 1);
@@ -347,8 +347,8 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
   if (texts->Texts().empty()) return;
   auto* offer = new RecoveryOffer(
       control_->Tessel(), files_, messages_, std::move(texts),
-      [this] { return keeper_->KeepNow(); }, centralWidget());
-  static_cast<QVBoxLayout*>(centralWidget()->layout())->insertWidget(0, offer);
+      [this] { return keeper_->KeepNow(); }, control_);
+  control_->ShowAboveText(*offer);
 }
 
 void MainWindow::LogTo(KeepingLog& log) {

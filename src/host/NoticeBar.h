@@ -1,4 +1,4 @@
-// A quiet notice above the control.
+// A quiet notice above the text.
 #pragma once
 
 #include <QFrame>
@@ -8,8 +8,8 @@
 
 namespace tessel {
 
-/// A bar with a sentence and with buttons for what can be done about it. It is hidden at first, and
-/// takes no room then. The sentence is shown as it stands.
+/// A bar with a sentence and with buttons for what can be done about it, on a ground of its own. It
+/// is hidden at first, and takes no room then. The sentence is shown as it stands.
 class NoticeBar : public QFrame {
   Q_OBJECT
 
@@ -18,6 +18,7 @@ class NoticeBar : public QFrame {
   NoticeBar(const QString& name, QWidget* parent);
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void SetText(const QString& sentence) { text_->setText(sentence); }
   template <class Bar>
   QPushButton* AddButton(const QString& caption, void (Bar::*action)()) {

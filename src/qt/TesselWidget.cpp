@@ -158,6 +158,8 @@ QWidget* TesselWidget::DialogFor(const Form& form) const {
   return it == dialogs_.end() ? nullptr : *it;
 }
 
+void TesselWidget::ShowAboveText(QWidget& bar) { editorHost_->ShowAbove(bar); }
+
 ScintillaView* TesselWidget::CurrentEditorView() const {
   const int slot = Index(tessel_->OpenDocuments().Current().Place());
   return slot >= 0 && slot < std::ssize(editors_) ? editors_[static_cast<std::size_t>(slot)].view

@@ -42,6 +42,10 @@ class TesselWidget : public QWidget {
   /// The view of the current document's editor.
   ScintillaView* CurrentEditorView() const;
 
+  /// Puts a bar of the host's above the text, within its frame: while it is shown the editors are
+  /// lower by it, and nothing else moves. The topmost bar is the last one put there.
+  void ShowAboveText(QWidget& bar);
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 

@@ -15,15 +15,30 @@ constexpr Twips kBorder = 30;
 
 }  // namespace
 
-EditorHost::EditorHost(QWidget* parent) : QFrame(parent), inside_(new QWidget(this)) {
+EditorHost::EditorHost(QWidget* parent)
+    : QFrame(parent),
+      inside_(new QWidget(this)),
+      bars_(new QWidget(this)),
+      column_(new QVBoxLayout(bars_)) {
   setFocusPolicy(Qt::NoFocus);
+  column_->setContentsMargins(0, 0, 0, 0);
+  column_->setSpacing(0);
+  bars_->installEventFilter(this);
+}
+
+void EditorHost::ShowAbove(QWidget& bar) { column_->insertWidget(0, &bar); }
+
+bool EditorHost::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) ShareRoom();
+  return false;
 }
 
 void EditorHost::Place(QWidget& editor, const RichTextBox& model) {
   const bool shown = InSight(model);
   if (shown) {
-    editor.setGeometry(PixelGeometry(model, *this));
+    wanted_ = PixelGeometry(model, *this);
     inSight_ = &editor;
+    PlaceInSight();
   }
   ShowOrHide(editor, shown);
   EnableOrDisable(editor, model.Enabled());
@@ -43,9 +58,20 @@ void EditorHost::PassFocusOn() {
   }
 }
 
-void EditorHost::resizeEvent(QResizeEvent*) {
+void EditorHost::PlaceInSight() {
+  if (inSight_ == nullptr) return;
+  inSight_->setGeometry(column_->isEmpty() ? wanted_ : wanted_.intersected(inside_->rect()));
+}
+
+void EditorHost::resizeEvent(QResizeEvent*) { ShareRoom(); }
+
+void EditorHost::ShareRoom() {
   const int border = TwipsToPixels(kBorder, logicalDpiX());
-  inside_->setGeometry(rect().adjusted(border, border, -border, -border));
+  const QRect room = rect().adjusted(border, border, -border, -border);
+  const int bars = column_->isEmpty() ? 0 : column_->totalHeightForWidth(room.width());
+  bars_->setGeometry(room.left(), room.top(), room.width(), bars);
+  inside_->setGeometry(room.adjusted(0, bars, 0, 0));
+  PlaceInSight();
 }
 
 void EditorHost::paintEvent(QPaintEvent*) {

@@ -76,6 +76,11 @@ QColor Theme::Pressed() const {
   return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::Highlight),
                  Dark() ? 0.4 : 0.22);
 }
+QColor Theme::Notice() const {
+  constexpr QColor kAmber(0xe8, 0xa0, 0x10);
+  return Blended(palette_.color(QPalette::Base), kAmber, Dark() ? 0.16 : 0.2);
+}
+
 
 QColor Theme::Accent() const {
   const QColor highlight = palette_.color(QPalette::Active, QPalette::Highlight);

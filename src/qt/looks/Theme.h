@@ -17,6 +17,8 @@ class Theme {
   QColor Page() const;
   QColor Line() const;
   /// A line that a person has to see: around what can be clicked.
+  /// The ground of a notice to the user.
+  QColor Notice() const;
   QColor Outline() const;
   QColor Hover() const;
   QColor Pressed() const;
