@@ -211,7 +211,6 @@ void MainWindow::OfferPreferences() {
       qobject_cast<ToolbarView*>(control_->WidgetFor(control_->Tessel().Controls().tbToolBar));
   const auto apply = [this, toolbar](Wish wish) {
     const bool wanted = preferences_.Wants(wish);
-    if (wish == Wish::kTheme) ApplyTheme(*qApp, ColourScheme(preferences_.Number(wish)));
     if (wish == Wish::kReopen) RememberSession();
     if (wish == Wish::kAutomation) emit automationWanted(wanted);
     if (wish == Wish::kButtonWords) toolbar->ShowWords(wanted);

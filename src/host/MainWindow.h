@@ -18,6 +18,7 @@
 #include "host/panel/PanelGuard.h"
 #include "host/panel/RandomizeEnd.h"
 #include "host/preferences/Preferences.h"
+#include "host/theme/ProgramTheme.h"
 #include "host/view/KeptPlaces.h"
 #include "qt/TesselWidget.h"
 #include "safekeeping/BackupStore.h"
@@ -40,6 +41,7 @@ class MainWindow : public QMainWindow {
 
   TesselWidget& Control() { return *control_; }
   Preferences& Wishes() { return preferences_; }
+  ProgramTheme& Colours() { return theme_; }
   /// Opens files as the recent list does.
   void OpenFiles(const std::vector<std::string>& paths);
   /// Shows a sentence in the status bar.
@@ -79,9 +81,9 @@ class MainWindow : public QMainWindow {
   void BuildMenu();
   void OfferFileCommands();
   void OfferTextCommands();
+  void ShowTitlesOfLevels();
   void OfferPreferences();
   void OfferHelp();
-  void ShowTitlesOfLevels();
   void BuildStatusBar();
   void ShowBackups();
   bool KeepAsBackup(const std::string& path, std::string_view text);
@@ -91,6 +93,7 @@ class MainWindow : public QMainWindow {
   void SaveLook();
 
   Preferences preferences_;
+  ProgramTheme theme_{preferences_};
   HostFileDialogs dialogs_;
   DocumentGuard guard_;
   PanelGuard panel_;

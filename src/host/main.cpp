@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -71,8 +70,7 @@ std::unique_ptr<KeepingLog> WantedLog() try {
 
 /// The option's, or what the user wishes.
 ColourScheme SchemeOf(const Options& options, const Preferences& wishes) {
-  if (options.scheme != ColourScheme::kDesktop) return options.scheme;
-  return static_cast<ColourScheme>(std::clamp(wishes.Number(Wish::kTheme), 0, 2));
+  return options.scheme != ColourScheme::kDesktop ? options.scheme : WishedScheme(wishes);
 }
 
 int Run(const Options& options) {
@@ -91,10 +89,13 @@ int Run(const Options& options) {
   GuardedFiles files(keptFiles);
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);
 
-  ApplyTheme(*qApp, SchemeOf(options, Preferences(settings)));
+  const ColourScheme scheme = SchemeOf(options, Preferences(settings));
+  ApplyTheme(*qApp, scheme);
   const std::unique_ptr<KeepingLog> log = WantedLog();
   OfferStarterWords(settings, files, options.hostDirectory + "/words.txt");
   MainWindow window(services, desktop.widgets, files);
+  window.Colours().StartedWith(scheme);
+  if (!picture) window.Colours().FollowDesktop();
   window.resize(options.size.value_or(kDefaultSize));
   if (!picture) window.RestoreLook();
   if (options.size) window.resize(*options.size);

@@ -1,5 +1,6 @@
 #include "qt/looks/Theme.h"
 
+#include "qt/looks/Contrast.h"
 #include "qt/looks/TesselStyle.h"
 
 namespace tessel {
@@ -47,6 +48,17 @@ QColor Blended(const QColor& a, const QColor& b, double share) {
                           static_cast<float>(a.blueF() + (b.blueF() - a.blueF()) * share));
 }
 
+Brightness WantedBrightness(ColourScheme scheme, const DesktopWishes& desktop,
+                            const QPalette& desktopPalette) {
+  if (scheme == ColourScheme::kDark) return Brightness::kDark;
+  if (scheme == ColourScheme::kLight) return Brightness::kLight;
+  if (desktop.brightness) return *desktop.brightness;
+  return Theme(desktopPalette).Dark() ? Brightness::kDark : Brightness::kLight;
+}
+
+/// Where the toolkit does not know the desktop's theme, the environment may name it.
+bool NamesHighContrast() { return qgetenv("GTK_THEME").startsWith("HighContrast"); }
+
 }  // namespace
 
 bool Theme::Dark() const {
@@ -64,6 +76,11 @@ QColor Theme::Line() const {
                  Dark() ? 0.18 : 0.2);
 }
 
+QColor Theme::Notice() const {
+  constexpr QColor kAmber(0xe8, 0xa0, 0x10);
+  return Blended(palette_.color(QPalette::Base), kAmber, Dark() ? 0.16 : 0.2);
+}
+
 QColor Theme::Outline() const {
   return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::WindowText), 0.5);
 }
@@ -76,11 +93,6 @@ QColor Theme::Pressed() const {
   return Blended(palette_.color(QPalette::Window), palette_.color(QPalette::Highlight),
                  Dark() ? 0.4 : 0.22);
 }
-QColor Theme::Notice() const {
-  constexpr QColor kAmber(0xe8, 0xa0, 0x10);
-  return Blended(palette_.color(QPalette::Base), kAmber, Dark() ? 0.16 : 0.2);
-}
-
 
 QColor Theme::Accent() const {
   const QColor highlight = palette_.color(QPalette::Active, QPalette::Highlight);
@@ -105,13 +117,26 @@ QPalette PaletteOf(Brightness brightness) {
   return palette;
 }
 
-void ApplyTheme(QApplication& application, ColourScheme scheme) {
+bool IsHighContrast(const QPalette& palette) {
+  // 21 is the most there is; usual palettes have 18.5 at most.
+  constexpr double kUnusualContrast = 19;
+  return ContrastOf(palette.color(QPalette::Window), palette.color(QPalette::WindowText)) >=
+         kUnusualContrast;
+}
+
+QPalette PaletteFor(ColourScheme scheme, const DesktopWishes& desktop,
+                    const QPalette& desktopPalette) {
+  const bool staysAsItIs =
+      desktop.highContrast || NamesHighContrast() || IsHighContrast(desktopPalette);
+  if (scheme == ColourScheme::kDesktop && staysAsItIs) return desktopPalette;
+  return PaletteOf(WantedBrightness(scheme, desktop, desktopPalette));
+}
+
+void ApplyTheme(QApplication& application, ColourScheme scheme, const DesktopWishes& desktop) {
   // The palette is the desktop's only until the first call.
-  static const bool desktopIsDark = Theme(application.palette()).Dark();
-  const bool dark =
-      scheme == ColourScheme::kDesktop ? desktopIsDark : scheme == ColourScheme::kDark;
+  static const QPalette desktopPalette = application.palette();
   application.setStyle(new TesselStyle);
-  application.setPalette(PaletteOf(dark ? Brightness::kDark : Brightness::kLight));
+  application.setPalette(PaletteFor(scheme, desktop, desktopPalette));
 }
 
 }  // namespace tessel

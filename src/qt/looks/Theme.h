@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QPalette>
+#include <optional>
 
 namespace tessel {
 
@@ -16,9 +17,9 @@ class Theme {
   /// The area on which controls stand, inside the line around it.
   QColor Page() const;
   QColor Line() const;
-  /// A line that a person has to see: around what can be clicked.
   /// The ground of a notice to the user.
   QColor Notice() const;
+  /// A line that a person has to see: around what can be clicked.
   QColor Outline() const;
   QColor Hover() const;
   QColor Pressed() const;
@@ -37,8 +38,25 @@ QPalette PaletteOf(Brightness brightness);
 
 enum class ColourScheme { kDesktop, kLight, kDark };
 
-/// Gives the program its style and its palette; with kDesktop light or dark as the desktop's
-/// palette was when this was first called.
-void ApplyTheme(QApplication& application, ColourScheme scheme);
+/// What a desktop asks of programs.
+struct DesktopWishes {
+  std::optional<Brightness> brightness;
+  bool highContrast = false;
+
+  friend bool operator==(const DesktopWishes&, const DesktopWishes&) = default;
+};
+
+/// Whether a palette is one for people who need more contrast than usual.
+bool IsHighContrast(const QPalette& palette);
+
+/// The palette for that scheme. With kDesktop it is light or dark as `desktop` says or, where that
+/// says nothing, as the desktop's own palette is; and where the desktop wishes for high contrast,
+/// or has a palette of that kind, its palette stays.
+QPalette PaletteFor(ColourScheme scheme, const DesktopWishes& desktop,
+                    const QPalette& desktopPalette);
+
+/// Gives the program its style and its palette. The desktop's palette is the one that the program
+/// had when this was first called.
+void ApplyTheme(QApplication& application, ColourScheme scheme, const DesktopWishes& desktop = {});
 
 }  // namespace tessel
