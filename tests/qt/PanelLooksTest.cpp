@@ -1,8 +1,11 @@
 // How lists, combo boxes, tabs and the text look on the widget of the control.
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
 #include <QListWidget>
 #include <QTabBar>
+#include <algorithm>
 
 #include "TesselWidgetFixture.h"
 #include "qt/looks/TesselStyle.h"
@@ -56,6 +59,34 @@ TEST_F(PanelLooks, DrawsNoLineBehindTheLastTab) {
   const QColor ground = bar->palette().color(QPalette::Window);
   EXPECT_NE(lineBehind(bar->count() - 2), ground);
   EXPECT_EQ(lineBehind(bar->count() - 1), ground);
+}
+
+int FirstRowWithInk(const QImage& image, const QRect& part) {
+  for (int y = part.top(); y <= part.bottom(); ++y) {
+    for (int x = part.left() + 1; x < part.right(); ++x) {
+      if (image.pixelColor(x, y).lightness() < 120) return y;
+    }
+  }
+  return -1;
+}
+
+TEST_F(PanelLooks, HasTheTitlesOfGroupsAsHighAsTheLabelsBesideThem) {
+  TesselStyle style;
+  Controls().tbsCon.Press(kMiscPage + 1);
+  auto* page = WidgetFor(Controls().picCon[kMiscPage]);
+  auto* group = page->findChild<QGroupBox*>();
+  const auto labels = page->findChildren<QLabel*>();
+  const auto* label = *std::ranges::find(labels, QString("Select &Item:"), &QLabel::text);
+  page->setPalette(PaletteOf(Brightness::kLight));
+  group->setStyle(&style);
+  QApplication::processEvents();
+  const auto rectOf = [page](const QWidget& part) {
+    return QRect(part.mapTo(page, QPoint()), QSize(part.width(), 20));
+  };
+  const QImage image = page->grab().toImage();
+  const int first = FirstRowWithInk(image, rectOf(*label));
+  ASSERT_GT(first, 0);
+  EXPECT_EQ(FirstRowWithInk(image, rectOf(*group)), first);
 }
 
 // From the edge of the strip inwards to the margin with the numbers.

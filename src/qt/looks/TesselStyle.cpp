@@ -216,6 +216,13 @@ void TesselStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
   QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+// A group's title stands as high as a label beside it, which Fusion's does not.
+QRect TesselStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                  SubControl part, const QWidget* widget) const {
+  const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+  return control == CC_GroupBox && part == SC_GroupBoxLabel ? rect.translated(0, -1) : rect;
+}
+
 QSize TesselStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                     const QSize& contents, const QWidget* widget) const {
   QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
