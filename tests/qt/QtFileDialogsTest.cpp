@@ -7,7 +7,9 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
+#include <QTreeView>
 #include <functional>
 
 #include "models/CommonDialog.h"
@@ -136,6 +138,34 @@ TEST_F(FileDialogTest, TakesTheNameAsItWasTypedBesideAFileOfAnotherSpelling) {
   directory.Put("USER.CON", "");
   Choose("User");
   EXPECT_THAT(Save(), Optional(ElementsAre(directory / "User.con")));
+}
+
+// The desktop's own dialog comes where there is one.
+TEST_F(FileDialogTest, LeavesTheDesktopItsOwnDialog) {
+  bool toolkitsOwn = true;
+  Once<QFileDialog>([&](QFileDialog& dialog) {
+    toolkitsOwn = dialog.testOption(QFileDialog::DontUseNativeDialog);
+    dialog.reject();
+  });
+  Open(0);
+  EXPECT_FALSE(toolkitsOwn);
+}
+
+TEST_F(FileDialogTest, ShowsSizeKindAndDateWhole) {
+  directory.Put("a-file-with-a-rather-long-name-of-its-own.con", std::string(123'456, 'x'));
+  Once<QFileDialog>([&](QFileDialog& dialog) {
+    const auto* list = dialog.findChild<QTreeView*>("treeView");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 1; }));
+    QTest::qWait(50);
+    for (int column = 1; column < 4; ++column) {
+      const QModelIndex index = list->model()->index(0, column, list->rootIndex());
+      const int text = list->fontMetrics().horizontalAdvance(index.data().toString());
+      EXPECT_GT(list->columnWidth(column), text) << column;
+    }
+    EXPECT_GT(list->columnWidth(0), list->columnWidth(3));
+    dialog.reject();
+  });
+  Open(0);
 }
 
 TEST_F(FileDialogTest, IsOwnedByTheWindowThatAPersonWorksIn) {

@@ -1,11 +1,17 @@
 #include "qt/services/QtFileDialogs.h"
 
+#include <QApplication>
 #include <QChildEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QStyle>
+#include <QTreeView>
 
 #include "models/CommonDialog.h"
 #include "qt/base/QtText.h"
@@ -31,6 +37,37 @@ class PlainBoxes : public QObject {
     return QObject::eventFilter(dialog, event);
   }
 };
+
+/// The icons of the program's style. They are asked for on a thread of the dialog's.
+class StyleIcons : public QFileIconProvider {
+ public:
+  QIcon icon(IconType type) const override {
+    if (type == Computer || type == Drive) return computer_;
+    return type == File ? file_ : folder_;
+  }
+  QIcon icon(const QFileInfo& file) const override { return file.isDir() ? folder_ : file_; }
+
+ private:
+  static QIcon Standard(QStyle::StandardPixmap icon) {
+    return QApplication::style()->standardIcon(icon);
+  }
+
+  QIcon file_ = Standard(QStyle::SP_FileIcon);
+  QIcon folder_ = Standard(QStyle::SP_DirIcon);
+  QIcon computer_ = Standard(QStyle::SP_ComputerIcon);
+};
+
+/// In the toolkit's own dialog size, kind and date are shown whole, and the name has the rest. The
+/// desktop's dialog, where there is one, has no such list.
+void MakeColumnsReadable(QFileDialog& dialog) {
+  auto* list = dialog.findChild<QTreeView*>("treeView");
+  if (list == nullptr) return;
+  constexpr QSize kRoomy(860, 500);
+  list->header()->setStretchLastSection(false);
+  list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  dialog.resize(kRoomy.boundedTo(dialog.screen()->availableSize()));
+}
 
 void Prepare(QFileDialog& dialog, const FileDialogRequest& request) {
   const bool open = request.kind == FileDialogRequest::Kind::kOpen;
@@ -86,8 +123,11 @@ QStringList NameFilters(std::string_view filter) {
 }
 
 std::optional<std::vector<std::string>> QtFileDialogs::Show(const FileDialogRequest& request) {
+  StyleIcons icons;
   QFileDialog dialog(DialogOwner());
+  dialog.setIconProvider(&icons);
   Prepare(dialog, request);
+  MakeColumnsReadable(dialog);
   if (request.kind == FileDialogRequest::Kind::kSave) {
     dialog.setDefaultSuffix(SuffixOf(request.filter));
   }
