@@ -20,6 +20,7 @@
 #include "host/RestoredText.h"
 #include "host/Session.h"
 #include "host/help/HelpWindows.h"
+#include "host/help/AboutDialog.h"
 #include "host/menu/DocumentMenus.h"
 #include "host/menu/TabMenu.h"
 #include "host/menu/WindowKeys.h"
@@ -230,7 +231,7 @@ void MainWindow::OfferHelp() {
   using enum WindowCommand;
   menu_->On(kManual, [this] { ShowManual(*this); });
   menu_->On(kShortcuts, [this] { ShowShortcuts(*this, *menu_); });
-  menu_->On(kAbout, [this] { ShowAbout(*this); });
+  menu_->On(kAbout, [this] { (new AboutDialog(settingsFile_, this))->open(); });
 }
 
 void MainWindow::RememberSession() {

@@ -49,6 +49,8 @@ class MainWindow : public QMainWindow {
   /// The window as it was left: its place, and what the toggles of the toolbar say.
   void RestoreLook();
 
+  /// Where the settings store has its file, for who asks about the program.
+  void KeepsSettingsIn(const QString& file) { settingsFile_ = file; }
   /// Lets the user look into the backups. They outlive the window.
   void OfferBackups(BackupStore& backups);
   /// Keeps unsaved text in that folder until the window is closed, and offers what is there of runs
@@ -113,6 +115,7 @@ class MainWindow : public QMainWindow {
   RecoveryKeeper* keeper_ = nullptr;
   KeepingLog* log_ = nullptr;
   QTimer session_;
+  QString settingsFile_;
   Subscription asking_;
   Subscription wishes_;
 };

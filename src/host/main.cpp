@@ -2,6 +2,7 @@
 #include <malloc.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QIcon>
 #include <cstdlib>
 #include <memory>
@@ -105,6 +106,7 @@ int Run(const Options& options) {
   window.OfferBackups(backups);
   window.show();
   std::optional<HostAutomation> automation;
+  window.KeepsSettingsIn(QFile::decodeName(options.store.c_str()));
   const auto automate = [&](bool wanted) {
     automation.reset();
     if (!wanted) return;

@@ -1,5 +1,6 @@
 // The window itself: its menu, files dropped on it, how it looked last time, and what it says when
 // that which is kept cannot be used.
+#include <QClipboard>
 #include <QDropEvent>
 #include <QMessageBox>
 #include <QMimeData>
@@ -13,6 +14,7 @@
 #include "host/BackupsDialog.h"
 #include "host/HostAutomation.h"
 #include "host/RecoveryKeeper.h"
+#include "host/help/AboutDialog.h"
 #include "host/RecoveryOffer.h"
 #include "qt/editor/ScintillaView.h"
 #include "surface/CurrentEditor.h"
@@ -65,12 +67,36 @@ TEST_F(Window, OpensWhatIsChosenInTheMenusDialog) {
 
 TEST_F(Window, TellsWhatItIs) {
   Run().MenuItem("&About Zanth Manager")->trigger();
-  const auto* box = Run().window->findChild<QMessageBox*>();
-  ASSERT_NE(box, nullptr);
-  EXPECT_TRUE(box->text().startsWith("Zanth Manager"));
-  EXPECT_TRUE(box->informativeText().startsWith("An editor for CON files."));
-  EXPECT_FALSE(box->iconPixmap().isNull());
-  EXPECT_TRUE(box->isVisible());
+  const auto* about = Run().window->findChild<AboutDialog*>();
+  ASSERT_NE(about, nullptr);
+  EXPECT_TRUE(about->isVisible());
+  QStringList texts;
+  bool picture = false;
+  for (const auto* label : about->findChildren<QLabel*>()) {
+    texts += label->text();
+    picture = picture || !label->pixmap(Qt::ReturnByValue).isNull();
+  }
+  const std::string text = texts.join('\n').toStdString();
+  for (const char* part :
+       {"Zanth Manager ", "An editor for CON files.", "GNU General Public License", "Qt ",
+        "QScintilla", "SQLite", "icons", "fonts"}) {
+    EXPECT_NE(text.find(part), std::string::npos) << part;
+  }
+  EXPECT_TRUE(picture);
+}
+
+TEST_F(Window, TellsItsFoldersAndCopiesTheirPaths) {
+  Run().window->KeepsSettingsIn(QString::fromStdString(directory_ / "config/settings.db"));
+  Run().MenuItem("&About Zanth Manager")->trigger();
+  const auto* about = Run().window->findChild<AboutDialog*>();
+  std::vector<std::string> copied;
+  for (auto* button : about->findChildren<QPushButton*>()) {
+    if (button->text() != "Copy") continue;
+    button->click();
+    copied.push_back(QGuiApplication::clipboard()->text().toStdString());
+  }
+  EXPECT_EQ(copied, (std::vector<std::string>{directory_ / "config", State() + "/backups",
+                                              State() + "/recovery"}));
 }
 
 TEST_F(Window, QuitsFromTheMenu) {

@@ -1,18 +1,13 @@
 #include "host/help/HelpWindows.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QHeaderView>
-#include <QMessageBox>
 #include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
-#include "qt/base/QtText.h"
-#include "safekeeping/BackupStore.h"
-#include "safekeeping/PrivateFolder.h"
 
 // The macro wants the global namespace.
 static void LoadManual() { Q_INIT_RESOURCE(manual); }
@@ -85,24 +80,6 @@ void ShowShortcuts(QWidget& parent, const MainMenu& menu) {
   list->expandAll();
   list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   MakeWindow(parent, list, HelpWindows::tr("Keyboard Shortcuts"), {520, 560})->show();
-}
-
-void ShowAbout(QWidget& parent) {
-  auto* box = new QMessageBox(
-      QMessageBox::NoIcon, HelpWindows::tr("About Zanth Manager"),
-      HelpWindows::tr("Zanth Manager %1").arg(QCoreApplication::applicationVersion()),
-      QMessageBox::Ok, &parent);
-  box->setTextFormat(Qt::PlainText);
-  box->setIconPixmap(QIcon(":/tessel/icons/zanth-manager.svg").pixmap(64, 64));
-  box->setInformativeText(
-      HelpWindows::tr("An editor for CON files.\n\n"
-                      "Free software under the GNU General Public License, version 3.\n"
-                      "It uses Qt %1 (LGPL 3), QScintilla (GPL 3) and SQLite (public domain).\n\n"
-                      "Backups: %2\nUnsaved text: %3")
-          .arg(QString::fromLatin1(qVersion()), ShownName(DefaultBackupFolder()),
-               ShownName(DefaultStateFolder() + "/recovery")));
-  box->setAttribute(Qt::WA_DeleteOnClose);
-  box->open();
 }
 
 }  // namespace tessel

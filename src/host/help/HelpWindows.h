@@ -11,7 +11,4 @@ void ShowManual(QWidget& parent);
 /// Every command that has keys, in the order of the menus.
 void ShowShortcuts(QWidget& parent, const MainMenu& menu);
 
-/// The program's name, version, licences and folders.
-void ShowAbout(QWidget& parent);
-
 }  // namespace tessel
