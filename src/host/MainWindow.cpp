@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "base/RuntimeError.h"
 #include "host/BackupsDialog.h"
@@ -213,6 +214,7 @@ void MainWindow::OfferPreferences() {
   const auto apply = [this, toolbar](Wish wish) {
     const bool wanted = preferences_.Wants(wish);
     if (wish == Wish::kReopen) RememberSession();
+    if (wish == Wish::kBackups) LimitBackups();
     if (wish == Wish::kAutomation) emit automationWanted(wanted);
     if (wish == Wish::kButtonWords) toolbar->ShowWords(wanted);
     for (const auto& [command, shown] : kWishItems) {
@@ -287,7 +289,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::OfferBackups(BackupStore& backups) {
   backups_ = &backups;
+  LimitBackups();
   menu_->On(WindowCommand::kBackups, [this] { ShowBackups(); });
+}
+
+void MainWindow::LimitBackups() {
+  if (backups_ == nullptr) return;
+  const int perFile = std::clamp(preferences_.Number(Wish::kBackups), 1, kMostBackupsOfAFile);
+  backups_->Limit({.perFile = static_cast<std::size_t>(perFile)});
 }
 
 bool MainWindow::KeepAsBackup(const std::string& path, std::string_view text) {

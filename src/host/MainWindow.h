@@ -88,6 +88,7 @@ class MainWindow : public QMainWindow {
   void OfferHelp();
   void BuildStatusBar();
   void ShowBackups();
+  void LimitBackups();
   bool KeepAsBackup(const std::string& path, std::string_view text);
   void RestoreBackup(const Backup& backup);
   void ShowDocument();

@@ -85,7 +85,9 @@ int Run(const Options& options) {
   MessageBox& messages = picture ? static_cast<MessageBox&>(written) : desktop.messages;
   const std::string state = DefaultStateFolder();
   BackupStore backups(DefaultBackupFolder());
-  desktop.files.KeepOldBytesBy(KeepAsBackups(DefaultBackupFolder()));
+  desktop.files.KeepOldBytesBy([&backups](const std::string& path, std::string_view bytes) {
+    backups.Keep(PathOfFile(path), bytes);
+  });
   BackupFiles keptFiles(desktop.files, backups);
   GuardedFiles files(keptFiles);
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);
@@ -104,9 +106,9 @@ int Run(const Options& options) {
       [&window](const std::string& problem) { window.ShowNotice(ShownName(problem)); });
   files.TellLongWork([&window](const std::string& work) { window.ShowNotice(ShownName(work)); });
   window.OfferBackups(backups);
+  window.KeepsSettingsIn(QFile::decodeName(options.store.c_str()));
   window.show();
   std::optional<HostAutomation> automation;
-  window.KeepsSettingsIn(QFile::decodeName(options.store.c_str()));
   const auto automate = [&](bool wanted) {
     automation.reset();
     if (!wanted) return;

@@ -28,6 +28,9 @@ class BackupStore {
  public:
   explicit BackupStore(std::string folder, BackupLimits limits = {});
 
+  /// From the next one kept on.
+  void Limit(const BackupLimits& limits) { limits_ = limits; }
+
   /// Keeps the bytes as the newest backup of the file, unless that holds them already, and takes
   /// away what the limits leave no room for. Bytes beyond the limit by themselves are a
   /// FileProblem, as is a folder that cannot be used.

@@ -30,7 +30,9 @@ inline constexpr int kPatience = 30'000;
 struct HostRun {
   HostRun(const std::string& state, SettingsStore& settings)
       : backups(state + "/backups"), keptFiles(plainFiles, backups), files(keptFiles) {
-    plainFiles.KeepOldBytesBy(KeepAsBackups(state + "/backups"));
+    plainFiles.KeepOldBytesBy([this](const std::string& path, std::string_view bytes) {
+      backups.Keep(PathOfFile(path), bytes);
+    });
     const Services s = fakes.Get();
     const Services services{.messages = s.messages,
                             .fileDialogs = s.fileDialogs,

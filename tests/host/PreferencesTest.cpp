@@ -99,6 +99,27 @@ TEST_F(Wishes, AreTheUsualOnesWhereTheStoreHoldsNonsense) {
   EXPECT_EQ(Preferences(store).Number(Wish::kTabWidth), 8);
 }
 
+TEST_F(Wishes, SayHowManyBackupsAreKeptOfAFile) {
+  const std::string path = directory_.Put("user.con", "text");
+  Run().window->OpenFiles({path});
+  const auto saveTimes = [this](int times) {
+    for (int i = 0; i < times; ++i) {
+      Run().Editor(0).Type("x");
+      Run().SaveInPlace();
+    }
+  };
+  Run().window->Wishes().Set(Wish::kBackups, 3);
+  saveTimes(6);
+  EXPECT_EQ(Run().backups.List().size(), 3U);
+  Run().window->Wishes().Set(Wish::kBackups, 5);
+  saveTimes(6);
+  EXPECT_EQ(Run().backups.List().size(), 5U);
+  Restart();
+  Run().window->OpenFiles({path});
+  saveTimes(2);
+  EXPECT_EQ(Run().backups.List().size(), 5U);
+}
+
 // --- File dialogs
 
 TEST_F(Wishes, StartTheDialogsWhereTheDocumentIs) {

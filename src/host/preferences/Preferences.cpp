@@ -35,6 +35,7 @@ constexpr WishRow kWishes[] = {
     {Wish::kScrollMarks, "ScrollMarks", "1"},
     {Wish::kPlaces, "Places", ""},
     {Wish::kTheme, "Theme", "0"},
+    {Wish::kBackups, "Backups", "20"},
 };
 
 const WishRow& RowOf(Wish wish) { return *std::ranges::find(kWishes, wish, &WishRow::wish); }

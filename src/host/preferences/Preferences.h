@@ -25,7 +25,10 @@ enum class Wish {
   kScrollMarks,  ///< a strip at the scroll bar shows matches and changed lines
   kPlaces,       ///< where files were left; no wish of its own, but kept like one
   kTheme,        ///< 0 as the desktop, 1 light, 2 dark
+  kBackups,      ///< how many are kept of one file, from 1 to kMostBackupsOfAFile
 };
+
+inline constexpr int kMostBackupsOfAFile = 200;
 
 /// Keeps the wishes in the settings store, in a section that the control does not have. A store
 /// that cannot be used is no reason to fail: then a wish is what it is by default.

@@ -5,10 +5,21 @@
 #include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QSpinBox>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace tessel {
+namespace {
+
+/// A list that drops down has rows as the other lists: the toolkit's own delegate draws lower ones.
+QComboBox* MakeChoiceBox(QWidget* parent) {
+  auto* box = new QComboBox(parent);
+  box->setItemDelegate(new QStyledItemDelegate(box));
+  return box;
+}
+
+}  // namespace
 
 PreferencesDialog::PreferencesDialog(Preferences& preferences, QWidget* parent)
     : QDialog(parent), preferences_(preferences) {
@@ -21,6 +32,7 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences, QWidget* parent)
   AddChoice(*form, tr("&Theme:"), Wish::kTheme, {tr("As the desktop"), tr("Light"), tr("Dark")});
   AddFont(*form);
   AddNumber(*form, tr("Tab &width:"), Wish::kTabWidth, 1, 16);
+  AddNumber(*form, tr("Bac&kups of each file:"), Wish::kBackups, 1, kMostBackupsOfAFile);
   AddSwitch(*form, tr("&Live colours"), Wish::kLiveColours);
   AddSwitch(*form, tr("W&rap long lines"), Wish::kWordWrap);
   AddSwitch(*form, tr("Show &blanks"), Wish::kShowBlanks);
@@ -35,7 +47,7 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences, QWidget* parent)
 
 void PreferencesDialog::AddChoice(QFormLayout& form, const QString& label, Wish wish,
                                   const QStringList& choices) {
-  auto* box = new QComboBox(this);
+  QComboBox* box = MakeChoiceBox(this);
   box->addItems(choices);
   box->setCurrentIndex(preferences_.Number(wish));
   connect(box, &QComboBox::currentIndexChanged, this,
@@ -45,7 +57,7 @@ void PreferencesDialog::AddChoice(QFormLayout& form, const QString& label, Wish 
 
 // The first entry stands for the desktop's own font.
 void PreferencesDialog::AddFont(QFormLayout& form) {
-  auto* family = new QComboBox(this);
+  QComboBox* family = MakeChoiceBox(this);
   family->addItem(tr("As the desktop"), QString());
   for (const QString& name : QFontDatabase::families()) {
     if (QFontDatabase::isFixedPitch(name)) family->addItem(name, name);
