@@ -20,8 +20,8 @@
 #include "host/RecoveryOffer.h"
 #include "host/RestoredText.h"
 #include "host/Session.h"
-#include "host/help/HelpWindows.h"
 #include "host/help/AboutDialog.h"
+#include "host/help/HelpWindows.h"
 #include "host/menu/DocumentMenus.h"
 #include "host/menu/TabMenu.h"
 #include "host/menu/WindowKeys.h"
@@ -261,7 +261,7 @@ void MainWindow::ShowDocument() {
   const bool modified = document.Modified();
   QString name = ShownName(document.Name());
   name.replace("[*]", "[*][*]");  // one is the mark of a modified document
-  setWindowTitle(name.isEmpty() ? tr("Zanth Manager[*]") : name + tr("[*] \u2013 Zanth Manager"));
+  setWindowTitle(name.isEmpty() ? tr("Zanth Manager[*]") : name + tr("[*] \u2014 Zanth Manager"));
   setWindowModified(modified);
 }
 

@@ -115,8 +115,8 @@ class MainWindow : public QMainWindow {
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
   KeepingLog* log_ = nullptr;
-  QTimer session_;
   QString settingsFile_;
+  QTimer session_;
   Subscription asking_;
   Subscription wishes_;
 };

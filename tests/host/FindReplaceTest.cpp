@@ -266,7 +266,7 @@ TEST_F(FindReplaceKeys, ReplacesInTheSelectionOnly) {
   EXPECT_EQ(Said(), "3 replaced");
   Click("Replace A&ll");
   EXPECT_EQ(Said(), "Nothing was found to replace.") << "the selection has moved with the text";
-  Click("Selection Onl&y");
+  Click("Selection onl&y");
   Click("Replace A&ll");
   EXPECT_EQ(Editor().Text(), "1\r\n1 1\r\n1 1");
 }
@@ -281,9 +281,9 @@ TEST_F(FindReplaceKeys, StepsInTheSelectionOnly) {
 TEST_F(FindReplaceKeys, SaysThatNothingIsSelected) {
   Given("a[] a");
   Replace("x", "b");
-  Click("Selection Onl&y");
+  Click("Selection onl&y");
   EXPECT_EQ(Said(), "Nothing is selected.");
-  Click("Selection Onl&y");
+  Click("Selection onl&y");
   EXPECT_EQ(Said(), "Nothing is selected.") << "it has not stayed checked";
 }
 

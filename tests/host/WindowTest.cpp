@@ -2,7 +2,6 @@
 // that which is kept cannot be used.
 #include <QClipboard>
 #include <QDropEvent>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -14,8 +13,8 @@
 #include "host/BackupsDialog.h"
 #include "host/HostAutomation.h"
 #include "host/RecoveryKeeper.h"
-#include "host/help/AboutDialog.h"
 #include "host/RecoveryOffer.h"
+#include "host/help/AboutDialog.h"
 #include "qt/editor/ScintillaView.h"
 #include "surface/CurrentEditor.h"
 
@@ -125,9 +124,9 @@ TEST_F(Window, ShowsTheNameOfItsFileInTheTitleAsItIs) {
   for (const std::string name : {"q[*].con", "[*][*].con", "q.con[*]", "[*"}) {
     Run().window->OpenFiles({directory_.Put(name, "")});
     const auto shown = [this] { return Run().window->windowHandle()->title().toStdString(); };
-    EXPECT_EQ(shown(), name + " \u2013 Zanth Manager");
+    EXPECT_EQ(shown(), name + " \u2014 Zanth Manager");
     Run().Editor(Run().Tabs().Count() - 1).Type("x");
-    EXPECT_EQ(shown(), name + "* \u2013 Zanth Manager");
+    EXPECT_EQ(shown(), name + "* \u2014 Zanth Manager");
   }
 }
 

@@ -10,7 +10,7 @@ namespace tessel {
 ReplaceRow::ReplaceRow(QGridLayout& grid, int row, QWidget* bar)
     : QObject(bar),
       field_(new QLineEdit(bar)),
-      inSelection_(new QCheckBox(tr("Selection Onl&y"), bar)) {
+      inSelection_(new QCheckBox(tr("Selection onl&y"), bar)) {
   field_->setAccessibleName(tr("Replace by"));
   field_->setObjectName("replacement");
   auto* label = new QLabel(tr("Replace &by:"), bar);
