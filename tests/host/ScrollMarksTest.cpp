@@ -8,6 +8,7 @@
 #include "host/view/ChangedPlaces.h"
 #include "host/view/MarkStrip.h"
 #include "qt/editor/EditorTheme.h"
+#include "qt/looks/Contrast.h"
 #include "qt/looks/Theme.h"
 
 namespace tessel::test {
