@@ -58,6 +58,9 @@ BackupsDialog::BackupsDialog(std::vector<Backup> backups, const std::string& cur
   auto* open = buttons->addButton(tr("&Open"), QDialogButtonBox::ActionRole);
   open->setDefault(true);
   open->setEnabled(!backups_.empty());
+  auto* compare = buttons->addButton(tr("Co&mpare"), QDialogButtonBox::ActionRole);
+  compare->setToolTip(tr("Show what has changed in the text since then"));
+  compare->setEnabled(!backups_.empty());
 
   auto* column = new QVBoxLayout(this);
   column->addWidget(label);
@@ -67,6 +70,7 @@ BackupsDialog::BackupsDialog(std::vector<Backup> backups, const std::string& cur
   resize(680, 380);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(open, &QPushButton::clicked, this, &BackupsDialog::Choose);
+  connect(compare, &QPushButton::clicked, this, &BackupsDialog::Compare);
   connect(list_, &QTreeWidget::itemActivated, this, &BackupsDialog::Choose);
   list_->setCurrentItem(list_->topLevelItem(0));
   list_->setFocus();
@@ -89,12 +93,21 @@ void BackupsDialog::AddRow(const Backup& backup, int number, bool current) {
   row->setFont(kFile, bold);
 }
 
-void BackupsDialog::Choose() {
+const Backup* BackupsDialog::Current() const {
   const QTreeWidgetItem* row = list_->currentItem();
-  if (row == nullptr) return;
-  const auto number = static_cast<std::size_t>(row->data(kFile, Qt::UserRole).toInt());
+  if (row == nullptr) return nullptr;
+  return &backups_[static_cast<std::size_t>(row->data(kFile, Qt::UserRole).toInt())];
+}
+
+void BackupsDialog::Choose() {
+  const Backup* backup = Current();
+  if (backup == nullptr) return;
   accept();
-  emit chosen(backups_[number]);
+  emit chosen(*backup);
+}
+
+void BackupsDialog::Compare() {
+  if (const Backup* backup = Current()) emit comparisonWanted(*backup);
 }
 
 }  // namespace tessel

@@ -10,7 +10,7 @@
 
 namespace tessel {
 
-/// Lists backups, those of the current document's file first, and lets one be chosen.
+/// Lists backups, those of the current document's file first, and lets one be chosen or compared.
 class BackupsDialog : public QDialog {
   Q_OBJECT
 
@@ -20,10 +20,14 @@ class BackupsDialog : public QDialog {
 
  signals:
   void chosen(const Backup& backup);
+  /// The list stays open.
+  void comparisonWanted(const Backup& backup);
 
  private:
   void AddRow(const Backup& backup, int number, bool current);
+  const Backup* Current() const;
   void Choose();
+  void Compare();
 
   std::vector<Backup> backups_;
   QTreeWidget* list_;

@@ -3,6 +3,9 @@
 #include <QFile>
 #include <utility>
 
+#include "base/RuntimeError.h"
+#include "host/changes/DifferenceWindow.h"
+#include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "services/Paths.h"
 
@@ -21,7 +24,8 @@ ChangeNotice::ChangeNotice(TesselWidget& control, DocumentGuard& guard, MessageB
       guard_(guard),
       messages_(messages),
       keepText_(std::move(keepText)),
-      reload_(AddButton(tr("Rel&oad"), &ChangeNotice::Reload)) {
+      reload_(AddButton(tr("Rel&oad"), &ChangeNotice::Reload)),
+      compare_(AddButton(tr("Show D&ifferences"), &ChangeNotice::Compare)) {
   AddButton(tr("&Keep Mine"), &ChangeNotice::KeepMine);
   settle_.setSingleShot(true);
   settle_.setInterval(kSettleMilliseconds);
@@ -57,6 +61,7 @@ void ChangeNotice::Check() {
     SetText(gone ? tr("%1 is gone from the disk. The text is still here.").arg(name)
                  : tr("%1 has been changed by another program.").arg(name));
     reload_->setVisible(!gone);
+    compare_->setVisible(!gone);
   }
   setVisible(changed);
 }
@@ -73,8 +78,24 @@ bool ChangeNotice::MayDropChanges() {
 
 void ChangeNotice::Reload() {
   if (control_.Tessel().Running() || !MayDropChanges()) return;
+  const std::string before = Current().Editor().Text();
   control_.Tessel().ReloadDocument();
   Check();
+  if (isHidden()) emit reloaded(before);
+}
+
+void ChangeNotice::Compare() try {
+  const Document document = Current();
+  const QString name = ShownName(NameOfPath(document.Path(), '/'));
+  // Not through the guarded files: to look at the file is not to accept it.
+  ShowDifferences(*window(), control_.CurrentEditorView(),
+                  {{.document = name,
+                    .nameBefore = tr("%1 here").arg(name),
+                    .nameAfter = tr("%1 on the disk").arg(name),
+                    .before = document.Editor().Text(),
+                    .after = PosixFiles().Read(document.Path())}});
+} catch (const RuntimeError& error) {
+  messages_.Show(error.what(), MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
 }
 
 void ChangeNotice::KeepMine() {

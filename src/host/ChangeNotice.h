@@ -16,7 +16,7 @@ namespace tessel {
 /// A bar above the control. It watches the files of all open documents and shows itself while the
 /// current one's has been changed by others: Reload takes the file's text (it asks before it
 /// replaces changes of the user's own, and keeps them as a backup), Keep Mine leaves the document
-/// as it is and lets it be saved over the file.
+/// as it is and lets it be saved over the file, Show Differences shows what Reload would change.
 class ChangeNotice : public NoticeBar {
   Q_OBJECT
 
@@ -30,12 +30,17 @@ class ChangeNotice : public NoticeBar {
   /// Looks at the current document's file now.
   void Check();
 
+ signals:
+  /// The current document was taken from its file again; it had this text before.
+  void reloaded(const std::string& before);
+
  private:
   void WatchOpenFiles();
   Document Current() const;
   void Reload();
   bool MayDropChanges();
   void KeepMine();
+  void Compare();
 
   TesselWidget& control_;
   DocumentGuard& guard_;
@@ -44,6 +49,7 @@ class ChangeNotice : public NoticeBar {
   QFileSystemWatcher watcher_;
   QTimer settle_;
   QPushButton* reload_;
+  QPushButton* compare_;
 };
 
 }  // namespace tessel

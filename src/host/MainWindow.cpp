@@ -11,15 +11,18 @@
 #include <algorithm>
 
 #include "base/RuntimeError.h"
+#include "host/BackupComparison.h"
 #include "host/BackupsDialog.h"
 #include "host/ChangeNotice.h"
 #include "host/ConversionNotice.h"
+#include "host/FirstStartHint.h"
 #include "host/HostAutomation.h"
 #include "host/ReadingNotice.h"
 #include "host/RecoveryKeeper.h"
 #include "host/RecoveryOffer.h"
 #include "host/RestoredText.h"
 #include "host/Session.h"
+#include "host/changes/ChangeReports.h"
 #include "host/help/AboutDialog.h"
 #include "host/help/HelpWindows.h"
 #include "host/menu/DocumentMenus.h"
@@ -120,7 +123,8 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   };
   control_->ShowAboveText(*new ConversionNotice(control_->Tessel(), control_));
   control_->ShowAboveText(*new ReadingNotice(*control_, control_));
-  control_->ShowAboveText(*new ChangeNotice(*control_, guard_, messages_, keepText, control_));
+  changeNotice_ = new ChangeNotice(*control_, guard_, messages_, keepText, control_);
+  control_->ShowAboveText(*changeNotice_);
   splitter_ = new QSplitter(Qt::Horizontal, centre);
   splitter_->addWidget(control_);
   column->addWidget(splitter_, 1);
@@ -131,6 +135,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   qApp->installEventFilter(this);
   BuildMenu();
   BuildStatusBar();
+  ReportChanges();
   OutlineReplacements();
   connect(control_, &TesselWidget::statusText, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::textRefused, this, &MainWindow::ShowNotice);
@@ -184,7 +189,9 @@ void MainWindow::OfferTextCommands() {
   using enum WindowCommand;
   menu_->On(kUndo, [this] { histories_.Undo(); });
   menu_->On(kRedo, [this] { histories_.Redo(); });
-  menu_->On(kToggleComment, [this] { ToggleCommentLines(*control_); });
+  menu_->On(kToggleComment, [this] {
+    if (ToggleCommentLines(*control_)) changes_->LinesChanged();
+  });
   menu_->On(kFindBar, [this] { find_->Find(); });
   menu_->On(kReplace, [this] { find_->Replace(); });
   menu_->On(kNextMatch, [this] { find_->FindNext(); });
@@ -244,6 +251,17 @@ void MainWindow::RememberSession() {
 void MainWindow::BuildStatusBar() {
   statusBar()->setSizeGripEnabled(true);
   new DocumentStatus(*statusBar(), *control_);
+}
+
+void MainWindow::ReportChanges() {
+  changes_ = new ChangeReports(*statusBar(), *control_, histories_);
+  walked_ = randomizeEnd_.Walked.Connect([this] { changes_->Randomizing(); });
+  connect(find_, &FindBar::replaced, changes_, &ChangeReports::Replaced);
+  connect(changeNotice_, &ChangeNotice::reloaded, changes_, &ChangeReports::Reloaded);
+  menu_->On(WindowCommand::kShowChanges, [this] { changes_->ShowChanges(); });
+  QAction& show = menu_->Action(WindowCommand::kShowChanges);
+  show.setEnabled(false);
+  connect(changes_, &ChangeReports::offered, &show, &QAction::setEnabled);
 }
 
 void MainWindow::OpenFiles(const std::vector<std::string>& paths) {
@@ -320,6 +338,8 @@ void MainWindow::ShowBackups() {
         new BackupsDialog(backups_->List(), path.empty() ? path : PathOfFile(path), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &BackupsDialog::chosen, this, &MainWindow::RestoreBackup);
+    connect(dialog, &BackupsDialog::comparisonWanted, this,
+            [this, dialog](const Backup& backup) { ShowChangesSince(backup, *dialog); });
     dialog->open();
   } catch (const posix::FileProblem& problem) {
     ShowNotice(tr("The backups cannot be read: %1.").arg(ShownName(problem.what())));
@@ -330,10 +350,21 @@ void MainWindow::RestoreBackup(const Backup& backup) {
   try {
     const KeptBytes kept = backups_->Read(backup);
     const std::string path = kept.damaged ? std::string() : OpenedPathOf(*control_, backup.path);
-    ShowRestoredText(control_->Tessel(), files_, path, kept.bytes);
+    if (ShowRestoredText(control_->Tessel(), files_, path, kept.bytes)) changes_->BackupShown();
     if (kept.damaged) ShowNotice(tr("The backup is damaged. This is what is left of it."));
   } catch (const posix::FileProblem& problem) {
     ShowNotice(tr("The backup cannot be read: %1.").arg(ShownName(problem.what())));
+  }
+}
+
+void MainWindow::ShowChangesSince(const Backup& backup, BackupsDialog& dialog) {
+  try {
+    const std::string path = OpenedPathOf(*control_, backup.path);
+    ShowDifferences(dialog, control_->CurrentEditorView(),
+                    {CompareBackup(backup, backups_->Read(backup).bytes, path,
+                                   control_->Tessel().OpenDocuments())});
+  } catch (const std::runtime_error& problem) {
+    ShowNotice(tr("The backup cannot be compared: %1.").arg(ShownName(problem.what())));
   }
 }
 
@@ -389,6 +420,15 @@ void MainWindow::StartSession() {
   session_.setInterval(kSessionMilliseconds);
   connect(&session_, &QTimer::timeout, this, &MainWindow::RememberSession);
   connect(control_, &TesselWidget::documentChanged, &session_, qOverload<>(&QTimer::start));
+}
+
+void MainWindow::ShowFirstHint() {
+  if (!preferences_.Wants(Wish::kHint)) return;
+  preferences_.Set(Wish::kHint, 0);
+  if (!control_->Tessel().OpenDocuments().Current().IsFree()) return;
+  auto* hint = new FirstStartHint(*control_, control_);
+  connect(hint, &FirstStartHint::manualWanted, this, [this] { ShowManual(*this); });
+  control_->ShowAboveText(*hint);
 }
 
 // --- Files dropped anywhere in the window are opened, on the editor too

@@ -26,6 +26,9 @@
 
 namespace tessel {
 
+class BackupsDialog;
+class ChangeNotice;
+class ChangeReports;
 class KeepingLog;
 class RecoveryKeeper;
 class ScriptTools;
@@ -63,6 +66,8 @@ class MainWindow : public QMainWindow {
   bool KeepTexts();
   /// The program is about to end without asking: keeps every unsaved text and what is open.
   void KeepEverything();
+  /// Tells what to do first, if nothing is open: once, at the first start.
+  void ShowFirstHint();
   /// Opens the documents of the last run, if the user wants that, and remembers those of this run.
   void StartSession();
 
@@ -87,10 +92,12 @@ class MainWindow : public QMainWindow {
   void OfferPreferences();
   void OfferHelp();
   void BuildStatusBar();
+  void ReportChanges();
   void ShowBackups();
   void LimitBackups();
   bool KeepAsBackup(const std::string& path, std::string_view text);
   void RestoreBackup(const Backup& backup);
+  void ShowChangesSince(const Backup& backup, BackupsDialog& dialog);
   void ShowDocument();
   void RememberSession();
   void SaveLook();
@@ -110,7 +117,9 @@ class MainWindow : public QMainWindow {
   SettingsStore& settings_;
   QSplitter* splitter_ = nullptr;
   MainMenu* menu_ = nullptr;
+  ChangeNotice* changeNotice_ = nullptr;
   FindBar* find_ = nullptr;
+  ChangeReports* changes_ = nullptr;
   ScriptTools* script_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
@@ -119,6 +128,7 @@ class MainWindow : public QMainWindow {
   QTimer session_;
   Subscription asking_;
   Subscription wishes_;
+  Subscription walked_;
 };
 
 }  // namespace tessel

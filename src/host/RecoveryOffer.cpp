@@ -8,6 +8,7 @@
 
 #include "base/RuntimeError.h"
 #include "host/RestoredText.h"
+#include "host/changes/DifferenceWindow.h"
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "safekeeping/DiskState.h"
@@ -30,6 +31,20 @@ QString Named(const KeptText& text, char separator) {
   const QString form =
       text.damaged ? QObject::tr("what is left of %1 (%2)") : QObject::tr("%1 (%2)");
   return form.arg(name.simplified(), time);
+}
+
+/// Beside its file as that is now, or beside nothing where there is no such file.
+Comparison ComparedWithItsFile(const KeptBytes& text, char separator) {
+  const bool hasFile = !text.path.empty() && DiskStateOf(text.path).exists;
+  const QString name =
+      text.path.empty() ? QString(kUntitled) : ShownName(NameOfPath(text.path, separator));
+  return {.document = Named(text, separator),
+          .nameBefore = hasFile ? QObject::tr("%1 on the disk").arg(name)
+                                : QObject::tr("No file of %1").arg(name),
+          .nameAfter = QObject::tr("The unsaved text of %1").arg(TimeOf(text.seconds)),
+          // Not through the guarded files: this is no look that the user has taken.
+          .before = hasFile ? PosixFiles().Read(text.path) : std::string(),
+          .after = text.bytes};
 }
 
 /// What is left of a text must not take a whole one's place, nor an older text a newer one's.
@@ -65,6 +80,7 @@ RecoveryOffer::RecoveryOffer(ucTessel& tessel, Files& files, MessageBox& message
   AddButton(tr("&Recover"), &RecoveryOffer::Recover);
   AddButton(tr("&Discard"), &RecoveryOffer::Discard);
   AddButton(tr("&Later"), &RecoveryOffer::Later);
+  AddButton(tr("Show D&ifferences"), &RecoveryOffer::Compare);
   setVisible(!texts_->Texts().empty());
 }
 
@@ -114,5 +130,16 @@ void RecoveryOffer::Discard() {
 }
 
 void RecoveryOffer::Later() { hide(); }
+
+void RecoveryOffer::Compare() try {
+  std::vector<Comparison> comparisons;
+  comparisons.reserve(texts_->Texts().size());
+  for (const KeptBytes& text : texts_->Texts()) {
+    comparisons.push_back(ComparedWithItsFile(text, files_.Separator()));
+  }
+  ShowDifferences(*window(), nullptr, std::move(comparisons));
+} catch (const RuntimeError& error) {
+  messages_.Show(error.what(), MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
+}
 
 }  // namespace tessel

@@ -13,7 +13,7 @@ namespace tessel {
 
 /// A bar above the control, there while unsaved texts of a run that crashed or was killed wait for
 /// an answer. Recover shows them as modified documents; Discard asks once more; Later leaves them
-/// for the next start.
+/// for the next start; Show Differences shows how they differ from their files.
 class RecoveryOffer : public NoticeBar {
   Q_OBJECT
 
@@ -29,6 +29,7 @@ class RecoveryOffer : public NoticeBar {
   bool MayGoOverItsFile(const KeptText& text);
   void Discard();
   void Later();
+  void Compare();
   QString Sentence() const;
 
   ucTessel& tessel_;

@@ -131,6 +131,7 @@ int Run(const Options& options) {
   }
   window.OpenFiles(options.files);
   if (picture) return TakePicture(window, options.screenshot) && !written.Any() ? 0 : 1;
+  window.ShowFirstHint();
   return QApplication::exec();
 }
 

@@ -17,27 +17,27 @@ class TextCommands : public QObject {
 /// An edit of the current document by its user; refused, with its reason, where the text is for
 /// reading.
 template <class Edit>
-void EditByUser(TesselWidget& control, Edit edit) {
+bool EditByUser(TesselWidget& control, Edit edit) {
   ScintillaView* view = control.CurrentEditorView();
-  if (control.Tessel().Running() || view == nullptr) return;
+  if (control.Tessel().Running() || view == nullptr) return false;
   if (const auto& reading = view->CurrentReading()) {
     emit control.textRefused(reading->why);
-    return;
+    return false;
   }
   RichTextBox& editor = control.Tessel().OpenDocuments().CurrentEditor();
   const RichTextBox::Gesture gesture(editor, false);
-  edit(editor);
+  return edit(editor);
 }
 
 }  // namespace
 
-void ToggleCommentLines(TesselWidget& control) {
-  EditByUser(control, [](RichTextBox& editor) {
+bool ToggleCommentLines(TesselWidget& control) {
+  return EditByUser(control, [](RichTextBox& editor) {
     const auto [start, length, text] =
         ToggleComments(editor.Bytes(), editor.SelStart(), editor.SelLength());
     const bool caretOnly = editor.SelLength() == 0;
     const Position fromEnd = start + length - editor.SelEnd();
-    if (editor.Bytes().substr(start, length) == text) return;
+    if (editor.Bytes().substr(start, length) == text) return false;
     editor.EditByHand(start, length, text);
     const Position end = start + std::ssize(text);
     if (caretOnly) {
@@ -45,6 +45,7 @@ void ToggleCommentLines(TesselWidget& control) {
     } else {
       editor.SelectByHand(start, std::ssize(text));
     }
+    return true;
   });
 }
 

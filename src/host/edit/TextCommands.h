@@ -6,8 +6,9 @@
 
 namespace tessel {
 
-/// Comments the lines of the selection, or takes that back. One edit of the user's.
-void ToggleCommentLines(TesselWidget& control);
+/// Comments the lines of the selection, or takes that back: one edit of the user's. True when it
+/// has changed the text.
+bool ToggleCommentLines(TesselWidget& control);
 
 /// Asks for a line of the document in front and goes there.
 void AskForLine(TesselWidget& control);

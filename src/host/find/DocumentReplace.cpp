@@ -52,7 +52,9 @@ QString DocumentReplace::One(const QString& text) {
     const Position behind = search_.Pattern()->Behind(search_.Text(), *match) - match->End();
     auto changes = ChangesOf(*search_.Pattern(), search_.Text(), {*match}, replacement);
     from = match->start + std::ssize(changes.front().inserted) + behind;
-    Change(control_.Tessel().OpenDocuments().CurrentEditor(), std::move(changes));
+    const Document front = control_.Tessel().OpenDocuments().Current();
+    Change(front.Editor(), std::move(changes));
+    Replaced.Raise(1, {front.Place()});
   }
   search_.Step(from, Direction::kForward);
   return {};
@@ -76,7 +78,9 @@ QString DocumentReplace::All(const QString& text) {
     if (!replacement.Problem().isEmpty()) return replacement.Problem();
     const std::size_t replaced = ReplaceIn(search_.Limit(), replacement);
     search_.CountAgain();
-    return replaced == 0 ? tr("Nothing was found to replace.") : tr("%1 replaced").arg(replaced);
+    if (replaced == 0) return tr("Nothing was found to replace.");
+    Replaced.Raise(replaced, {control_.Tessel().OpenDocuments().Current().Place()});
+    return {};
   } catch (const RuntimeError& error) {
     return QString::fromUtf8(error.what());
   }
@@ -90,7 +94,7 @@ QString DocumentReplace::Everywhere(const QString& text) {
   const DocumentList& documents = control_.Tessel().OpenDocuments();
   const Slot front = documents.Current().Place();
   std::size_t replaced = 0;
-  int changed = 0;
+  std::vector<Slot> changed;
   QString problem;
   try {
     for (const Document& document : documents.All()) {
@@ -101,7 +105,7 @@ QString DocumentReplace::Everywhere(const QString& text) {
         continue;
       }
       replaced += ReplaceIn(std::nullopt, ReplacementBy(text));
-      ++changed;
+      changed.push_back(document.Place());
     }
   } catch (const RuntimeError& error) {
     problem = QString::fromUtf8(error.what());
@@ -109,10 +113,8 @@ QString DocumentReplace::Everywhere(const QString& text) {
   if (documents.Current().Place() != front) documents.Select(front);
   search_.CountAgain();
   if (replaced == 0) return problem.isEmpty() ? tr("Nothing was found to replace.") : problem;
-  const QString result = changed == 1
-                             ? tr("%1 replaced in 1 document").arg(replaced)
-                             : tr("%1 replaced in %2 documents").arg(replaced).arg(changed);
-  return problem.isEmpty() ? result : result + ". " + problem;
+  Replaced.Raise(replaced, changed);
+  return problem;
 }
 
 }  // namespace tessel

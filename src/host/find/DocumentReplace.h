@@ -14,13 +14,17 @@
 namespace tessel {
 
 /// Replaces as a person does: in the document in front, and nothing where it is open for reading
-/// only. What it returns is a sentence for the status bar. `control` and `search` outlive it.
+/// only. What it returns is a sentence for the status bar when something was in the way, else it is
+/// empty. `control` and `search` outlive it.
 class DocumentReplace {
   Q_DECLARE_TR_FUNCTIONS(DocumentReplace)
 
  public:
   DocumentReplace(TesselWidget& control, DocumentSearch& search)
       : control_(control), search_(search) {}
+
+  /// So many have been replaced in these documents.
+  Event<std::size_t, const std::vector<Slot>&> Replaced;
 
   /// Replaces the match that is selected, if there is one, and goes on to the next. Returns a
   /// sentence when something is in the way.

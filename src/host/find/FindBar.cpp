@@ -67,13 +67,20 @@ void FindBar::BuildReplaceRow(QGridLayout& rows) {
   row_ = new ReplaceRow(rows, 1, this);
   row_->SetVisible(false);
   setTabOrder(field_, row_->Field());
-  connect(row_, &ReplaceRow::oneWanted, this, [this] {
+  const auto tell = [this](const QString& problem) {
+    if (!problem.isEmpty()) emit told(problem);
+  };
+  connect(row_, &ReplaceRow::oneWanted, this, [this, tell] {
     typed_ = false;
-    if (const QString why = replace_.One(row_->Text()); !why.isEmpty()) emit told(why);
+    tell(replace_.One(row_->Text()));
   });
-  connect(row_, &ReplaceRow::allWanted, this, [this] { emit told(replace_.All(row_->Text())); });
+  connect(row_, &ReplaceRow::allWanted, this, [this, tell] { tell(replace_.All(row_->Text())); });
   connect(row_, &ReplaceRow::everywhereWanted, this,
-          [this] { emit told(replace_.Everywhere(row_->Text())); });
+          [this, tell] { tell(replace_.Everywhere(row_->Text())); });
+  replaced_ =
+      replace_.Replaced.Connect([this](std::size_t count, const std::vector<Slot>& documents) {
+        emit replaced(count, documents);
+      });
   connect(row_, &ReplaceRow::inSelectionToggled, this, &FindBar::LimitToSelection);
   connect(&search_, &DocumentSearch::limitDropped, row_, [this] { row_->ShowInSelection(false); });
 }

@@ -48,6 +48,8 @@ class FindBar : public QFrame {
  signals:
   /// A sentence for the status bar.
   void told(const QString& sentence);
+  /// So many matches have been replaced in these documents.
+  void replaced(std::size_t count, const std::vector<Slot>& documents);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -76,6 +78,7 @@ class FindBar : public QFrame {
   TesselWidget& control_;
   DocumentSearch& search_;
   DocumentReplace replace_{control_, search_};
+  Subscription replaced_;
   MatchMarks marks_;
   FindField* field_ = nullptr;
   ReplaceRow* row_ = nullptr;

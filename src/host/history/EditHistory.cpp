@@ -26,6 +26,13 @@ void EditHistory::Clear() {
   done_ = 0;
 }
 
+std::string EditHistory::Before(std::string text, const Step& step) {
+  for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
+    text.replace(static_cast<std::size_t>(edit->at), edit->inserted.size(), edit->removed);
+  }
+  return text;
+}
+
 void EditHistory::Undo(RichTextBox& editor) {
   if (!CanUndo()) return;
   const Step& step = steps_[--done_];

@@ -19,6 +19,12 @@ class EditHistory {
     /// The same step where it replaces what the one before inserted: another key of a value.
     kSameValue,
   };
+  struct Edit {
+    Position at = 0;
+    std::string removed;
+    std::string inserted;
+  };
+  using Step = std::vector<Edit>;
 
   void Record(const TextEdit& edit, Join join);
   void Clear();
@@ -30,14 +36,12 @@ class EditHistory {
   void Undo(RichTextBox& editor);
   void Redo(RichTextBox& editor);
 
- private:
-  struct Edit {
-    Position at = 0;
-    std::string removed;
-    std::string inserted;
-  };
-  using Step = std::vector<Edit>;
+  /// What Undo would take back; empty where there is nothing.
+  Step NewestStep() const { return CanUndo() ? steps_[done_ - 1] : Step(); }
+  /// The text in front of a step, by the text behind it.
+  static std::string Before(std::string text, const Step& step);
 
+ private:
   bool ContinuesValue(const TextEdit& edit) const;
 
   std::vector<Step> steps_;

@@ -1,5 +1,6 @@
 #include "host/history/Histories.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/ScopeGuard.h"
@@ -13,6 +14,7 @@ Histories::Histories(ucTessel& tessel) : tessel_(tessel) {
       controls.rtbCon.Loaded.Connect([this](RichTextBox& editor) { Follow(editor); }));
   subscriptions_.push_back(tessel_.CommandEnded.Connect([this] {
     commandIn_.reset();
+    lastEdited_ = std::exchange(edited_, {});
     panelWrites_ = false;
   }));
   subscriptions_.push_back(tessel_.OpenDocuments().Moved.Connect([this](Slot from, Slot to) {
@@ -51,6 +53,10 @@ EditHistory::Join Histories::JoinOf(std::size_t slot, const TextEdit& edit) {
   if (std::exchange(commandIn_, slot) == slot) {
     valueOpen_ = false;
     return kSameStep;
+  }
+  if (const Slot place{static_cast<int>(slot)};
+      std::ranges::find(edited_, place) == edited_.end()) {
+    edited_.push_back(place);
   }
   const bool sameValue = panelWrites_ && valueOpen_;
   valueOpen_ = panelWrites_;

@@ -19,6 +19,10 @@ class Histories {
   /// In the document in front.
   bool CanUndo() const { return Current().CanUndo(); }
   bool CanRedo() const { return Current().CanRedo(); }
+  bool CanUndo(Slot slot) const { return At(Index(slot)).CanUndo(); }
+  EditHistory::Step NewestStep(Slot slot) const { return At(Index(slot)).NewestStep(); }
+  /// The documents that the last command to end has edited: their newest step is that command's.
+  const std::vector<Slot>& EditedByLastCommand() const { return lastEdited_; }
   void Undo();
   void Redo();
 
@@ -39,6 +43,8 @@ class Histories {
   ucTessel& tessel_;
   mutable std::vector<EditHistory> histories_;  // by slot
   std::optional<std::size_t> commandIn_;        // where the command on its way has edited
+  std::vector<Slot> edited_;                    // by the command on its way
+  std::vector<Slot> lastEdited_;
   bool panelWrites_ = false;
   bool valueOpen_ = false;
   bool replaying_ = false;

@@ -53,6 +53,7 @@ constexpr MenuRow kMenuRows[] = {
 
     Item(kEdit, TR("&Undo"), "Ctrl+Z", Do::kUndo),
     Item(kEdit, TR("&Redo"), "Ctrl+Y; Ctrl+Shift+Z", Do::kRedo),
+    Item(kEdit, TR("S&how Last Changes"), "F8", Do::kShowChanges),
     Line(kEdit),
     Popup(kEdit, TR("Cu&t"), "Ctrl+X", "mnuRtbPopupEditCut"),
     Popup(kEdit, TR("&Copy"), "Ctrl+C", "mnuRtbPopupEditCopy"),

@@ -24,6 +24,7 @@ enum class WindowCommand {
   // Edit
   kUndo,
   kRedo,
+  kShowChanges,
   kToggleComment,
   kPreferences,
   // Search

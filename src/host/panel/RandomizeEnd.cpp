@@ -19,6 +19,7 @@ RandomizeEnd::RandomizeEnd(ucTessel& tessel) : tessel_(tessel) {
 
 void RandomizeEnd::OnCommandEnded() {
   if (!std::exchange(walked_, false)) return;
+  Walked.Raise();
   tessel_.Run([this] {
     RichTextBox& editor = tessel_.OpenDocuments().CurrentEditor();
     editor.SetSelStart(editor.SelStart());

@@ -14,6 +14,9 @@ class RandomizeEnd {
  public:
   explicit RandomizeEnd(ucTessel& tessel);
 
+  /// A walk has ended; a command that only deselects comes next.
+  Event<> Walked;
+
  private:
   void OnCommandEnded();
 

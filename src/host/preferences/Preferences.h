@@ -26,6 +26,7 @@ enum class Wish {
   kPlaces,       ///< where files were left; no wish of its own, but kept like one
   kTheme,        ///< 0 as the desktop, 1 light, 2 dark
   kBackups,      ///< how many are kept of one file, from 1 to kMostBackupsOfAFile
+  kHint,         ///< what to do first is told at the start
 };
 
 inline constexpr int kMostBackupsOfAFile = 200;
