@@ -24,7 +24,7 @@ class SecondViews : public ScriptTest {
   SecondPane& Pane() { return *Shown().findChild<SecondPane*>(); }
   SecondText& Second() { return Pane().Text(); }
   std::string Title() { return Pane().findChild<QLabel*>("secondTitle")->text().toStdString(); }
-  void ShowCurrent() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_F8); }
+  void ShowCurrent() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_F7); }
   std::vector<std::string> Listed() {
     QMenu& list = Shown().findChild<MainMenu*>()->SubMenu(WindowCommand::kSecondView);
     emit list.aboutToShow();

@@ -87,7 +87,7 @@ constexpr MenuRow kMenuRows[] = {
     Toggle(kView, TR("Show &Blanks"), nullptr, Do::kShowBlanks),
     Toggle(kView, TR("&Ruler at Column 80"), nullptr, Do::kRuler),
     Toggle(kView, TR("Scroll Bar &Marks"), nullptr, Do::kScrollMarks),
-    SubMenu(kView, TR("Second &View"), "F8", Do::kSecondView),
+    SubMenu(kView, TR("Second &View"), "F7", Do::kSecondView),
     Toggle(kView, TR("Wor&ds on the Toolbar"), nullptr, Do::kButtonWords),
 
     Button(kGame, TR("Randomize &All Sections"), nullptr, "RandAll"),
