@@ -113,7 +113,8 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
       settings_(services.settings) {
   dialogs_.StartAt([this] { return control_->Tessel().OpenDocuments().Current().Path(); });
   guard_.Watch(control_->Tessel().OpenDocuments());
-  panel_.Watch(control_->Tessel());
+  panel_.Watch(control_->Tessel(),
+               [this](Slot slot) -> const language::Script& { return script_->ScriptOf(slot); });
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);

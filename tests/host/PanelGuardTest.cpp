@@ -1,11 +1,17 @@
 // The settings panel writes nothing over what is no setting without a question, and shows what it
 // would write over.
 #include <QApplication>
+#include <algorithm>
+#include <random>
 #include <utility>
 
 #include "HostFixture.h"
+#include "host/panel/PanelGuard.h"
+#include "host/script/OpenScripts.h"
+#include "language/SettingLines.h"
 #include "qt/editor/ScintillaView.h"
 #include "randomizer/frmRand.h"
+#include "support/BestSeconds.h"
 #include "support/SelectionText.h"
 
 namespace tessel::test {
@@ -163,6 +169,80 @@ TEST_F(Panel, AWordGoesOverASelectionThatIsSeenWithoutAQuestion) {
   Editor().SetHideSelection(true);
   C().lstWords.PickTwice(0);
   EXPECT_TRUE(TakeAsked().empty()) << "nothing is replaced";
+}
+
+// --- What is read for that
+
+/// The guard alone, without the commands that find a setting.
+class PanelGuardReads : public Panel {
+ protected:
+  PanelGuardReads() {
+    guard_.Watch(Run().window->Control().Tessel(),
+                 [this](Slot slot) -> const language::Script& { return scripts_.Of(slot); });
+  }
+
+  OpenScripts scripts_{C().rtbCon};
+  PanelGuard guard_{Run().fakes.messages};
+};
+
+TEST_F(PanelGuardReads, TheTextAsItIsNowWhateverWasDoneToIt) {
+  const std::vector<std::string> pieces = {"define A 100\r\n",
+                                           "// ",
+                                           "/*",
+                                           "*/",
+                                           "\r\n",
+                                           "x",
+                                           " ",
+                                           "definelevelname 0 0 a.map 1:00 2:00 T\r\n"};
+  std::mt19937 random{19};  // NOLINT: the same each time
+  const auto below = [&random](Position count) {
+    return static_cast<Position>(random() % static_cast<unsigned long>(count));
+  };
+  int allowed = 0;
+  constexpr int kSteps = 1000;
+  for (int step = 0; step < kSteps; ++step) {
+    const Position at = below(Editor().Length() + 1);
+    const Position deed = step == 0 ? 0 : below(10);
+    if (deed == 0) {
+      Editor().SetText("define A 1 // x\r\ndefine B 2\r\nstate c ends\r\n");
+    } else if (deed == 1) {
+      Editor().Undo();
+    } else if (deed < 4) {
+      Editor().EditByHand(at, std::min<Position>(3, Editor().Length() - at), {});
+    } else {
+      Editor().EditByHand(at, 0, pieces[static_cast<std::size_t>(below(std::ssize(pieces)))]);
+    }
+    const Position start = below(Editor().Length() + 1);
+    Editor().SelectByHand(start, std::min<Position>(below(3), Editor().Length() - start));
+    const language::Script script(Editor().Bytes());
+    const language::Range selected{Editor().SelStart(), Editor().SelEnd()};
+    const bool value = LiesInDefineValue(script, selected);
+    ASSERT_EQ(guard_.MayWrite(PanelWrite::kValue, "5"), value) << step << ": " << Shown();
+    const bool level = LiesInLevel(script, selected);
+    ASSERT_EQ(guard_.MayWrite(PanelWrite::kLevel, "5"), level) << step << ": " << Shown();
+    allowed += value || level ? 1 : 0;
+  }
+  EXPECT_GT(allowed, kSteps / 50);
+  EXPECT_LT(allowed, kSteps / 2);
+}
+
+TEST_F(PanelGuardReads, NoMoreThanWhatHasChanged) {
+  constexpr Position kSize = 10'000'000;
+  std::string text;
+  while (std::ssize(text) < kSize) text += "define SOMETHING 100 // as it was\r\n";
+  Editor().SetText(text);
+  const double whole = BestSecondsOf(3, [&] { const language::Script script(Editor().Bytes()); });
+  Editor().SelectByHand(17, 3);
+  ASSERT_TRUE(guard_.MayWrite(PanelWrite::kValue, "5"));
+  double write = 1e9;
+  for (int i = 0; i < 5; ++i) {
+    Editor().EditByHand(17, 3, std::to_string(101 + i));
+    Editor().SelectByHand(17, 3);
+    write = std::min(write, BestSecondsOf(1, [&] { guard_.MayWrite(PanelWrite::kValue, "5"); }));
+  }
+  EXPECT_LE(write, whole / 10) << "the whole text takes " << whole << " seconds";
+  RecordProperty("Microseconds", static_cast<int>(write * 1e6));
+  RecordProperty("MicrosecondsOfTheWhole", static_cast<int>(whole * 1e6));
 }
 
 // --- After Randomize

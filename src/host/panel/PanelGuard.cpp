@@ -1,6 +1,7 @@
 #include "host/panel/PanelGuard.h"
 
 #include <string>
+#include <utility>
 
 #include "base/ScopeGuard.h"
 #include "language/SettingLines.h"
@@ -9,20 +10,6 @@ namespace tessel {
 namespace {
 
 constexpr std::size_t kMostQuoted = 60;
-
-bool Belongs(PanelWrite write, const RichTextBox& editor) {
-  const language::Range selected{editor.SelStart(), editor.SelEnd()};
-  switch (write) {
-    case PanelWrite::kValue:
-    case PanelWrite::kYesNo:
-      return LiesInDefineValue(language::Script(editor.Bytes()), selected);
-    case PanelWrite::kLevel:
-      return LiesInLevel(language::Script(editor.Bytes()), selected);
-    case PanelWrite::kWord:
-      return editor.SelLength() == 0 || !editor.HideSelection();
-  }
-  return false;
-}
 
 /// The line's fault, as a clause.
 const char* WhyNot(PanelWrite write) {
@@ -44,8 +31,8 @@ std::string Quoted(std::string_view text) {
   return '"' + std::string(shown) + (shown.size() < text.size() ? "...\"" : "\"");
 }
 
-std::string Question(PanelWrite write, std::string_view text, const RichTextBox& editor) {
-  const Position line = language::Script(editor.Bytes()).PlaceOf(editor.SelStart()).line;
+std::string Question(PanelWrite write, std::string_view text, const RichTextBox& editor,
+                     Position line) {
   if (editor.SelLength() == 0) {
     return "Nothing is selected: " + Quoted(text) + " would be inserted into line " +
            std::to_string(line) + ".\nInsert it?";
@@ -56,30 +43,42 @@ std::string Question(PanelWrite write, std::string_view text, const RichTextBox&
 
 }  // namespace
 
-void PanelGuard::Watch(ucTessel& tessel) {
+void PanelGuard::Watch(ucTessel& tessel, ScriptOf scriptOf) {
   documents_ = &tessel.OpenDocuments();
+  scriptOf_ = std::move(scriptOf);
   subscriptions_ = {tessel.CommandEnded.Connect([this] { OnCommandEnded(); })};
 }
 
+bool PanelGuard::Belongs(PanelWrite write) const {
+  const language::Range selected{Editor().SelStart(), Editor().SelEnd()};
+  switch (write) {
+    case PanelWrite::kValue:
+    case PanelWrite::kYesNo:
+      return LiesInDefineValue(Script(), selected);
+    case PanelWrite::kLevel:
+      return LiesInLevel(Script(), selected);
+    case PanelWrite::kWord:
+      return Editor().SelLength() == 0 || !Editor().HideSelection();
+  }
+  return false;
+}
+
 bool PanelGuard::MayWrite(PanelWrite write, std::string_view text) {
-  const RichTextBox& editor = documents_->CurrentEditor();
-  if (Belongs(write, editor)) return true;
+  if (Belongs(write)) return true;
   neededInCommand_ = true;
   const Slot slot = documents_->Current().Place();
-  const language::Script script(editor.Bytes());
-  const Position line = script.PlaceOf(editor.SelStart()).line;
+  const Position line = Script().PlaceOf(Editor().SelStart()).line;
   const bool known = answer_ && answer_->slot == slot && answer_->line == line &&
-                     editor.SelEnd() <= script.Line(line).end;
-  if (!known) answer_ = {slot, line, Ask(write, text)};
+                     Editor().SelEnd() <= Script().Line(line).end;
+  if (!known) answer_ = {slot, line, Ask(write, text, line)};
   return answer_->yes;
 }
 
-bool PanelGuard::Ask(PanelWrite write, std::string_view text) {
+bool PanelGuard::Ask(PanelWrite write, std::string_view text, Position line) {
   Asking.Raise(true);
   const ScopeGuard answered([this] { Asking.Raise(false); });
-  return messages_.Show(Question(write, text, documents_->CurrentEditor()),
-                        MessageIcon::kExclamation, kProgramTitle,
-                        MessageButtons::kNoYes) == MessageAnswer::kYes;
+  return messages_.Show(Question(write, text, Editor(), line), MessageIcon::kExclamation,
+                        kProgramTitle, MessageButtons::kNoYes) == MessageAnswer::kYes;
 }
 
 void PanelGuard::OnCommandEnded() {

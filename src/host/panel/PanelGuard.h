@@ -1,11 +1,13 @@
 // What the settings panel may write over.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "control/ucTessel.h"
+#include "language/Script.h"
 #include "services/Services.h"
 
 namespace tessel {
@@ -19,8 +21,11 @@ class PanelGuard {
   /// It outlives this.
   explicit PanelGuard(MessageBox& messages) : messages_(messages) {}
 
-  /// The control whose panel this is.
-  void Watch(ucTessel& tessel);
+  /// An up-to-date reading of a document's text, valid until the text changes.
+  using ScriptOf = std::function<const language::Script&(Slot)>;
+
+  /// The control whose panel this is, and what its documents say.
+  void Watch(ucTessel& tessel, ScriptOf scriptOf);
 
   bool MayWrite(PanelWrite write, std::string_view text);
 
@@ -34,11 +39,15 @@ class PanelGuard {
     bool yes;
   };
 
-  bool Ask(PanelWrite write, std::string_view text);
+  bool Belongs(PanelWrite write) const;
+  bool Ask(PanelWrite write, std::string_view text, Position line);
+  const RichTextBox& Editor() const { return documents_->CurrentEditor(); }
+  const language::Script& Script() const { return scriptOf_(documents_->Current().Place()); }
   void OnCommandEnded();
 
   MessageBox& messages_;
   const DocumentList* documents_ = nullptr;
+  ScriptOf scriptOf_;
   std::optional<Answer> answer_;
   bool neededInCommand_ = false;
   std::vector<Subscription> subscriptions_;

@@ -28,6 +28,8 @@ class ScriptTools : public QObject {
   ScriptTools(QMainWindow& window, TesselWidget& control, Preferences& preferences,
               SettingsStore& settings);
 
+  /// What a document says, up to date, and valid until its text changes.
+  const language::Script& ScriptOf(Slot slot) { return scripts_.Of(slot); }
   /// As the user left it.
   void RestoreLook() { outline_.RestoreLook(); }
 
