@@ -39,6 +39,7 @@
 #include "posix/PosixFiles.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
+#include "qt/views/BoxPaste.h"
 #include "qt/views/ComboBoxView.h"
 #include "qt/views/ToolbarView.h"
 #include "services/Paths.h"
@@ -134,6 +135,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   setCentralWidget(centre);
   setAcceptDrops(true);
   qApp->installEventFilter(this);
+  qApp->installEventFilter(new BoxPaste(this));
   BuildMenu();
   BuildStatusBar();
   ReportChanges();

@@ -388,6 +388,15 @@ TEST_F(ScintillaViewSystemClipboard, KeepsAllBytes) {
   EXPECT_EQ(clipboard.GetText(), "");
 }
 
+TEST_F(ScintillaViewSystemClipboard, Gives128MiBWhole) {
+  std::string text;
+  while (text.size() < std::size_t{128} << 20U) text += "define SOMETHING 100 // \x80\r\n";
+  clipboard.SetText(text);
+  Paste(model, clipboard);
+  EXPECT_TRUE(model.Bytes() == text);
+  clipboard.Clear();
+}
+
 TEST_F(ScintillaViewSystemClipboard, ShowsOtherProgramsTheCharacters) {
   clipboard.SetText("\x80\x93");
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("\u20AC\u201C"));

@@ -1,18 +1,33 @@
-// Whether the program that has the clipboard can be asked.
+// What another program gives that has the clipboard, without the toolkit's long patience.
 #pragma once
 
 #include <QClipboard>
+#include <QMimeData>
 #include <chrono>
+#include <cstddef>
+#include <memory>
 
 namespace tessel {
 
-/// How long a program that has the clipboard may keep a person waiting.
-inline constexpr std::chrono::milliseconds kOwnerPatience{900};
+/// How long a program that has the clipboard may keep a person waiting. A large text may take
+/// longer, as long as it keeps coming.
+inline constexpr std::chrono::milliseconds kOwnerPatience{750};
+/// More is not taken from it: no editor can show it.
+inline constexpr std::size_t kMostFromOwner = std::size_t{512} << 20U;
 
-/// False when another program has the clipboard (or the selection) and does not say within that
-/// time what it holds: a stopped program, for instance. The toolkit would wait several seconds for
-/// it, at every question. True also where nobody can tell: on anything but X.
-bool SelectionOwnerAnswers(QClipboard::Mode mode,
-                           std::chrono::milliseconds patience = kOwnerPatience);
+enum class OwnerAnswer {
+  kNotAsked,  ///< nobody has it, or this program, or this is not X: the toolkit is not kept waiting
+  kGiven,
+  kNone,  ///< a stopped program, for instance
+  kTooLarge
+};
+
+struct OwnersData {
+  OwnerAnswer answer = OwnerAnswer::kNotAsked;
+  std::unique_ptr<QMimeData> data;  ///< of kGiven: the text, or that there is something else
+};
+
+/// Asks the program that has the clipboard (or the selection) for its text.
+OwnersData ReadFromOwner(QClipboard::Mode mode);
 
 }  // namespace tessel

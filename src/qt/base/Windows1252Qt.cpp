@@ -15,8 +15,6 @@
 namespace tessel {
 namespace {
 
-const QString kBytesFormat = QStringLiteral("application/x-tessel-text");
-
 struct Utf8Map {
   std::array<std::string, 256> of;
 

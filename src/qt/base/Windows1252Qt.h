@@ -28,6 +28,8 @@ std::ptrdiff_t CharactersOfUtf8(std::string_view utf8);
 /// (a NUL among them) for editors of this kind.
 std::unique_ptr<QMimeData> MimeOfBytes(std::string_view bytes);
 bool HoldsText(const QMimeData& data);
+/// The format of the bytes.
+inline constexpr const char* kBytesFormat = "application/x-tessel-text";
 /// The bytes of such text. A text with a character that has no byte is a RuntimeError (the sentence
 /// of RefusalOf): half a text would be a silent loss.
 std::string BytesOfMime(const QMimeData& data);

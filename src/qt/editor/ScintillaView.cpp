@@ -12,7 +12,7 @@
 #include <QWheelEvent>
 
 #include "base/RuntimeError.h"
-#include "qt/base/SelectionOwner.h"
+#include "qt/base/HeldText.h"
 #include "qt/base/Windows1252Qt.h"
 #include "qt/editor/EditorKeys.h"
 #include "qt/editor/EditorSetUp.h"
@@ -228,15 +228,14 @@ void ScintillaView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ScintillaView::PasteFromMouse(QPoint at) {
-  const QClipboard* system = QGuiApplication::clipboard();
   const auto offset = OffsetAt(at);
-  if (!system->supportsSelection() || !offset) return;
-  if (!SelectionOwnerAnswers(QClipboard::Selection)) {
-    emit textRefused(tr("The program that has the selection does not answer. Nothing was pasted."));
-    return;
+  if (!QGuiApplication::clipboard()->supportsSelection() || !offset) return;
+  const HeldText held = ReadHeldText(QClipboard::Selection);
+  if (!held.refusal.isEmpty()) {
+    emit textRefused(held.refusal);
+  } else if (held.data != nullptr && HoldsText(*held.data)) {
+    commands_.PasteAt(*offset, *held.data);
   }
-  const QMimeData* held = system->mimeData(QClipboard::Selection);
-  if (held != nullptr && HoldsText(*held)) commands_.PasteAt(*offset, *held);
 }
 
 void ScintillaView::contextMenuEvent(QContextMenuEvent* event) {

@@ -6,17 +6,13 @@
 #include <QMimeData>
 
 #include "base/RuntimeError.h"
-#include "qt/base/SelectionOwner.h"
+#include "qt/base/HeldText.h"
 #include "qt/base/Windows1252Qt.h"
 
 namespace tessel {
 namespace {
 
 constexpr qint64 kNoAnswer = 1000;  // milliseconds
-
-[[noreturn]] void RefuseWithoutAnswer() {
-  throw RuntimeError("The program that has the clipboard does not answer. Nothing was pasted.");
-}
 
 /// Where nobody could tell before, or the program stopped in between, the toolkit waits some
 /// seconds for it, gives up, and waits anew at the next question: this is the only one before an
@@ -26,7 +22,7 @@ bool HoldsNothing(const QMimeData& data) {
   asked.start();
   if (!data.formats().isEmpty()) return false;
   if (asked.elapsed() < kNoAnswer) return true;
-  RefuseWithoutAnswer();
+  throw RuntimeError("The program that has the clipboard does not answer. Nothing was pasted.");
 }
 
 }  // namespace
@@ -38,11 +34,13 @@ void QtClipboard::SetText(const std::string& text) {
 }
 
 std::string QtClipboard::GetText() {
-  if (!SelectionOwnerAnswers(QClipboard::Clipboard)) RefuseWithoutAnswer();
-  const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  if (data == nullptr || HoldsNothing(*data)) return {};
-  if (!HoldsText(*data)) throw RuntimeError("The clipboard holds no text. Nothing was pasted.");
-  return BytesOfMime(*data);
+  const HeldText held = ReadHeldText(QClipboard::Clipboard);
+  if (!held.refusal.isEmpty()) throw RuntimeError(held.refusal.toStdString());
+  if (held.data == nullptr || HoldsNothing(*held.data)) return {};
+  if (!HoldsText(*held.data)) {
+    throw RuntimeError("The clipboard holds no text. Nothing was pasted.");
+  }
+  return BytesOfMime(*held.data);
 }
 
 }  // namespace tessel

@@ -13,6 +13,7 @@
 #include "qt/base/ControlView.h"
 #include "qt/base/QtText.h"
 #include "qt/looks/Theme.h"
+#include "qt/views/BoxPaste.h"
 #include "qt/views/ByteValidator.h"
 
 namespace tessel {
@@ -69,6 +70,9 @@ void ComboBoxView::MakeEditable() {
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
   lineEdit()->setMaxLength(kLongestTyped);
+  auto* paste = new BoxPaste(this);
+  installEventFilter(paste);
+  lineEdit()->installEventFilter(paste);
   auto* validator = new ByteValidator(this);
   setValidator(validator);
   connect(validator, &ByteValidator::refused, this,

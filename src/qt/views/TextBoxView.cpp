@@ -7,12 +7,14 @@
 #include "qt/base/ControlView.h"
 #include "qt/base/QtText.h"
 #include "qt/base/Windows1252Qt.h"
+#include "qt/views/BoxPaste.h"
 #include "qt/views/ByteValidator.h"
 
 namespace tessel {
 
 TextBoxView::TextBoxView(TextBox& model, QWidget* parent) : QLineEdit(parent), model_(model) {
   setMaxLength(kLongestTyped);
+  installEventFilter(new BoxPaste(this));
   auto* validator = new ByteValidator(this);
   setValidator(validator);
   connect(validator, &ByteValidator::refused, this,
@@ -50,6 +52,9 @@ void TextBoxView::Draw() {
 MultiLineTextBoxView::MultiLineTextBoxView(TextBox& model, QWidget* parent)
     : QPlainTextEdit(parent), model_(model) {
   setTabChangesFocus(true);
+  auto* paste = new BoxPaste(this);
+  installEventFilter(paste);
+  viewport()->installEventFilter(paste);
   connect(this, &QPlainTextEdit::textChanged, this, &MultiLineTextBoxView::TakeText);
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
   selectAll_ = model_.SelectAllRequested.Connect([this] { selectAll(); });
