@@ -221,6 +221,7 @@ TEST_F(Safekeeping, OfSeveralTextsOfOneFileTheNewestTakesItsDocument) {
   Run().fakes.messages.answers = {MessageAnswer::kNo};
   Run().Controls().tbToolBar.Press("FileClose");
   Run().window->OpenFiles({user_});
+  Run().Editor(1).SelectByHand(0, 0);
   Run().Editor(1).Type("new ");
   KeepNow();
   ASSERT_EQ(KeptTexts().size(), 2U);
