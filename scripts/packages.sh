@@ -18,7 +18,7 @@ all_packages=(
   clang libclang-rt-14-dev clang-format clang-tidy git
   desktop-file-utils appstream libxml2-utils shared-mime-info file
   build-essential dpkg-dev debhelper devscripts lintian
-  xvfb xdotool xauth
+  xvfb xdotool xauth openbox x11-utils
   zsh fish patch
 )
 
