@@ -180,6 +180,7 @@ void ScintillaMirror::ColourApart(SciRange page) {
 }
 
 void ScintillaMirror::AboutToDraw() {
+  text_.MakeStyles(colours_.Palette());
   if (colours_.AreLive() && state_.Is(kInStep)) text_.AskForPage();
 }
 

@@ -27,6 +27,7 @@ class ScintillaStyles {
   /// A second style of the same colour and paint; a twin's twin is the first. Where no style is
   /// left, the style itself.
   int TwinOf(int style);
+  bool HasTwins() const { return !twins_.empty(); }
   /// The style of text that takes no place on the screen.
   int Hidden();
   /// All but the hidden one, in the order of their making.

@@ -113,6 +113,13 @@ bool ScintillaText::IsFarBehindPage(SciPosition at) const {
   return at > document_.Page().end + kFar;
 }
 
+void ScintillaText::MakeStyles(std::span<const Colour> palette) {
+  for (const Colour colour : palette) {
+    const int style = styles_.StyleOf(colour);
+    if (styles_.HasTwins()) styles_.TwinOf(style);
+  }
+}
+
 void ScintillaText::ColourRange(SciRange range, std::string_view bytes, DrawnColours& colours) {
   const SciPosition start = StartOfCharacterAt(range.start);
   const SciPosition end = range.end;

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -35,6 +36,10 @@ class ScintillaText {
   /// Colours everything up to `end` that the document has no colours for. `bytes` is the model's
   /// text, which is the document's now.
   void ColourUpTo(SciPosition end, std::string_view bytes, DrawnColours& colours);
+
+  /// Makes the styles for these colours. While the document draws itself it would be too late: new
+  /// styles take away what it draws with.
+  void MakeStyles(std::span<const Colour> palette);
 
   // --- The same for colours that change far from an edit: only what is in sight is sure to be
   // right
