@@ -45,20 +45,6 @@ void HeadlessPlayer::PressKey(Form& form, int code, int shift) {
   if (button != nullptr && button->Usable()) button->Press();
 }
 
-std::vector<Tab> HeadlessPlayer::Tabs(const TabStrip& strip) const {
-  std::vector<Tab> tabs;
-  for (int tab = 1; tab <= strip.Count(); ++tab) tabs.push_back(strip.At(tab));
-  return tabs;
-}
-
-SelectedRange HeadlessPlayer::Selection(const RichTextBox& editor) const {
-  return {editor.SelStart(), editor.SelLength()};
-}
-
-std::vector<ColourRun> HeadlessPlayer::Colours(const RichTextBox& editor) const {
-  return editor.Store().Runs(0, editor.Length());
-}
-
 void HeadlessPlayer::Resize(ucTessel& control, Twips width, Twips height) {
   control.Resize(width, height);
 }

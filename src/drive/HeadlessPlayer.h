@@ -10,9 +10,11 @@
 namespace tessel::drive {
 
 /// Thrown by HeadlessPlayer::Leave through whatever showed the form.
-struct Left {};
+struct Left {
+  int status = 0;
+};
 
-/// Plays on the models alone and reads them.
+/// Plays on the models alone.
 class HeadlessPlayer : public Player {
  public:
   void Press(CommandButton& button) override { button.Press(); }
@@ -36,27 +38,12 @@ class HeadlessPlayer : public Player {
   void PressKey(ucTessel& control, int code, int shift) override { control.KeyDown(code, shift); }
   void PressKey(Form& form, int code, int shift) override;
 
-  bool Enabled(const Control& control) const override { return control.Enabled(); }
-  std::string Caption(const Control& control) const override { return control.Caption(); }
-  bool Checked(const CheckBox& box) const override { return box.Value(); }
-  bool Checked(const OptionButton& option) const override { return option.Value(); }
-  std::string Text(const TextBox& box) const override { return box.Text(); }
-  std::string Text(const ComboBox& box) const override { return box.Text(); }
-  std::vector<std::string> Entries(const ListControl& list) const override { return list.List(); }
-  int ListIndex(const ListControl& list) const override { return list.ListIndex(); }
-  std::vector<Tab> Tabs(const TabStrip& strip) const override;
-  int SelectedTab(const TabStrip& strip) const override { return strip.Selected(); }
-  std::vector<ToolbarButton> Buttons(const Toolbar& bar) const override { return bar.Buttons(); }
-  std::vector<MenuItem> Items(const PopupMenu& menu) const override { return menu.Items(); }
-  std::string Text(const RichTextBox& editor) const override { return editor.Text(); }
-  SelectedRange Selection(const RichTextBox& editor) const override;
-  std::vector<ColourRun> Colours(const RichTextBox& editor) const override;
-
   ucTessel& Open(const Services& services) override;
   void Close() override { control_.reset(); }
   void Resize(ucTessel& control, Twips width, Twips height) override;
   void Settle() override {}
-  [[noreturn]] void Leave() override { throw Left(); }
+  std::vector<std::string> Differences() const override { return {}; }
+  [[noreturn]] void Leave(int status) override { throw Left{status}; }
 
  private:
   std::unique_ptr<ucTessel> control_;

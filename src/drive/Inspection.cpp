@@ -8,9 +8,10 @@
 namespace tessel::drive {
 namespace {
 
-Json DocumentTabs(const TabStrip& strip, const Sight& sight) {
+Json DocumentTabs(const TabStrip& strip) {
   Json tabs = Json::array();
-  for (const Tab& tab : sight.Tabs(strip)) {
+  for (int place = 1; place <= strip.Count(); ++place) {
+    const Tab& tab = strip.At(place);
     tabs.push_back({{"caption", FromBytes(tab.caption)},
                     {"tag", FromBytes(tab.tag)},
                     {"image", FromBytes(tab.image)}});
@@ -18,11 +19,10 @@ Json DocumentTabs(const TabStrip& strip, const Sight& sight) {
   return tabs;
 }
 
-Json Editors(const HostedControls& controls, const Sight& sight) {
+Json Editors(const HostedControls& controls) {
   Json editors = Json::array();
   for (int i = 0; i < controls.rtbCon.Count(); ++i) {
     const RichTextBox& editor = controls.rtbCon[i];
-    const SelectedRange range = sight.Selection(editor);
     editors.push_back({{"left", FromTwips(editor.Left())},
                        {"top", FromTwips(editor.Top())},
                        {"width", FromTwips(editor.Width())},
@@ -31,21 +31,21 @@ Json Editors(const HostedControls& controls, const Sight& sight) {
                        {"tag", FromBytes(editor.Tag())},
                        {"fileName", FromBytes(editor.FileName())},
                        {"length", editor.Length()},
-                       {"selStart", range.start},
-                       {"selLength", range.length},
+                       {"selStart", editor.SelStart()},
+                       {"selLength", editor.SelLength()},
                        {"canUndo", editor.CanUndo()}});
   }
   return editors;
 }
 
-Json Pages(const HostedControls& controls, const Sight& sight) {
+Json Pages(const HostedControls& controls) {
   Json pages = Json::array();
   for (int i = 0; i < controls.picCon.Count(); ++i) {
     const PictureBox& page = controls.picCon[i];
     pages.push_back({{"left", FromTwips(page.Left())},
                      {"top", FromTwips(page.Top())},
                      {"width", FromTwips(page.Width())},
-                     {"enabled", sight.Enabled(page)}});
+                     {"enabled", page.Enabled()}});
   }
   return pages;
 }
@@ -65,8 +65,8 @@ Json PlaceOf(const Control& control) {
           {"height", FromTwips(control.Height())}};
 }
 
-Json Category(const TabStrip& strip, const Sight& sight) {
-  Json category{{"selected", sight.SelectedTab(strip)}};
+Json Category(const TabStrip& strip) {
+  Json category{{"selected", strip.Selected()}};
   category.update(PlaceOf(strip));
   return category;
 }
@@ -80,27 +80,26 @@ Json EditorHost(const Control& host) {
 }  // namespace
 
 Json GetProperties(Stage& stage, const Fields& fields) {
-  return {{"value", PropertiesOf(NamedControl(stage, fields), stage.Person())}};
+  return {{"value", PropertiesOf(NamedControl(stage, fields))}};
 }
 
 Json GetText(Stage& stage, const Fields& fields) {
-  return {{"text", FromBytes(stage.Person().Text(NamedEditor(stage, fields)))}};
+  return {{"text", FromBytes(NamedEditor(stage, fields).Text())}};
 }
 
 Json GetColours(Stage& stage, const Fields& fields) {
-  return {{"runs", ColoursOf(NamedEditor(stage, fields), stage.Person())}};
+  return {{"runs", ColoursOf(NamedEditor(stage, fields))}};
 }
 
 Json GetState(Stage& stage, const Fields&) {
   const ucTessel& tessel = stage.Tessel();
   const HostedControls& controls = tessel.Controls();
-  const Sight& sight = stage.Person();
   Json state{{"current", Index(tessel.OpenDocuments().Current().Place())},
-             {"selectedTab", sight.SelectedTab(controls.tbsRtb)},
-             {"tabs", DocumentTabs(controls.tbsRtb, sight)},
-             {"editors", Editors(controls, sight)},
-             {"category", Category(controls.tbsCon, sight)},
-             {"pages", Pages(controls, sight)},
+             {"selectedTab", controls.tbsRtb.Selected()},
+             {"tabs", DocumentTabs(controls.tbsRtb)},
+             {"editors", Editors(controls)},
+             {"category", Category(controls.tbsCon)},
+             {"pages", Pages(controls)},
              {"frames", Frames(controls)},
              {"documentStrip", PlaceOf(controls.tbsRtb)},
              {"editorHost", EditorHost(controls.picRtb)},

@@ -1,4 +1,4 @@
-// The person in front of the control: what they do, and what they see.
+// The person in front of the control.
 #pragma once
 
 #include <string>
@@ -49,31 +49,8 @@ class Gestures {
   virtual void PressKey(Form& form, int code, int shift) = 0;
 };
 
-/// Reads what the person sees.
-class Sight {
- public:
-  virtual ~Sight() = default;
-
-  virtual bool Enabled(const Control& control) const = 0;
-  virtual std::string Caption(const Control& control) const = 0;
-  virtual bool Checked(const CheckBox& box) const = 0;
-  virtual bool Checked(const OptionButton& option) const = 0;
-  virtual std::string Text(const TextBox& box) const = 0;
-  virtual std::string Text(const ComboBox& box) const = 0;
-  virtual std::vector<std::string> Entries(const ListControl& list) const = 0;
-  virtual int ListIndex(const ListControl& list) const = 0;
-  virtual std::vector<Tab> Tabs(const TabStrip& strip) const = 0;
-  virtual int SelectedTab(const TabStrip& strip) const = 0;
-  virtual std::vector<ToolbarButton> Buttons(const Toolbar& toolbar) const = 0;
-  virtual std::vector<MenuItem> Items(const PopupMenu& menu) const = 0;
-  virtual std::string Text(const RichTextBox& editor) const = 0;
-  virtual SelectedRange Selection(const RichTextBox& editor) const = 0;
-  /// All maximal runs of one colour, black ones too.
-  virtual std::vector<ColourRun> Colours(const RichTextBox& editor) const = 0;
-};
-
 /// One platform's person.
-class Player : public Gestures, public Sight {
+class Player : public Gestures {
  public:
   /// Creates the control on the services, which outlive it, and runs its start-up.
   virtual ucTessel& Open(const Services& services) = 0;
@@ -83,8 +60,11 @@ class Player : public Gestures, public Sight {
   virtual void Resize(ucTessel& control, Twips width, Twips height) = 0;
   /// Lets everything that is pending happen.
   virtual void Settle() = 0;
-  /// Ends the program from inside a modal form, with status 0.
-  [[noreturn]] virtual void Leave() = 0;
+  /// What the screen shows otherwise than the models say, once all that was pending has happened: a
+  /// sentence each. Nothing where there is no screen.
+  virtual std::vector<std::string> Differences() const = 0;
+  /// Ends the program from wherever it is, also from inside a modal form.
+  [[noreturn]] virtual void Leave(int status) = 0;
 };
 
 }  // namespace tessel::drive

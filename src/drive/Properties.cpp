@@ -1,5 +1,7 @@
 #include "drive/Properties.h"
 
+#include "surface/HostedControls.h"
+
 namespace tessel::drive {
 namespace {
 
@@ -18,21 +20,22 @@ const char* NameOf(ButtonStyle style) {
 }
 
 template <class Captioned>
-bool AddCaption(Json& out, const Control& control, const Sight& sight) {
+bool AddCaption(Json& out, const Control& control) {
   const bool applies = dynamic_cast<const Captioned*>(&control) != nullptr;
-  if (applies) out["Caption"] = FromBytes(sight.Caption(control));
+  if (applies) out["Caption"] = FromBytes(control.Caption());
   return applies;
 }
 
-void AddList(Json& out, const ListControl& list, const Sight& sight) {
-  out["ListIndex"] = sight.ListIndex(list);
-  out["List"] = FromBytes(sight.Entries(list));
+void AddList(Json& out, const ListControl& list) {
+  out["ListIndex"] = list.ListIndex();
+  out["List"] = FromBytes(list.List());
 }
 
-void AddTabs(Json& out, const TabStrip& strip, const Sight& sight) {
-  out["Selected"] = sight.SelectedTab(strip);
+void AddTabs(Json& out, const TabStrip& strip) {
+  out["Selected"] = strip.Selected();
   Json tabs = Json::array();
-  for (const Tab& tab : sight.Tabs(strip)) {
+  for (int place = 1; place <= strip.Count(); ++place) {
+    const Tab& tab = strip.At(place);
     tabs.push_back({{"Caption", FromBytes(tab.caption)},
                     {"Key", FromBytes(tab.key)},
                     {"Tag", FromBytes(tab.tag)},
@@ -51,9 +54,9 @@ Json MenuOf(const ToolbarButton& button) {
   return menu;
 }
 
-void AddButtons(Json& out, const Toolbar& toolbar, const Sight& sight) {
+void AddButtons(Json& out, const Toolbar& toolbar) {
   Json buttons = Json::array();
-  for (const ToolbarButton& button : sight.Buttons(toolbar)) {
+  for (const ToolbarButton& button : toolbar.Buttons()) {
     buttons.push_back({{"Key", FromBytes(button.key)},
                        {"ToolTip", FromBytes(button.toolTip)},
                        {"Style", NameOf(button.style)},
@@ -80,61 +83,58 @@ Json SelColorOf(const RichTextBox& editor) {
   return colour ? Json(*colour) : Json();
 }
 
-void AddEditor(Json& out, const RichTextBox& editor, const Sight& sight) {
-  const std::string text = sight.Text(editor);
-  const SelectedRange range = sight.Selection(editor);
-  out["Text"] = FromBytes(text);
-  out["SelStart"] = range.start;
-  out["SelLength"] = range.length;
-  out["SelText"] = FromBytes(std::string_view(text).substr(static_cast<std::size_t>(range.start),
-                                                           static_cast<std::size_t>(range.length)));
+void AddEditor(Json& out, const RichTextBox& editor) {
+  out["Text"] = FromBytes(editor.Text());
+  out["SelStart"] = editor.SelStart();
+  out["SelLength"] = editor.SelLength();
+  out["SelText"] = FromBytes(editor.SelText());
   out["SelColor"] = SelColorOf(editor);
   out["HideSelection"] = editor.HideSelection();
   out["FileName"] = FromBytes(editor.FileName());
   out["CanUndo"] = editor.CanUndo();
 }
 
-void AddValue(Json& out, const Control& control, const Sight& sight) {
+void AddValue(Json& out, const Control& control) {
   if (const auto* box = dynamic_cast<const CheckBox*>(&control)) {
-    out["Value"] = sight.Checked(*box) ? 1 : 0;
+    out["Value"] = box->Value() ? 1 : 0;
   } else if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
-    out["Value"] = sight.Checked(*option);
+    out["Value"] = option->Value();
   }
 }
 
 }  // namespace
 
-Json PropertiesOf(const Control& control, const Sight& sight) {
+Json PropertiesOf(const Control& control) {
   Json out{{"Left", FromTwips(control.Left())},   {"Top", FromTwips(control.Top())},
            {"Width", FromTwips(control.Width())}, {"Height", FromTwips(control.Height())},
-           {"Visible", control.Visible()},        {"Enabled", sight.Enabled(control)},
+           {"Visible", control.Visible()},        {"Enabled", control.Enabled()},
            {"Tag", FromBytes(control.Tag())}};
-  AddCaption<Label>(out, control, sight) || AddCaption<Frame>(out, control, sight) ||
-      AddCaption<CommandButton>(out, control, sight) || AddCaption<CheckBox>(out, control, sight) ||
-      AddCaption<OptionButton>(out, control, sight);
-  AddValue(out, control, sight);
+  AddCaption<Label>(out, control) || AddCaption<Frame>(out, control) ||
+      AddCaption<CommandButton>(out, control) || AddCaption<CheckBox>(out, control) ||
+      AddCaption<OptionButton>(out, control);
+  AddValue(out, control);
   if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
-    out["Text"] = FromBytes(sight.Text(*box));
+    out["Text"] = FromBytes(box->Text());
   } else if (const auto* combo = dynamic_cast<const ComboBox*>(&control)) {
-    out["Text"] = FromBytes(sight.Text(*combo));
-    AddList(out, *combo, sight);
+    out["Text"] = FromBytes(combo->Text());
+    AddList(out, *combo);
   } else if (const auto* list = dynamic_cast<const ListControl*>(&control)) {
-    AddList(out, *list, sight);
+    AddList(out, *list);
   } else if (const auto* strip = dynamic_cast<const TabStrip*>(&control)) {
-    AddTabs(out, *strip, sight);
+    AddTabs(out, *strip);
   } else if (const auto* toolbar = dynamic_cast<const Toolbar*>(&control)) {
-    AddButtons(out, *toolbar, sight);
+    AddButtons(out, *toolbar);
   } else if (const auto* menu = dynamic_cast<const PopupMenu*>(&control)) {
-    out["Items"] = ItemsOf(sight.Items(*menu));
+    out["Items"] = ItemsOf(menu->Items());
   } else if (const auto* editor = dynamic_cast<const RichTextBox*>(&control)) {
-    AddEditor(out, *editor, sight);
+    AddEditor(out, *editor);
   }
   return out;
 }
 
-Json ColoursOf(const RichTextBox& editor, const Sight& sight) {
+Json ColoursOf(const RichTextBox& editor) {
   Json runs = Json::array();
-  for (const ColourRun& run : sight.Colours(editor)) {
+  for (const ColourRun& run : editor.Store().Runs(0, editor.Length())) {
     if (run.colour != kBlack) runs.push_back(Json::array({run.start, run.length, run.colour}));
   }
   return runs;

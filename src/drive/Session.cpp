@@ -6,6 +6,7 @@
 
 #include "drive/Commands.h"
 #include "drive/Refusal.h"
+#include "text/SafeText.h"
 
 namespace tessel::drive {
 namespace {
@@ -33,9 +34,9 @@ void Session::ShowModal(Form& form) {
 
   std::string line;
   while (form.Visible()) {
-    if (!std::getline(in_, line)) stage_->Person().Leave();
+    if (!std::getline(in_, line)) stage_->Person().Leave(0);
     Serve(line, &form);
-    if (quit_) stage_->Person().Leave();
+    if (quit_) stage_->Person().Leave(0);
   }
   stage_->OpenForms().pop_back();
   stage_->Log().Add("modal closed", {{"form", FromBytes(form.Name())}});
@@ -43,6 +44,7 @@ void Session::ShowModal(Form& form) {
 
 void Session::Serve(const std::string& line, const Form* form) {
   replyDue_ = true;
+  command_ = line;
   Json reply = Execute(line);
   stage_->Person().Settle();
   if (!replyDue_) return;
@@ -76,6 +78,16 @@ Json Session::Execute(const std::string& line) {
 void Session::Send(Json reply) {
   reply["events"] = stage_->Log().Take();
   out_ << reply.dump() << '\n' << std::flush;
+  LookAtScreen();
+}
+
+void Session::LookAtScreen() {
+  const std::vector<std::string> differences = stage_->Person().Differences();
+  if (differences.empty()) return;
+  errors_ << "The screen is not as the models say, after " << ForTerminal(command_) << '\n';
+  for (const std::string& difference : differences) errors_ << "  " << difference << '\n';
+  errors_.flush();
+  stage_->Person().Leave(1);
 }
 
 }  // namespace tessel::drive

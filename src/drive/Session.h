@@ -15,9 +15,13 @@ namespace tessel::drive {
 /// The session also shows the modal forms: the command that opens one is answered at once, the
 /// commands after it are served from inside ShowModal, and the command that hides the form is
 /// answered when everything that follows the closing has run.
+///
+/// After each reply the screen has to be as the models say. Where it is not, `errors` gets a line
+/// for each difference, and the program ends with status 1.
 class Session : public ModalForms {
  public:
-  Session(std::istream& in, std::ostream& out) : in_(in), out_(out) {}
+  Session(std::istream& in, std::ostream& out, std::ostream& errors)
+      : in_(in), out_(out), errors_(errors) {}
 
   /// Serves all commands.
   void Run(Stage& stage);
@@ -30,9 +34,12 @@ class Session : public ModalForms {
   void Serve(const std::string& line, const Form* form);
   Json Execute(const std::string& line);
   void Send(Json reply);
+  void LookAtScreen();
 
   std::istream& in_;
   std::ostream& out_;
+  std::ostream& errors_;
+  std::string command_;  // the last one
   Stage* stage_ = nullptr;
   bool replyDue_ = false;
   bool quit_ = false;

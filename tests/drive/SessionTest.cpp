@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "drive/HeadlessPlayer.h"
@@ -12,27 +13,45 @@
 namespace tessel::drive {
 namespace {
 
+/// A conversation and its two sides.
+struct Parts {
+  explicit Parts(const std::string& input) : in(input) {}
+
+  /// Returns the status with which the program ends.
+  int Play(Player& player) {
+    MemorySettingsStore settings;
+    PosixFiles files;
+    MemoryClipboard clipboard;
+    IdleMessageLoop loop;
+    try {
+      Session session(in, out, errors);
+      Stage stage({settings, files, clipboard, loop,
+                   [] { return std::make_unique<LinearCongruentialRandom>(); }, "/nowhere"},
+                  player, session);
+      session.Run(stage);
+    } catch (const Left& left) {
+      return left.status;
+    }
+    return 0;
+  }
+  std::vector<Json> Replies() const {
+    std::vector<Json> replies;
+    std::istringstream lines(out.str());
+    for (std::string line; std::getline(lines, line);) replies.push_back(Json::parse(line));
+    return replies;
+  }
+
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream errors;
+};
+
 /// The replies to all lines of a conversation without a screen.
 std::vector<Json> Replies(const std::string& input) {
-  MemorySettingsStore settings;
-  PosixFiles files;
-  MemoryClipboard clipboard;
-  IdleMessageLoop loop;
-  std::istringstream in(input);
-  std::ostringstream out;
+  Parts parts(input);
   HeadlessPlayer player;
-  try {
-    Session session(in, out);
-    Stage stage({settings, files, clipboard, loop,
-                 [] { return std::make_unique<LinearCongruentialRandom>(); }, "/nowhere"},
-                player, session);
-    session.Run(stage);
-  } catch (const Left&) {
-  }
-  std::vector<Json> replies;
-  std::istringstream lines(out.str());
-  for (std::string line; std::getline(lines, line);) replies.push_back(Json::parse(line));
-  return replies;
+  EXPECT_EQ(parts.Play(player), 0);
+  return parts.Replies();
 }
 
 const std::string kOpenFind = R"({"do":"click","control":"tbToolBar","key":"Find"})"
@@ -43,6 +62,35 @@ const std::string kState = R"({"do":"state"})"
                            "\n";
 
 std::string FirstEvent(const Json& reply) { return reply.at("events").at(0).at("event"); }
+
+/// A person whose screen is not as the models say once a form is open.
+class WrongScreenPlayer : public HeadlessPlayer {
+ public:
+  ucTessel& Open(const Services& services) override {
+    tessel_ = &HeadlessPlayer::Open(services);
+    return *tessel_;
+  }
+  std::vector<std::string> Differences() const override {
+    const bool open =
+        std::ranges::any_of(tessel_->Forms(), [](const Form* form) { return form->Visible(); });
+    return open ? std::vector<std::string>{"tbToolBar: enabled is true, expected false"}
+                : std::vector<std::string>{};
+  }
+
+ private:
+  ucTessel* tessel_ = nullptr;
+};
+
+TEST(DriveSession, EndsWithADifferenceOfTheScreenOnceItHasAnswered) {
+  Parts parts(kState + kOpenFind + kState);
+  WrongScreenPlayer player;
+  EXPECT_EQ(parts.Play(player), 1);
+  const auto replies = parts.Replies();
+  ASSERT_EQ(replies.size(), 2U);
+  EXPECT_EQ(FirstEvent(replies[1]), "modal");
+  EXPECT_EQ(parts.errors.str(), "The screen is not as the models say, after " + kOpenFind +
+                                    "  tbToolBar: enabled is true, expected false\n");
+}
 
 TEST(DriveSession, RefusesGesturesThatAControlDoesNotKnow) {
   const auto replies = Replies(R"({"do":"select","control":"tbToolBar","entry":0})"

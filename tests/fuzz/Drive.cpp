@@ -38,9 +38,10 @@ std::size_t Play(const std::string& input, std::ostringstream& out) {
   test::MemoryFiles files = SomeFiles();
   MemoryClipboard clipboard;
   IdleMessageLoop loop;
+  std::ostringstream errors;
   drive::HeadlessPlayer player;
   try {
-    drive::Session session(in, out);
+    drive::Session session(in, out, errors);
     drive::Stage stage({settings, files, clipboard, loop,
                         [] { return std::make_unique<LinearCongruentialRandom>(); }, "/host"},
                        player, session);

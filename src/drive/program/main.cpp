@@ -29,7 +29,7 @@ std::unique_ptr<SettingsStore> OpenStore(const std::string& file) {
 }
 
 void Play(World world, Player& player) {
-  Session session(std::cin, std::cout);
+  Session session(std::cin, std::cout, std::cerr);
   Stage stage(std::move(world), player, session);
   session.Run(stage);
 }
@@ -66,7 +66,8 @@ int main(int argc, char** argv) {
   try {
     HeadlessPlayer player;
     Play(std::move(world), player);
-  } catch (const Left&) {
+  } catch (const Left& left) {
+    return left.status;
   }
   return 0;
 }

@@ -24,6 +24,20 @@ void Press(QWidget& widget, int key, const QString& text) {
 
 }  // namespace
 
+std::string_view ShownUtf8(const ScintillaView& view) {
+  const long size = view.SendScintilla(Sci::SCI_GETLENGTH);
+  const auto address = view.SendScintilla(Sci::SCI_GETRANGEPOINTER, 0UL, size);
+  return {reinterpret_cast<const char*>(address), static_cast<std::size_t>(size)};
+}
+
+std::pair<Position, Position> ShownSelection(const ScintillaView& view) {
+  const std::string_view text = ShownUtf8(view);
+  const auto start = static_cast<std::size_t>(view.SendScintilla(Sci::SCI_GETSELECTIONSTART));
+  const auto end = static_cast<std::size_t>(view.SendScintilla(Sci::SCI_GETSELECTIONEND));
+  return {CharactersOfUtf8(text.substr(0, start)),
+          CharactersOfUtf8(text.substr(start, end - start))};
+}
+
 void EditorScreen::Type(const QString& text) {
   const auto lineEndOfReturn = [this] { return LineEndOfReturn(view_.mirror().Model().Bytes()); };
   view_.mirror().ByHand([&] {
@@ -48,19 +62,14 @@ void EditorScreen::Type(const QString& text) {
 
 std::string_view EditorScreen::Utf8() {
   view_.mirror().Settle();
-  const long size = view_.SendScintilla(Sci::SCI_GETLENGTH);
-  const auto address = view_.SendScintilla(Sci::SCI_GETRANGEPOINTER, 0UL, size);
-  return {reinterpret_cast<const char*>(address), static_cast<std::size_t>(size)};
+  return ShownUtf8(view_);
 }
 
 std::string EditorScreen::Text() { return BytesOfUtf8(Utf8()).value_or(std::string()); }
 
 std::pair<Position, Position> EditorScreen::Selection() {
-  const std::string_view text = Utf8();
-  const auto start = static_cast<std::size_t>(view_.SendScintilla(Sci::SCI_GETSELECTIONSTART));
-  const auto end = static_cast<std::size_t>(view_.SendScintilla(Sci::SCI_GETSELECTIONEND));
-  return {CharactersOfUtf8(text.substr(0, start)),
-          CharactersOfUtf8(text.substr(start, end - start))};
+  view_.mirror().Settle();
+  return ShownSelection(view_);
 }
 
 bool EditorScreen::SelectionShown() const { return !view_.mirror().SelectionHidden(); }

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,11 @@ class ScintillaView;
 }
 
 namespace tessel::drive {
+
+/// The text of a view's document in UTF-8, as it is at this moment. Valid until it changes.
+std::string_view ShownUtf8(const ScintillaView& view);
+/// Start and length of its selection, in bytes of the model.
+std::pair<Position, Position> ShownSelection(const ScintillaView& view);
 
 /// Plays a person at a ScintillaView and reads what the widget shows, not what the model holds. The
 /// view must outlive it.
@@ -35,7 +41,7 @@ class EditorScreen {
   std::vector<ColourRun> Colours();
 
  private:
-  /// The document's text in UTF-8.
+  /// The document's text in UTF-8, after everything pending.
   std::string_view Utf8();
 
   ScintillaView& view_;

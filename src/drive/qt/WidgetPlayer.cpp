@@ -1,9 +1,12 @@
 #include "drive/qt/WidgetPlayer.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <iterator>
 
+#include "drive/qt/WidgetComparison.h"
 #include "qt/base/TwipScale.h"
 
 namespace tessel::drive {
@@ -34,10 +37,16 @@ void WidgetPlayer::Resize(ucTessel& control, Twips width, Twips height) {
 
 void WidgetPlayer::Settle() { QApplication::processEvents(); }
 
+std::vector<std::string> WidgetPlayer::Differences() const {
+  std::vector<std::string> sentences;
+  std::ranges::transform(CompareWidgets(*tessel_), std::back_inserter(sentences), SentenceOf);
+  return sentences;
+}
+
 // The stack below holds the toolkit's event handlers, through which no exception may pass.
-void WidgetPlayer::Leave() {
+void WidgetPlayer::Leave(int status) {
   std::cout.flush();
-  std::_Exit(0);
+  std::_Exit(status);
 }
 
 }  // namespace tessel::drive

@@ -13,8 +13,7 @@
 
 namespace tessel::drive {
 
-/// Plays on a TesselWidget in a window of its own: mouse and key events go to the widgets, and what
-/// the widgets show is what is read. What no widget shows (tags, places in twips) is the model's.
+/// Plays on a TesselWidget in a window of its own: mouse and key events go to the widgets.
 ///
 /// A selection is made in the editor's model, because a mouse cannot point at every byte offset.
 class WidgetPlayer : public Player {
@@ -42,27 +41,12 @@ class WidgetPlayer : public Player {
   void PressKey(ucTessel& control, int code, int shift) override;
   void PressKey(Form& form, int code, int shift) override;
 
-  bool Enabled(const Control& control) const override;
-  std::string Caption(const Control& control) const override;
-  bool Checked(const CheckBox& box) const override;
-  bool Checked(const OptionButton& option) const override;
-  std::string Text(const TextBox& box) const override;
-  std::string Text(const ComboBox& box) const override;
-  std::vector<std::string> Entries(const ListControl& list) const override;
-  int ListIndex(const ListControl& list) const override;
-  std::vector<Tab> Tabs(const TabStrip& strip) const override;
-  int SelectedTab(const TabStrip& strip) const override;
-  std::vector<ToolbarButton> Buttons(const Toolbar& toolbar) const override;
-  std::vector<MenuItem> Items(const PopupMenu& menu) const override;
-  std::string Text(const RichTextBox& editor) const override;
-  SelectedRange Selection(const RichTextBox& editor) const override;
-  std::vector<ColourRun> Colours(const RichTextBox& editor) const override;
-
   ucTessel& Open(const Services& services) override;
   void Close() override;
   void Resize(ucTessel& control, Twips width, Twips height) override;
   void Settle() override;
-  [[noreturn]] void Leave() override;
+  std::vector<std::string> Differences() const override;
+  [[noreturn]] void Leave(int status) override;
 
  private:
   /// The widget of a control as what it must be. Throws std::logic_error when it has none such.
