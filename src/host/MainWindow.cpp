@@ -403,8 +403,8 @@ bool MainWindow::KeepTexts() { return keeper_ == nullptr || keeper_->KeepNow(); 
 
 void MainWindow::KeepEverything() {
   KeepTexts();
-  places_.KeepAll();
   RememberSession();
+  places_.KeepAll();
 }
 
 void MainWindow::StartSession() {
