@@ -94,7 +94,10 @@ Folding::Folding(TesselWidget& control, OpenScripts& scripts, StructureReader& r
   connect(&marking_, &QTimer::timeout, this, &Folding::MarkOn);
   subscriptions_ = {
       editors.Loaded.Connect([this](RichTextBox& editor) { Add(editor); }),
-      editors.Unloading.Connect([this](RichTextBox&) { selections_.pop_back(); }),
+      // It may not have come as far as here.
+      editors.Unloading.Connect([this](const RichTextBox& editor) {
+        if (std::ssize(selections_) > editor.Index()) selections_.pop_back();
+      }),
       reader.Read.Connect([this](Slot slot, const language::Structure& structure) {
         BeginMarking(slot, structure);
       }),

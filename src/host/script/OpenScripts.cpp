@@ -6,7 +6,10 @@ OpenScripts::OpenScripts(ControlArray<RichTextBox>& editors) : editors_(editors)
   for (int i = 0; i < editors_.Count(); ++i) Add(editors_[i]);
   subscriptions_ = {
       editors_.Loaded.Connect([this](RichTextBox& editor) { Add(editor); }),
-      editors_.Unloading.Connect([this](RichTextBox&) { readings_.pop_back(); }),
+      // It may not have come as far as here.
+      editors_.Unloading.Connect([this](const RichTextBox& editor) {
+        if (std::ssize(readings_) > editor.Index()) readings_.pop_back();
+      }),
   };
 }
 
