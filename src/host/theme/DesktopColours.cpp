@@ -1,8 +1,8 @@
 #include "host/theme/DesktopColours.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusReply>
+#include <QDBusVariant>
 
 namespace tessel {
 namespace {
@@ -39,7 +39,7 @@ DesktopColours::DesktopColours(const QDBusConnection& bus, QObject* parent)
   // Before the questions: a change in between is not missed. From any sender:
   // for one of a name the toolkit would wait until the bus says who that is.
   bus_.connect({}, kPortalPath, kSettingsInterface, "SettingChanged", this,
-               SLOT(OnSettingChanged(QString, QString, QDBusVariant)));
+               SLOT(OnSettingChanged(QDBusMessage)));
   Ask(kColorScheme);
   Ask(kContrast);
 }
@@ -56,9 +56,11 @@ void DesktopColours::Ask(const QString& key) {
   });
 }
 
-void DesktopColours::OnSettingChanged(const QString& group, const QString& key,
-                                      const QDBusVariant& value) {
-  if (group == kAppearance) Take(key, value.variant());
+void DesktopColours::OnSettingChanged(const QDBusMessage& message) {
+  const QList<QVariant> arguments = message.arguments();
+  if (arguments.value(0).toString() == kAppearance) {
+    Take(arguments.value(1).toString(), arguments.value(2));
+  }
 }
 
 void DesktopColours::Take(const QString& key, const QVariant& value) {

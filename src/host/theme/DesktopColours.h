@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <QVariant>
 
@@ -25,7 +25,7 @@ class DesktopColours : public QObject {
   void changed();
 
  private:
-  Q_SLOT void OnSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+  Q_SLOT void OnSettingChanged(const QDBusMessage& message);
   void Ask(const QString& key);
   void Take(const QString& key, const QVariant& value);
 
