@@ -4,9 +4,11 @@
 
 #include "HostFixture.h"
 #include "host/ReadingNotice.h"
+#include "qt/base/TwipScale.h"
 #include "qt/editor/ScintillaView.h"
 #include "qt/looks/Contrast.h"
 #include "qt/looks/Theme.h"
+#include "surface/CurrentEditor.h"
 
 namespace tessel::test {
 namespace {
@@ -45,11 +47,13 @@ TEST_F(NoticePlace, IsAboveTheTextAndMovesNothingElse) {
 }
 
 TEST_F(NoticePlace, GivesItsRoomBackToTheText) {
-  const QRect before = PlaceOf(*Run().window->Control().CurrentEditorView());
   ShowBar();
+  const QWidget& text = *Run().window->Control().CurrentEditorView();
+  const QRect meanwhile = text.geometry();
   Bar().hide();
   QApplication::processEvents();
-  EXPECT_EQ(PlaceOf(*Run().window->Control().CurrentEditorView()), before);
+  EXPECT_EQ(text.geometry(), PixelGeometry(CurrentEditor(Run().Controls()), text));
+  EXPECT_GT(text.height(), meanwhile.height());
 }
 
 TEST_F(NoticePlace, IsLightInTheLightThemeAndDarkInTheDark) {

@@ -42,7 +42,7 @@ TEST_F(Wishes, AreInEffectAtOnceAndInTheMenuToo) {
   EXPECT_EQ(View().SendScintilla(Sci::SCI_GETVIEWWS), Sci::SCWS_VISIBLEALWAYS);
   Box("R&uler at column 80").click();
   EXPECT_EQ(View().SendScintilla(Sci::SCI_GETEDGEMODE), Sci::EDGE_LINE);
-  Dialog().findChildren<QSpinBox*>().back()->setValue(4);
+  Dialog().findChildren<QSpinBox*>().at(1)->setValue(4);
   EXPECT_EQ(View().SendScintilla(Sci::SCI_GETTABWIDTH), 4);
 }
 

@@ -53,8 +53,8 @@ AboutDialog::AboutDialog(const QString& settingsFile, QWidget* parent) : QDialog
   texts->addSpacing(6);
   texts->addWidget(Wrapped(
       tr("Free software under the GNU General Public License, version 3, with icons of its own. It "
-         "uses Qt %1 (LGPL 3), QScintilla (GPL 3) with Scintilla (a licence of its own, without "
-         "conditions for use), SQLite (public domain), and the fonts of the desktop.")
+         "uses Qt %1 (LGPL 3), QScintilla (GPL 3) with Scintilla (a permissive licence), SQLite "
+         "(public domain), and the fonts of the desktop.")
           .arg(QString::fromLatin1(qVersion()))));
   auto* top = new QHBoxLayout;
   top->setSpacing(16);
