@@ -12,6 +12,7 @@
 #include "host/changes/ChangeLine.h"
 #include "host/changes/DifferenceWindow.h"
 #include "host/find/FindBar.h"
+#include "host/find/FindField.h"
 #include "randomizer/frmRand.h"
 
 namespace tessel::test {
@@ -85,7 +86,9 @@ class ChangeReport : public ScriptTest {
   void Replace(const QString& what, const QString& by, const QString& button) {
     auto& bar = *Shown().findChild<FindBar*>();
     bar.Replace();
-    bar.findChild<QLineEdit*>()->setText(what);
+    auto* field = bar.findChild<FindField*>()->lineEdit();
+    field->selectAll();
+    QTest::keyClicks(field, what);
     bar.findChild<QLineEdit*>("replacement")->setText(by);
     for (auto* each : bar.findChildren<QPushButton*>()) {
       if (each->text() == button) each->click();

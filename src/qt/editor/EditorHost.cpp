@@ -26,7 +26,12 @@ EditorHost::EditorHost(QWidget* parent)
   bars_->installEventFilter(this);
 }
 
-void EditorHost::ShowAbove(QWidget& bar) { column_->insertWidget(0, &bar); }
+// What gets another parent is hidden.
+void EditorHost::ShowAbove(QWidget& bar) {
+  const bool shown = !bar.isHidden();
+  column_->insertWidget(0, &bar);
+  bar.setVisible(shown);
+}
 
 bool EditorHost::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::LayoutRequest) ShareRoom();
