@@ -50,8 +50,7 @@ const Mark* NearestOf(const std::vector<Mark>& marks, const Distance& distanceOf
 
 void SortOnce(std::vector<int>& rows) {
   std::ranges::sort(rows);
-  const auto again = std::ranges::unique(rows);
-  rows.erase(again.begin(), again.end());
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
 }
 
 }  // namespace
