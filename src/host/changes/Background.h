@@ -1,7 +1,7 @@
 // Work on copies of texts while the window goes on.
 #pragma once
 
-#include <QFuture>
+#include <QFutureWatcher>
 #include <QPromise>
 #include <QThreadPool>
 #include <memory>
@@ -10,13 +10,19 @@
 
 namespace tessel {
 
-/// Runs `work` on another thread; it touches nothing that others have. Its result comes by
-/// QFuture::then on the thread of the context given there. Without memory for it there is none.
-template <class Work>
-auto InBackground(Work work) {
+/// Runs `work` on another thread; it touches nothing that others have. Then `use` gets the result
+/// on the thread of `context`, unless that is gone by then, or there was no memory for it.
+template <class Work, class Use>
+void InBackground(QObject& context, Work work, Use use) {
   using Result = decltype(work());
   auto promise = std::make_shared<QPromise<Result>>();
-  QFuture<Result> future = promise->future();
+  auto* watcher = new QFutureWatcher<Result>(&context);
+  QObject::connect(watcher, &QFutureWatcherBase::finished, &context,
+                   [watcher, use = std::move(use)]() mutable {
+                     watcher->deleteLater();
+                     if (watcher->future().resultCount() > 0) use(watcher->result());
+                   });
+  watcher->setFuture(promise->future());
   promise->start();
   QThreadPool::globalInstance()->start(
       [promise = std::move(promise), work = std::move(work)]() mutable {
@@ -26,7 +32,6 @@ auto InBackground(Work work) {
         } catch (const std::bad_alloc&) {  // it is cancelled when the promise goes
         }
       });
-  return future;
 }
 
 }  // namespace tessel

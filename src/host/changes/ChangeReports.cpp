@@ -125,18 +125,21 @@ void ChangeReports::Post(ChangeReport report) {
 }
 
 void ChangeReports::Count() {
-  InBackground([texts = TextsOf(report_->documents.front()),
-                values = report_->kind == ChangeKind::kRandomized] {
-    const std::string before = texts.Before();
-    ChangeCounts counts{ChangedLines(before, texts.after)};
-    if (values) counts.values = ChangedValues(before, texts.after);
-    return counts;
-  }).then(this, [this, number = posted_](const ChangeCounts& counts) {
-    if (number != posted_ || !report_) return;
-    // One line is in sight anyway.
-    if (report_->kind == ChangeKind::kLines && counts.lines < 2) return Drop();
-    Say(SentenceOf(*report_, counts));
-  });
+  InBackground(
+      *this,
+      [texts = TextsOf(report_->documents.front()),
+       values = report_->kind == ChangeKind::kRandomized] {
+        const std::string before = texts.Before();
+        ChangeCounts counts{ChangedLines(before, texts.after)};
+        if (values) counts.values = ChangedValues(before, texts.after);
+        return counts;
+      },
+      [this, number = posted_](const ChangeCounts& counts) {
+        if (number != posted_ || !report_) return;
+        // One line is in sight anyway.
+        if (report_->kind == ChangeKind::kLines && counts.lines < 2) return Drop();
+        Say(SentenceOf(*report_, counts));
+      });
 }
 
 // --- The line

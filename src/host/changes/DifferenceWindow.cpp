@@ -105,12 +105,15 @@ void DifferenceWindow::Compare() {
   nameAfter_->setText(QStringLiteral("+  ") + chosen.nameAfter);
   view_->SetDifference(nullptr, tabWidth_);
   ShowState();
-  InBackground([before = chosen.before, after = chosen.after]() mutable {
-    return std::shared_ptr<const LineDifference>(
-        std::make_shared<LineDifference>(std::move(before), std::move(after)));
-  }).then(this, [this, number = ++asked_](std::shared_ptr<const LineDifference> difference) {
-    if (number == asked_) TakeOver(std::move(difference));
-  });
+  InBackground(
+      *this,
+      [before = chosen.before, after = chosen.after]() mutable {
+        return std::shared_ptr<const LineDifference>(
+            std::make_shared<LineDifference>(std::move(before), std::move(after)));
+      },
+      [this, number = ++asked_](std::shared_ptr<const LineDifference> difference) {
+        if (number == asked_) TakeOver(std::move(difference));
+      });
 }
 
 void DifferenceWindow::TakeOver(std::shared_ptr<const LineDifference> difference) {
