@@ -21,6 +21,9 @@ all_packages=(
   xvfb xdotool xauth openbox x11-utils
   zsh fish patch
 )
+# What the programs of bench/ take besides; no test does.
+# shellcheck disable=SC2034
+bench_packages=(libbenchmark-dev xvfb)
 
 install_missing() {
   local missing=() package
