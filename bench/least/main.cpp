@@ -15,7 +15,9 @@ int main(int argc, char** argv) {
   }
   QMainWindow window;
   auto* editor = new QsciScintilla(&window);
+  editor->SendScintilla(QsciScintillaBase::SCI_SETUNDOCOLLECTION, 0UL);  // opening is no edit
   editor->SendScintilla(QsciScintillaBase::SCI_SETTEXT, file.readAll().constData());
+  editor->SendScintilla(QsciScintillaBase::SCI_SETUNDOCOLLECTION, 1UL);
   editor->setMarginLineNumbers(0, true);
   editor->setMarginWidth(0, QStringLiteral("000000"));
   window.setCentralWidget(editor);
