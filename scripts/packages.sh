@@ -4,7 +4,7 @@
 build_packages=(
   g++ cmake ninja-build pkg-config
   qt6-base-dev qt6-svg-dev libqt6svg6 qt6-tools-dev libqscintilla2-qt6-dev libgl-dev libxcb1-dev
-  libsqlite3-dev libcli11-dev nlohmann-json3-dev
+  libsqlite3-dev libcli11-dev nlohmann-json3-dev libtomlplusplus-dev
   fonts-dejavu-core
 )
 # What "./test.sh" takes besides.

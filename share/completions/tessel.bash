@@ -11,6 +11,9 @@ _tessel_options() {
     levels) echo "--json --tsv" ;;
     level) echo "--map --title --line $edit" ;;
     colour) echo "--format" ;;
+    diff) echo "--markdown --toml --json --tsv" ;;
+    apply) echo "--skip-missing $edit" ;;
+    check) echo "--only --no --warnings-as-errors --store --json --tsv --sarif --list-rules --explain" ;;
     words) echo "--store" ;;
     new) echo "--output --force" ;;
   esac
@@ -30,10 +33,15 @@ _tessel_levels() {
   tessel levels --tsv -- "$1" 2>/dev/null | sed 1d | cut -f 2 | tr ' ' /
 }
 
+# The rules of "check".
+_tessel_rules() {
+  tessel check --list-rules 2>/dev/null | cut -d ' ' -f 1
+}
+
 _tessel() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
   local command=${COMP_WORDS[1]} choices=
-  local commands="convert randomize settings get set levels level colour words new help"
+  local commands="convert randomize settings get set levels level colour check diff apply words new help"
   compopt +o filenames 2>/dev/null
   COMPREPLY=()
 
@@ -46,6 +54,7 @@ _tessel() {
         [[ $command == randomize ]] && choices="All $choices" ;;
       --format) choices="ansi html json" ;;
       --line-ends) choices="control keep" ;;
+      --only | --no | --explain) choices=$(_tessel_rules) ;;
       --lower | --upper | --bounds | --percent | --seed | --map | --title | --line) return ;;
     esac
   fi

@@ -1,5 +1,5 @@
 # fish completion for tessel
-set -l commands convert randomize settings get set levels level colour words new help
+set -l commands convert randomize settings get set levels level colour check diff apply words new help
 set -l words_commands list get set remove import export
 set -l no_command "not __fish_seen_subcommand_from $commands"
 
@@ -11,6 +11,9 @@ end
 function __tessel_levels
     set -l words (commandline -opc)
     tessel levels --tsv -- $words[3] 2>/dev/null | sed 1d | cut -f 2 | tr ' ' /
+end
+function __tessel_rules
+    tessel check --list-rules 2>/dev/null | cut -d ' ' -f 1
 end
 function __tessel_has_file
     test (count (commandline -opc)) -ge 3
@@ -26,13 +29,16 @@ complete -c tessel -f -n $no_command -a set -d 'Change values'
 complete -c tessel -f -n $no_command -a levels -d 'List the levels'
 complete -c tessel -f -n $no_command -a level -d 'Show or change a level'
 complete -c tessel -f -n $no_command -a colour -d 'Print a file in colours'
+complete -c tessel -f -n $no_command -a check -d 'Find faults in the files of a mod'
+complete -c tessel -f -n $no_command -a diff -d 'Compare the values of two files'
+complete -c tessel -f -n $no_command -a apply -d 'Write a page of values into files'
 complete -c tessel -f -n $no_command -a words -d 'Keep the list of script words'
 complete -c tessel -f -n $no_command -a new -d 'Start a file from a template'
 complete -c tessel -f -n $no_command -a help -d 'Tell about a subcommand'
 
-set -l edits '__fish_seen_subcommand_from convert randomize set level; and not __fish_seen_subcommand_from words'
-set -l results '__fish_seen_subcommand_from convert randomize set level new export'
-set -l reports '__fish_seen_subcommand_from convert randomize settings get set levels level list'
+set -l edits '__fish_seen_subcommand_from convert randomize set level apply; and not __fish_seen_subcommand_from words'
+set -l results '__fish_seen_subcommand_from convert randomize set level apply new export'
+set -l reports '__fish_seen_subcommand_from convert randomize settings get set levels level check diff apply list'
 complete -c tessel -n $results -s o -l output -r -d 'Write the result to this file'
 complete -c tessel -n $results -l force -d 'Replace a file that is there'
 complete -c tessel -n $edits -l in-place -d 'Write the result over the file'
@@ -56,7 +62,16 @@ complete -c tessel -n '__fish_seen_subcommand_from randomize' -l seed -x -d 'Sta
 complete -c tessel -n '__fish_seen_subcommand_from level' -l map -x -d 'The new map'
 complete -c tessel -n '__fish_seen_subcommand_from level' -l title -x -d 'The new title'
 complete -c tessel -n '__fish_seen_subcommand_from colour' -l format -x -a 'ansi html json'
-complete -c tessel -n '__fish_seen_subcommand_from words' -l store -r -d 'The settings file'
+complete -c tessel -n '__fish_seen_subcommand_from words check' -l store -r -d 'The settings file'
+complete -c tessel -n '__fish_seen_subcommand_from diff' -l markdown -d 'Print a Markdown table'
+complete -c tessel -n '__fish_seen_subcommand_from diff' -l toml -d 'Print what apply reads'
+complete -c tessel -n '__fish_seen_subcommand_from apply' -l skip-missing -d 'Pass over what a file does not have'
+complete -c tessel -n '__fish_seen_subcommand_from check' -l only -x -a '(__tessel_rules)' -d 'Apply this rule alone'
+complete -c tessel -n '__fish_seen_subcommand_from check' -l no -x -a '(__tessel_rules)' -d 'Do not apply this rule'
+complete -c tessel -n '__fish_seen_subcommand_from check' -l explain -x -a '(__tessel_rules)' -d 'Tell about a rule'
+complete -c tessel -n '__fish_seen_subcommand_from check' -l list-rules -d 'List the rules'
+complete -c tessel -n '__fish_seen_subcommand_from check' -l warnings-as-errors -d 'End with status 1 for them'
+complete -c tessel -n '__fish_seen_subcommand_from check' -l sarif -d 'Print a SARIF log'
 complete -c tessel -f -n "__fish_seen_subcommand_from words; and not __fish_seen_subcommand_from $words_commands" -a "$words_commands"
 complete -c tessel -f -n '__fish_seen_subcommand_from new' -a '13DU 15AU 13DD 15AD 13DG 15AG'
 complete -c tessel -f -n '__fish_seen_subcommand_from help' -a "$commands"

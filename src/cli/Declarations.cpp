@@ -6,8 +6,10 @@
 #include <array>
 #include <utility>
 
-#include "cli/LevelName.h"
+#include "check/rules/Rules.h"
 #include "cli/SharedOptions.h"
+#include "cli/look/LevelName.h"
+#include "cli/report/Suggestion.h"
 #include "documents/Templates.h"
 
 namespace tessel::cli {
@@ -269,6 +271,105 @@ void AddColour(CLI::App& program, Arguments& all) {
   command->callback([&colour, &all] { all.good = PrintInColours(colour); });
 }
 
+const check::Rule* RuleOf(const std::string& name, const char* option) {
+  if (const check::Rule* rule = check::RuleNamed(name)) return rule;
+  Words names;
+  for (const check::Rule* rule : check::AllRules()) names.emplace_back(rule->id);
+  const std::string guess = DidYouMean(name, names);
+  throw CLI::ValidationError(
+      option, "there is no rule \"" + name + "\"" + (guess.empty() ? "" : ". " + guess));
+}
+
+std::vector<const check::Rule*> RulesOf(const Words& names, const char* option) {
+  std::vector<const check::Rule*> rules;
+  rules.reserve(names.size());
+  for (const std::string& name : names) rules.push_back(RuleOf(name, option));
+  return rules;
+}
+
+void AddCheckOptions(CLI::App& command, CheckArguments& check, CheckWords& words) {
+  command.add_option("FILE", check.files, "the CON files of one mod; \"-\" is standard input");
+  command.add_option("--only", words.only, "apply this rule alone; may be repeated")
+      ->type_name("RULE")
+      ->allow_extra_args(false);
+  command.add_option("--no", words.off, "do not apply this rule; may be repeated")
+      ->type_name("RULE")
+      ->allow_extra_args(false);
+  command.add_flag("--warnings-as-errors", check.warningsAreErrors, "end with status 1 for them");
+  command.add_option("--store", check.store, "the settings file with the script words")
+      ->type_name("FILE");
+  command.add_flag("--list-rules", words.list, "list the rules");
+  command.add_option("--explain", words.explain, "tell about a rule")->type_name("RULE");
+  AddFormat(command, check.format);
+  command.add_flag("--sarif", check.sarif, "print a SARIF 2.1.0 log")
+      ->excludes("--json")
+      ->excludes("--tsv");
+}
+
+void AddCheck(CLI::App& program, Arguments& all) {
+  CheckArguments& check = all.check;
+  CheckWords& words = all.checkWords;
+  CLI::App* command = program.add_subcommand("check", "Find faults in the CON files of a mod");
+  AddCheckOptions(*command, check, words);
+  command->callback([command, &check, &words, &all] {
+    if (words.list) {
+      all.good = ListRules();
+      return;
+    }
+    if (!words.explain.empty()) {
+      all.good = ExplainRule(*RuleOf(words.explain, "--explain"));
+      return;
+    }
+    if (check.files.empty()) throw CLI::RequiredError("FILE");
+    CheckFiles(*command, check.files);
+    check.rules = {.rules = RulesOf(words.only, "--only"), .off = RulesOf(words.off, "--no")};
+    all.good = CheckFiles(check);
+  });
+}
+
+struct DiffFlag {
+  const char* flag;
+  DiffForm form;
+  const char* what;
+};
+constexpr std::array<DiffFlag, 4> kDiffFlags = {
+    {{"--markdown", DiffForm::kMarkdown, "print a Markdown table"},
+     {"--toml", DiffForm::kToml, "print the values of the second file as apply reads them"},
+     {"--json", DiffForm::kJson, "print the report as JSON"},
+     {"--tsv", DiffForm::kTsv, "print the report as a table with tabs"}}};
+
+void AddDiff(CLI::App& program, Arguments& all) {
+  DiffArguments& diff = all.diff;
+  CLI::App* command = program.add_subcommand("diff", "Compare the values of two CON files");
+  TakeFileName(*command->add_option("BEFORE", diff.before, "the first file")->required());
+  TakeFileName(*command->add_option("AFTER", diff.after, "the second file")->required());
+  CLI::Option_group* forms = command->add_option_group("Form");
+  for (const DiffFlag& each : kDiffFlags) {
+    forms->add_flag_callback(
+        each.flag, [&diff, form = each.form] { diff.form = form; }, each.what);
+  }
+  forms->require_option(0, 1);
+  command->callback([command, &diff, &all] {
+    CheckFiles(*command, {diff.before, diff.after});
+    all.good = DiffValues(diff);
+  });
+}
+
+void AddApply(CLI::App& program, Arguments& all) {
+  ApplyArguments& apply = all.apply;
+  CLI::App* command = program.add_subcommand("apply", "Write a page of values into CON files");
+  CLI::Option* page = command->add_option("VALUES", apply.page, "the page: TOML, or a JSON report");
+  page->required();
+  TakeFileName(*page);
+  AddFiles(*command, apply.files);
+  command->add_flag("--skip-missing", apply.skipMissing, "pass over what a file does not have");
+  AddEdit(*command, apply);
+  command->callback([command, &apply, &all] {
+    CheckEdit(*command, apply);
+    all.good = ApplyValues(apply);
+  });
+}
+
 void AddWords(CLI::App& program, Arguments& all) {
   WordsArguments& arguments = all.words;
   CLI::App* words = program.add_subcommand("words", "Keep the list of script words");
@@ -328,6 +429,9 @@ void DeclareSubcommands(CLI::App& program, Arguments& arguments) {
   AddLevels(program, arguments);
   AddLevel(program, arguments);
   AddColour(program, arguments);
+  AddCheck(program, arguments);
+  AddDiff(program, arguments);
+  AddApply(program, arguments);
   AddWords(program, arguments);
   AddNew(program, arguments);
   program.add_subcommand("help", "Tell about a subcommand")

@@ -16,6 +16,13 @@ struct RandomizeWords {
   std::vector<std::string> bounds;
 };
 
+/// What "check" reads before the rules are looked up.
+struct CheckWords {
+  std::vector<std::string> only, off;
+  std::string explain;
+  bool list = false;
+};
+
 /// What all subcommands are asked for; one of them runs.
 struct Arguments {
   ConvertArguments convert;
@@ -28,6 +35,10 @@ struct Arguments {
   LookArguments levels;
   LevelArguments level;
   ColourArguments colour;
+  CheckWords checkWords;
+  CheckArguments check;
+  DiffArguments diff;
+  ApplyArguments apply;
   WordsArguments words;
   NewArguments start;
   std::vector<std::string> helpOn;  ///< the subcommand that "help" was asked about

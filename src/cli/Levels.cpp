@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "cli/LevelName.h"
 #include "cli/Subcommands.h"
 #include "cli/files/Splices.h"
+#include "cli/look/LevelName.h"
 #include "cli/report/Suggestion.h"
 #include "text/SafeText.h"
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "check/Check.h"
 #include "cli/files/Batch.h"
 #include "cli/files/Output.h"
 #include "services/LinearCongruentialRandom.h"
@@ -68,6 +69,30 @@ struct ColourArguments {
   std::string format;  ///< "ansi", "html", "json"; empty: as the terminal can
 };
 bool PrintInColours(const ColourArguments& arguments);
+
+struct CheckArguments : LookArguments {
+  check::Options rules;
+  bool warningsAreErrors = false;
+  bool sarif = false;  ///< in place of the format
+  std::string store;   ///< the settings file with the word list; empty: the user's own
+};
+/// False also where there are errors.
+bool CheckFiles(const CheckArguments& arguments);
+bool ExplainRule(const check::Rule& rule);
+bool ListRules();
+
+enum class DiffForm : std::uint8_t { kText, kMarkdown, kToml, kJson, kTsv };
+struct DiffArguments {
+  std::string before, after;  ///< files
+  DiffForm form = DiffForm::kText;
+};
+bool DiffValues(const DiffArguments& arguments);
+
+struct ApplyArguments : EditArguments {
+  std::string page;          ///< a file of values
+  bool skipMissing = false;  ///< what a file does not have is passed over
+};
+bool ApplyValues(const ApplyArguments& arguments);
 
 struct WordsArguments {
   std::string store;             ///< the settings file; empty: the user's own

@@ -5,6 +5,7 @@
 #include "base/RuntimeError.h"
 #include "cli/Subcommands.h"
 #include "cli/files/Input.h"
+#include "cli/files/WordStore.h"
 #include "cli/report/Complaint.h"
 #include "cli/report/Json.h"
 #include "cli/report/Suggestion.h"
@@ -19,23 +20,11 @@
 namespace tessel::cli {
 namespace {
 
-std::string StoreOf(const WordsArguments& arguments) {
-  return arguments.store.empty() ? DefaultSettingsPath() : arguments.store;
-}
-
 /// Runs the function on the user's store, which it may write to and which is made where there is
 /// none. A store that cannot be used is a RuntimeError: nothing is kept in memory here.
 void ChangeStore(const WordsArguments& arguments, const std::function<void(SettingsStore&)>& use) {
-  SqliteSettingsStore store(StoreOf(arguments));
+  SqliteSettingsStore store(WordStore(arguments.store));
   use(store);
-}
-
-/// The words of the user's store; none where there is no store.
-std::vector<ScriptWord> ReadWords(const WordsArguments& arguments) {
-  const std::string path = StoreOf(arguments);
-  if (!posix::StatusOf(path) && errno == ENOENT) return {};
-  SqliteSettingsStore store(path);
-  return ReadScriptWords(store);
 }
 
 ScriptWord FindWord(const std::vector<ScriptWord>& words, const std::string& wanted) {
@@ -52,7 +41,7 @@ ScriptWord FindWord(const std::vector<ScriptWord>& words, const std::string& wan
 void Print(const WordsArguments& arguments, const char* command,
            const std::vector<ScriptWord>& words) {
   FileReport store;
-  store.file = StoreOf(arguments);
+  store.file = WordStore(arguments.store);
   for (const ScriptWord& word : words) {
     store.rows.push_back({ToUtf8(word.word), ToUtf8(word.parameters)});
   }
@@ -64,7 +53,7 @@ void Print(const WordsArguments& arguments, const char* command,
 void RefuseToReplaceTheStore(const WordsArguments& arguments) {
   const std::string& file = arguments.destination.file;
   const auto there = posix::StatusOf(file);
-  const auto store = posix::StatusOf(StoreOf(arguments));
+  const auto store = posix::StatusOf(WordStore(arguments.store));
   if (!there || !store || !posix::IsSameFile(*there, *store)) return;
   throw RuntimeError("Cannot save " + file + ": it is the settings store.");
 }
@@ -77,7 +66,7 @@ void SayWhereTheStarterWordsAre() {
 }  // namespace
 
 bool ListWords(const WordsArguments& arguments) {
-  const std::vector<ScriptWord> words = ReadWords(arguments);
+  const std::vector<ScriptWord> words = StoredWords(arguments.store);
   if (words.empty()) SayWhereTheStarterWordsAre();
   if (arguments.format != Format::kText) {
     Print(arguments, "words list", words);
@@ -88,7 +77,7 @@ bool ListWords(const WordsArguments& arguments) {
 }
 
 bool GetWord(const WordsArguments& arguments) {
-  const ScriptWord word = FindWord(ReadWords(arguments), arguments.word);
+  const ScriptWord word = FindWord(StoredWords(arguments.store), arguments.word);
   if (arguments.format != Format::kText) {
     Print(arguments, "words get", {word});
   } else {
@@ -105,7 +94,7 @@ bool SetWord(const WordsArguments& arguments) {
 }
 
 bool RemoveWord(const WordsArguments& arguments) {
-  const ScriptWord word = FindWord(ReadWords(arguments), arguments.word);
+  const ScriptWord word = FindWord(StoredWords(arguments.store), arguments.word);
   ChangeStore(arguments, [&](SettingsStore& store) { DeleteScriptWord(store, word.word); });
   return true;
 }
@@ -118,7 +107,7 @@ bool ImportWords(const WordsArguments& arguments) {
 
 bool ExportWords(const WordsArguments& arguments) {
   RefuseToReplaceTheStore(arguments);
-  WriteResult(FormatWordFile(ReadWords(arguments)), arguments.destination, {});
+  WriteResult(FormatWordFile(StoredWords(arguments.store)), arguments.destination, {});
   return true;
 }
 

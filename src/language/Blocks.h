@@ -46,6 +46,8 @@ class OpenBlocks {
   /// The blocks so far, in the order of their openers. What is still open ends nowhere yet.
   const std::vector<Block>& All() const { return blocks_; }
   bool IsOpen(std::size_t block) const;
+  /// The block around all others that are open here; null where none is.
+  const Block* Outermost() const { return open_.empty() ? nullptr : &blocks_[open_.front()]; }
   std::vector<Block> Take() { return std::move(blocks_); }
 
  private:

@@ -30,10 +30,12 @@ void AddWeapons(std::vector<PanelItem>& items) {
   }
 }
 
-void AddItems(std::vector<PanelItem>& items, const char* section, std::span<const Item> table) {
+void AddItems(std::vector<PanelItem>& items, const char* section, std::span<const Item> table,
+              bool wholeWord) {
   for (int i = 0; i < std::ssize(table); ++i) {
     const Item& row = table[static_cast<std::size_t>(i)];
-    items.push_back({section, std::string(row.name), std::string(row.key), -1, i, false});
+    items.push_back({section, std::string(row.name), std::string(row.key), -1, i, false, wholeWord,
+                     row.newerDialectOnly});
   }
 }
 
@@ -41,13 +43,14 @@ void AddItems(std::vector<PanelItem>& items, const char* section, std::span<cons
 
 std::vector<PanelItem> PanelItems() {
   std::vector<PanelItem> items;
-  AddItems(items, "Player", PlayerItemTable);
+  AddItems(items, "Player", PlayerItemTable, true);
   AddWeapons(items);
-  AddItems(items, "Enemy", EnemyItemTable);
-  AddItems(items, "Misc", MiscItemTable);
+  AddItems(items, "Enemy", EnemyItemTable, true);
+  AddItems(items, "Misc", MiscItemTable, false);
   items.push_back(
-      {"Misc", "Cameras Destructable", std::string(kCamerasDestructable), -1, -1, false});
-  items.push_back({"Misc", "Freeze Hurt Owner", std::string(kFreezerHurtOwner), -1, -1, false});
+      {"Misc", "Cameras Destructable", std::string(kCamerasDestructable), -1, -1, false, true});
+  items.push_back(
+      {"Misc", "Freeze Hurt Owner", std::string(kFreezerHurtOwner), -1, -1, false, true});
   return items;
 }
 

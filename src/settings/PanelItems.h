@@ -15,6 +15,11 @@ struct PanelItem {
   int category = -1;         ///< place in lstWeapInfo, of a weapon
   int entry = -1;            ///< place in its list; −1 for a YES/NO setting
   bool byBeginning = false;  ///< a define whose name begins with `define` is the item's, too
+  bool wholeWord = false;    ///< the panel searches for whole words
+  bool newerDialectOnly = false;
+
+  /// What the panel searches for.
+  std::string Key() const { return (byBeginning ? "define " : "") + define; }
 };
 
 /// All items, in the panel's order.

@@ -28,7 +28,7 @@ Cell ValueCell(const ValueLook& look, const LookedAt& looked) {
 }
 
 // Places in kChangeColumns.
-constexpr std::size_t kItem = 1, kOld = 4, kNew = 5, kProblem = 6;
+constexpr std::size_t kItemCell = 1, kOldCell = 4, kNewCell = 5, kProblemCell = 6;
 
 std::string TextOr(const Cell& cell, const char* otherwise) {
   const auto* text = std::get_if<std::string>(&cell);
@@ -58,16 +58,16 @@ Row ChangeRow(const ValueLook& look, const WantedItem& item, const LookedAt& loo
 
 std::int64_t CountChanges(const std::vector<Row>& rows) {
   return std::ranges::count_if(rows, [](const Row& row) {
-    return !std::holds_alternative<std::nullptr_t>(row[kNew]) && row[kNew] != row[kOld];
+    return !std::holds_alternative<std::nullptr_t>(row[kNewCell]) && row[kNewCell] != row[kOldCell];
   });
 }
 
 std::string ChangesAsText(const std::vector<Row>& rows) {
   std::ostringstream text;
   for (const Row& row : rows) {
-    text << std::left << std::setw(34) << TextOr(row[kItem], "") << std::right << std::setw(8)
-         << TextOr(row[kOld], "-") << " -> " << std::setw(8) << TextOr(row[kNew], "-");
-    const std::string problem = TextOr(row[kProblem], "");
+    text << std::left << std::setw(34) << TextOr(row[kItemCell], "") << std::right << std::setw(8)
+         << TextOr(row[kOldCell], "-") << " -> " << std::setw(8) << TextOr(row[kNewCell], "-");
+    const std::string problem = TextOr(row[kProblemCell], "");
     if (!problem.empty()) text << "  (" << problem << ')';
     text << '\n';
   }

@@ -1,4 +1,4 @@
-#include "cli/LevelName.h"
+#include "cli/look/LevelName.h"
 
 #include <algorithm>
 #include <charconv>
