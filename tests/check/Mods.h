@@ -60,8 +60,9 @@ inline check::Knowledge WhatTesselKnows() {
           .newerTemplate = NewerMod()[kUser]};
 }
 
-inline check::Findings CheckOne(const std::string& text, const check::Options& options = {}) {
-  const check::Source source = {"USER.CON", text};
+inline check::Findings CheckOne(const std::string& text, const check::Options& options = {},
+                                std::string_view name = "USER.CON") {
+  const check::Source source = {name, text};
   return check::Check({&source, 1}, WhatTesselKnows(), options);
 }
 

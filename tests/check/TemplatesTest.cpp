@@ -8,7 +8,9 @@ namespace {
 
 class EachTemplate : public testing::TestWithParam<const char*> {};
 
-TEST_P(EachTemplate, IsCleanByItself) { EXPECT_EQ(Shown(CheckOne(ReadDataFile(GetParam()))), ""); }
+TEST_P(EachTemplate, IsCleanByItself) {
+  EXPECT_EQ(Shown(CheckOne(ReadDataFile(GetParam()), {}, GetParam())), "");
+}
 
 INSTANTIATE_TEST_SUITE_P(Check, EachTemplate, testing::ValuesIn(kTemplates), [](const auto& name) {
   return std::string(name.param).substr(0, 6) + std::to_string(name.index);

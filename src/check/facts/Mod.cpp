@@ -12,8 +12,7 @@ namespace {
 using language::Keyword;
 using language::Role;
 
-constexpr std::array<Keyword, 4> kNaming = {Keyword::kAction, Keyword::kMove, Keyword::kAi,
-                                            Keyword::kState};
+constexpr std::array<Keyword, 3> kNaming = {Keyword::kAction, Keyword::kMove, Keyword::kAi};
 
 std::string_view LastPart(std::string_view path) {
   const std::size_t slash = path.find_last_of("/\\");
@@ -54,8 +53,10 @@ Mod::Mod(std::span<const Source> sources, const Knowledge& knowledge)
       commands_(knowledge.words),
       files_(FactsOf(sources, commands_)),
       defines_(CountOf(files_, std::array{Keyword::kDefine})),
+      states_(CountOf(files_, std::array{Keyword::kState})),
       otherNames_(CountOf(files_, kNaming)) {
   AddNames(files_, Keyword::kDefine, defines_);
+  AddNames(files_, Keyword::kState, states_);
   for (const Keyword keyword : kNaming) AddNames(files_, keyword, otherNames_);
   panelDefines_.reserve(files_.size());
   for (const FileFacts& file : files_) panelDefines_.push_back(PanelDefinesOf(file));
@@ -71,8 +72,10 @@ std::optional<PlacedStatement> Mod::DefineOf(std::string_view name) const {
 }
 
 bool Mod::Defines(std::string_view name) const {
-  return defines_.Find(name) != nullptr || otherNames_.Find(name) != nullptr;
+  return defines_.Find(name) != nullptr || otherNames_.Find(name) != nullptr || HasState(name);
 }
+
+bool Mod::HasState(std::string_view name) const { return states_.Find(name) != nullptr; }
 
 bool Mod::Gives(std::string_view fileName) const {
   return std::ranges::any_of(files_, [&](const FileFacts& file) {

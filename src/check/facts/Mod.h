@@ -42,6 +42,7 @@ class Mod {
   std::optional<PlacedStatement> DefineOf(std::string_view name) const;
   /// Whether any file gives that name to a define, an action, a move, an ai, a state.
   bool Defines(std::string_view name) const;
+  bool HasState(std::string_view name) const;
   /// The panel is for user files; where none is among the files, any may be a part of one.
   bool IsForPanel(std::size_t file) const { return !hasUserFile_ || IsUserFile(files_[file]); }
   /// The files include others, and all of these are given.
@@ -62,7 +63,7 @@ class Mod {
   Knowledge knowledge_;
   CommandTable commands_;
   std::vector<FileFacts> files_;
-  NameTable defines_, otherNames_;
+  NameTable defines_, states_, otherNames_;
   std::vector<std::vector<const Statement*>> panelDefines_;
   bool hasUserFile_ = false;
   bool isWhole_ = false;

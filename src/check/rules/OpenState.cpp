@@ -19,7 +19,7 @@ void FindStatesInStates(const Mod& mod, Findings& findings) {
     std::optional<Position> told;
     for (const StateUse& use : file.StateUses()) {
       const Position opener = use.opener;
-      if (told == opener || mod.Defines(file.Text(use.name)) ||
+      if (told == opener || mod.HasState(file.Text(use.name)) ||
           ColumnOf(file, use.keyword) != ColumnOf(file, opener)) {
         continue;
       }
