@@ -6,16 +6,23 @@
 #include <QTextDocument>
 
 #include "drive/qt/ControlComparisons.h"
+#include "qt/base/Mnemonics.h"
 #include "qt/base/QtText.h"
 #include "text/Text.h"
 
 namespace tessel::drive {
 namespace {
 
+// A view marks a letter of captions that have no mark.
+QString CaptionAs(const Control& model, const QString& shown) {
+  const bool marked = model.Caption().find('&') != std::string::npos;
+  return marked ? shown : PlainCaption(shown);
+}
+
 void CompareButton(const Control& model, bool checked, QWidget& widget, Comparison& comparison) {
   const auto* button = qobject_cast<const QAbstractButton*>(&widget);
   if (button == nullptr) return comparison.Note("widget", "a button", "another kind");
-  comparison.Expect("caption", ShownText(model.Caption()), button->text());
+  comparison.Expect("caption", ShownText(model.Caption()), CaptionAs(model, button->text()));
   comparison.Expect("value", checked, button->isChecked());
 }
 
@@ -41,7 +48,7 @@ void CompareOptionButton(const OptionButton& model, QWidget& widget, Comparison&
 void CompareLabel(const Label& model, QWidget& widget, Comparison& comparison) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
   if (label == nullptr) return comparison.Note("widget", "a label", "another kind");
-  comparison.Expect("caption", ShownText(model.Caption()), label->text());
+  comparison.Expect("caption", ShownText(model.Caption()), CaptionAs(model, label->text()));
 }
 
 void CompareTextBox(const TextBox& model, QWidget& widget, Comparison& comparison) {

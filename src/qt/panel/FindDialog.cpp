@@ -14,6 +14,7 @@ FindDialog::FindDialog(frmFind& form, WidgetMap& widgets, QWidget* parent)
   auto* text = Make<ComboBoxView>(form.cboFind, tr("Text to find"));
   text->setMinimumWidth(280);
   label->setBuddy(text);
+  label->SetMnemonic('w');
   first_ = text;
   auto* word = Make<CheckBoxView>(form.chkFindWholeWord, tr("Find whole word only"));
   auto* matchCase = Make<CheckBoxView>(form.chkMatchCase, tr("Match case"));
@@ -21,7 +22,7 @@ FindDialog::FindDialog(frmFind& form, WidgetMap& widgets, QWidget* parent)
   auto* buttons = new QVBoxLayout;
   buttons->setSpacing(8);
   buttons->addWidget(MakeButton(form.cmdFind, tr("Find")));
-  buttons->addWidget(MakeButton(form.cmdCancel, tr("Cancel")));
+  buttons->addWidget(MakeButton(form.cmdCancel, tr("Cancel"), 'c'));
   buttons->addStretch();
 
   auto* grid = new QGridLayout(this);

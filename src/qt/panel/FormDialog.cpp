@@ -20,8 +20,10 @@ FormDialog::FormDialog(Form& model, WidgetMap& widgets, QWidget* parent)
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
 }
 
-QWidget* FormDialog::MakeButton(CommandButton& button, const QString& accessibleName) {
+QWidget* FormDialog::MakeButton(CommandButton& button, const QString& accessibleName,
+                                QChar mnemonic) {
   auto* view = Make<CommandButtonView>(button, accessibleName);
+  view->SetMnemonic(mnemonic);
   view->setDefault(&button == model_.DefaultButton());
   return view;
 }

@@ -5,6 +5,7 @@
 
 #include "models/Buttons.h"
 #include "models/Form.h"
+#include "qt/base/AccessibleNames.h"
 #include "qt/base/WidgetMap.h"
 
 namespace tessel {
@@ -30,12 +31,13 @@ class FormDialog : public QDialog {
   template <class View, class Control>
   View* Make(Control& control, const QString& accessibleName) {
     auto* view = new View(control, this);
-    view->setAccessibleName(accessibleName);
+    NameForReaders(*view, accessibleName);
     widgets_.Add(control, view);
     return view;
   }
-  /// Makes a command button and, where the model says so, the one that Return presses.
-  QWidget* MakeButton(CommandButton& button, const QString& accessibleName);
+  /// Makes a command button and, where the model says so, the one that Return presses. The letter
+  /// is marked where the caption has no mark.
+  QWidget* MakeButton(CommandButton& button, const QString& accessibleName, QChar mnemonic = {});
 
   void closeEvent(QCloseEvent* event) override;
 

@@ -20,6 +20,8 @@ RandDialog::RandDialog(frmRand& form, WidgetMap& widgets, QWidget* parent)
   auto* upper = Make<ComboBoxView>(form.cmbChoose[1], tr("Upper bounds"));
   lowerLabel->setBuddy(lower);
   upperLabel->setBuddy(upper);
+  lowerLabel->SetMnemonic('l');
+  upperLabel->SetMnemonic('u');
   first_ = lower;
 
   auto* buttons = new QHBoxLayout;
@@ -27,8 +29,10 @@ RandDialog::RandDialog(frmRand& form, WidgetMap& widgets, QWidget* parent)
   buttons->addStretch();
   auto* keepLower = Make<CheckBoxView>(form.chkLvLw, tr("Leave lower values as they are"));
   auto* keepUpper = Make<CheckBoxView>(form.chkLvUp, tr("Leave higher values as they are"));
-  buttons->addWidget(MakeButton(form.cmdOk, tr("OK")));
-  buttons->addWidget(MakeButton(form.cmdCancel, tr("Cancel")));
+  keepLower->SetMnemonic('i');
+  keepUpper->SetMnemonic('g');
+  buttons->addWidget(MakeButton(form.cmdOk, tr("OK"), 'o'));
+  buttons->addWidget(MakeButton(form.cmdCancel, tr("Cancel"), 'c'));
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(16, 16, 16, 16);

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "qt/base/AccessibleNames.h"
 #include "qt/base/ControlView.h"
+#include "qt/base/Mnemonics.h"
 #include "qt/base/QtText.h"
 #include "qt/base/TwipScale.h"
 #include "qt/views/ButtonViews.h"
@@ -34,9 +36,15 @@ class PageBuilder {
   template <class View, class Model>
   View* Make(Model& model, const QString& accessibleName) {
     auto* view = new View(model, page_);
-    view->setAccessibleName(accessibleName);
+    NameForReaders(*view, accessibleName);
     widgets_.Add(model, view);
     return view;
+  }
+
+  QWidget* MakeButton(CommandButton& model, const QString& accessibleName, QChar mnemonic) {
+    auto* button = Make<CommandButtonView>(model, accessibleName);
+    button->SetMnemonic(mnemonic);
+    return button;
   }
 
   QLabel* Caption(const QString& text, QWidget* buddy) {
@@ -56,6 +64,7 @@ class PageBuilder {
     auto* box = Make<ComboBoxView>(c.cmbweap[page], QObject::tr("Current value"));
     auto* label = Make<LabelView>(c.lblValue[page], QObject::tr("Current Value:"));
     label->setBuddy(box);
+    label->SetMnemonic('u');
     box->setFixedWidth(kValueBoxWidth);
     grid_->addWidget(label, kCaptionRow, column);
     grid_->addWidget(box, kBoxRow, column, Qt::AlignTop | Qt::AlignLeft);
@@ -66,8 +75,10 @@ class PageBuilder {
     auto* row = new QHBoxLayout(group);
     row->setContentsMargins(8, 2, 8, 4);
     row->setSpacing(16);
-    row->addWidget(Make<OptionButtonView>(yes, caption + " " + ShownText(yes.Caption())));
-    row->addWidget(Make<OptionButtonView>(no, caption + " " + ShownText(no.Caption())));
+    for (OptionButton* option : {&yes, &no}) {
+      const QString name = PlainCaption(caption) + " " + ShownText(option->Caption());
+      row->addWidget(Make<OptionButtonView>(*option, name));
+    }
     row->addStretch();
     column->addWidget(group);
   }
@@ -84,9 +95,9 @@ void BuildPlayerPage(PageBuilder& page) {
 }
 
 void BuildWeaponPage(PageBuilder& page) {
-  page.AddList(page.c.lstWeapInfo, QObject::tr("Select &Category:"),
+  page.AddList(page.c.lstWeapInfo, QObject::tr("Select Catego&ry:"),
                QObject::tr("Weapon categories"), 0);
-  page.AddList(page.c.lstWeapon, QObject::tr("Select &Weapon:"), QObject::tr("Weapons"), 1);
+  page.AddList(page.c.lstWeapon, QObject::tr("Select Wea&pon:"), QObject::tr("Weapons"), 1);
   page.AddValueBox(kWeaponPage, 2);
 }
 
@@ -100,8 +111,9 @@ void BuildMiscPage(PageBuilder& page) {
   page.AddValueBox(kMiscPage, 1);
   auto* options = new QVBoxLayout;
   options->setSpacing(6);
-  page.AddOptions(QObject::tr("Cameras Destructable:"), page.c.optCamYes, page.c.optCamNo, options);
-  page.AddOptions(QObject::tr("Freeze Hurt Owner:"), page.c.optFreezYes, page.c.optFreezNo,
+  page.AddOptions(QObject::tr("Came&ras Destructable:"), page.c.optCamYes, page.c.optCamNo,
+                  options);
+  page.AddOptions(QObject::tr("Free&ze Hurt Owner:"), page.c.optFreezYes, page.c.optFreezNo,
                   options);
   options->addStretch();
   page.grid_->addLayout(options, kCaptionRow, 2, 2, 1);
@@ -122,22 +134,20 @@ void BuildLevelPage(PageBuilder& page) {
   auto* level = page.Make<ComboBoxView>(page.c.cboEpisode, QObject::tr("Episode and level"));
   level->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   auto* map = page.Make<TextBoxView>(page.c.txtMap, QObject::tr("Map file"));
-  auto* insertMap =
-      page.Make<CommandButtonView>(page.c.cmdInsert[0], QObject::tr("Insert the map file"));
-  auto* browse = page.Make<CommandButtonView>(page.c.cmdMap, QObject::tr("Browse for a map file"));
+  auto* insertMap = page.MakeButton(page.c.cmdInsert[0], QObject::tr("Insert the map file"), 'n');
+  auto* browse = page.MakeButton(page.c.cmdMap, QObject::tr("Browse for a map file"), 'o');
   auto* title = page.Make<TextBoxView>(page.c.txtTitle, QObject::tr("Title"));
-  auto* insertTitle =
-      page.Make<CommandButtonView>(page.c.cmdInsert[1], QObject::tr("Insert the title"));
+  auto* insertTitle = page.MakeButton(page.c.cmdInsert[1], QObject::tr("Insert the title"), 'r');
   // Below the browse button there is none.
   auto* titleRow = RowOf(title, {insertTitle});
   titleRow->insertSpacing(2, browse->sizeHint().width() + titleRow->spacing());
 
   QGridLayout& grid = *page.grid_;
-  grid.addWidget(page.Caption(QObject::tr("&Episode/Level"), level), kCaptionRow, 0);
+  grid.addWidget(page.Caption(QObject::tr("E&pisode/Level"), level), kCaptionRow, 0);
   grid.addWidget(level, kBoxRow, 0);
   grid.addWidget(page.Caption(QObject::tr("&Map file"), map), kCaptionRow, 1);
   grid.addLayout(RowOf(map, {insertMap, browse}), kBoxRow, 1, 1, GridPage::kColumns);
-  grid.addWidget(page.Caption(QObject::tr("&Title"), title), kBoxRow + 2, 1);
+  grid.addWidget(page.Caption(QObject::tr("T&itle"), title), kBoxRow + 2, 1);
   grid.addLayout(titleRow, kBoxRow + 3, 1, 1, GridPage::kColumns);
   grid.setRowStretch(kBoxRow, 0);
   grid.setRowMinimumHeight(kBoxRow + 1, 2);
@@ -145,7 +155,8 @@ void BuildLevelPage(PageBuilder& page) {
 }
 
 QWidget* MakeParameterPane(PageBuilder& page) {
-  auto* parameters = page.Make<LabelView>(page.c.lblParams, QObject::tr("Parameters"));
+  auto* parameters = page.Make<LabelView>(page.c.lblParams, QString());
+  parameters->NameWhileEmpty(QObject::tr("Parameters"));
   parameters->setWordWrap(true);
   parameters->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   parameters->setMargin(4);
@@ -164,11 +175,10 @@ QWidget* MakeParameterPane(PageBuilder& page) {
 
 void BuildFunctionsPage(PageBuilder& page) {
   auto* search = page.Make<TextBoxView>(page.c.txtSearch, QObject::tr("Search for a function"));
-  search->setClearButtonEnabled(true);
-  auto* insert =
-      page.Make<CommandButtonView>(page.c.cmdInsert[2], QObject::tr("Insert the function"));
-  auto* edit = page.Make<CommandButtonView>(page.c.cmdAddword,
-                                            QObject::tr("Add or edit words and parameters"));
+  OfferClearing(*search);
+  auto* insert = page.MakeButton(page.c.cmdInsert[2], QObject::tr("Insert the function"), 'n');
+  auto* edit =
+      page.MakeButton(page.c.cmdAddword, QObject::tr("Add or edit words and parameters"), 'i');
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(8);
   buttons->addWidget(insert, 1);
@@ -178,7 +188,7 @@ void BuildFunctionsPage(PageBuilder& page) {
   column->addWidget(search);
   column->addLayout(buttons);
   column->addStretch();
-  page.grid_->addWidget(page.Caption(QObject::tr("&Search:"), search), kCaptionRow, 0);
+  page.grid_->addWidget(page.Caption(QObject::tr("Sea&rch:"), search), kCaptionRow, 0);
   page.grid_->addLayout(column, kBoxRow, 0);
   page.AddList(page.c.lstWords, QObject::tr("Select F&unction:"), QObject::tr("Functions"), 1);
   QWidget* parameters = MakeParameterPane(page);

@@ -3,7 +3,9 @@
 #include <QSignalBlocker>
 
 #include "qt/base/ControlView.h"
+#include "qt/base/Mnemonics.h"
 #include "qt/base/QtText.h"
+#include "qt/views/ViewAccessibility.h"
 
 namespace tessel {
 
@@ -16,8 +18,13 @@ CommandButtonView::CommandButtonView(CommandButton& model, QWidget* parent)
 }
 
 void CommandButtonView::Draw() {
-  setText(ShownText(model_.Caption()));
+  setText(WithMnemonic(ShownText(model_.Caption()), mnemonic_));
   DrawState(*this, model_);
+}
+
+void CommandButtonView::SetMnemonic(QChar letter) {
+  mnemonic_ = letter;
+  Draw();
 }
 
 CheckBoxView::CheckBoxView(CheckBox& model, QWidget* parent) : QCheckBox(parent), model_(model) {
@@ -28,13 +35,19 @@ CheckBoxView::CheckBoxView(CheckBox& model, QWidget* parent) : QCheckBox(parent)
 
 void CheckBoxView::Draw() {
   const QSignalBlocker quiet(this);
-  setText(ShownText(model_.Caption()));
+  setText(WithMnemonic(ShownText(model_.Caption()), mnemonic_));
   setChecked(model_.Value());
   DrawState(*this, model_);
 }
 
+void CheckBoxView::SetMnemonic(QChar letter) {
+  mnemonic_ = letter;
+  Draw();
+}
+
 OptionButtonView::OptionButtonView(OptionButton& model, QWidget* parent)
     : QRadioButton(parent), model_(model) {
+  InstallViewAccessibility();
   setAutoExclusive(false);
   connect(this, &QRadioButton::clicked, this, [this] { model_.Press(); });
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
@@ -55,8 +68,19 @@ LabelView::LabelView(Label& model, QWidget* parent) : QLabel(parent), model_(mod
 }
 
 void LabelView::Draw() {
-  setText(ShownText(model_.Caption()));
+  setText(WithMnemonic(ShownText(model_.Caption()), mnemonic_));
+  if (!nameWhileEmpty_.isEmpty()) setAccessibleName(text().isEmpty() ? nameWhileEmpty_ : QString());
   DrawState(*this, model_);
+}
+
+void LabelView::SetMnemonic(QChar letter) {
+  mnemonic_ = letter;
+  Draw();
+}
+
+void LabelView::NameWhileEmpty(const QString& name) {
+  nameWhileEmpty_ = name;
+  Draw();
 }
 
 }  // namespace tessel

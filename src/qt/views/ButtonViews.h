@@ -16,10 +16,14 @@ class CommandButtonView : public QPushButton {
  public:
   CommandButtonView(CommandButton& model, QWidget* parent);
 
+  /// Marks that letter of a caption that has no mark of its own.
+  void SetMnemonic(QChar letter);
+
  private:
   void Draw();
 
   CommandButton& model_;
+  QChar mnemonic_;
   Subscription refresh_;
 };
 
@@ -29,10 +33,14 @@ class CheckBoxView : public QCheckBox {
  public:
   CheckBoxView(CheckBox& model, QWidget* parent);
 
+  /// Marks that letter of a caption that has no mark of its own.
+  void SetMnemonic(QChar letter);
+
  private:
   void Draw();
 
   CheckBox& model_;
+  QChar mnemonic_;
   Subscription refresh_;
 };
 
@@ -57,10 +65,17 @@ class LabelView : public QLabel {
  public:
   LabelView(Label& model, QWidget* parent);
 
+  /// Marks that letter of a caption that has no mark of its own; the label needs a buddy.
+  void SetMnemonic(QChar letter);
+  /// Assistive technology reads the label's text, and this where there is none.
+  void NameWhileEmpty(const QString& name);
+
  private:
   void Draw();
 
   Label& model_;
+  QChar mnemonic_;
+  QString nameWhileEmpty_;
   Subscription refresh_;
 };
 

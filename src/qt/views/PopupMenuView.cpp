@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "qt/base/Mnemonics.h"
 #include "qt/base/QtText.h"
 
 namespace tessel {
@@ -24,6 +25,7 @@ void PopupMenuView::Build(QMenu& menu, const std::vector<MenuItem>& items) {
       menu.addSeparator();
     } else if (!item.children.empty()) {
       QMenu* child = menu.addMenu(caption);
+      child->setAccessibleName(PlainCaption(caption));
       child->menuAction()->setObjectName(QString::fromStdString(item.name));
       Build(*child, item.children);
     } else {

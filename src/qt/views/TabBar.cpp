@@ -5,7 +5,9 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "qt/base/Mnemonics.h"
 #include "qt/looks/Theme.h"
+#include "qt/views/ViewAccessibility.h"
 
 namespace tessel {
 namespace {
@@ -19,6 +21,7 @@ constexpr int kWidestTab = 220;
 }  // namespace
 
 TabBar::TabBar(QTabBar::Shape shape, QWidget* parent) : QTabBar(parent) {
+  InstallViewAccessibility();
   setShape(shape);
   setExpanding(false);
   setDrawBase(false);
@@ -46,6 +49,21 @@ QSize TabBar::tabSizeHint(int index) const {
 int TabBar::RoomOfCloseButton(int index) const {
   const QWidget* button = tabButton(index, RightSide);
   return button == nullptr ? 0 : button->width() + kIconGap / 2;
+}
+
+QString TabBar::NameOfTab(int index) const {
+  const QString given = accessibleTabName(index);
+  return given.isEmpty() ? PlainCaption(tabText(index)) : given;
+}
+
+// What a close button belongs to may have changed with the tabs.
+void TabBar::tabLayoutChange() {
+  for (int index = 0; index < count(); ++index) {
+    QWidget* button = tabButton(index, RightSide);
+    if (button == nullptr) continue;
+    const QString text = PlainCaption(tabText(index));
+    button->setAccessibleName(text.isEmpty() ? tr("Close the document") : tr("Close %1").arg(text));
+  }
 }
 
 QSize TabBar::minimumTabSizeHint(int index) const { return tabSizeHint(index); }

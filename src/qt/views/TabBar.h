@@ -12,6 +12,9 @@ class TabBar : public QTabBar {
   /// `shape` is RoundedNorth for tabs above their page, RoundedSouth for tabs below it.
   TabBar(QTabBar::Shape shape, QWidget* parent);
 
+  /// The tab's name for assistive technology.
+  QString NameOfTab(int index) const;
+
  signals:
   /// The tab that is selected already was clicked.
   void pressedAgain();
@@ -21,6 +24,7 @@ class TabBar : public QTabBar {
   void paintEvent(QPaintEvent* event) override;
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
+  void tabLayoutChange() override;
 
  private:
   void PaintTab(QPainter& painter, int index) const;

@@ -10,6 +10,7 @@
 #include "qt/looks/SvgIcon.h"
 #include "qt/looks/TesselStyle.h"
 #include "qt/looks/Theme.h"
+#include "qt/views/ViewAccessibility.h"
 
 namespace tessel {
 namespace {
@@ -26,20 +27,20 @@ struct ButtonWord {
 };
 
 constexpr ButtonWord kWords[] = {
-    {"FileNew", QT_TRANSLATE_NOOP("ToolbarView", "New")},
-    {"FileOpen", QT_TRANSLATE_NOOP("ToolbarView", "Open")},
-    {"FileClose", QT_TRANSLATE_NOOP("ToolbarView", "Close")},
-    {"FileSave", QT_TRANSLATE_NOOP("ToolbarView", "Save As")},
-    {"Cut", QT_TRANSLATE_NOOP("ToolbarView", "Cut")},
-    {"Copy", QT_TRANSLATE_NOOP("ToolbarView", "Copy")},
-    {"Paste", QT_TRANSLATE_NOOP("ToolbarView", "Paste")},
-    {"Find", QT_TRANSLATE_NOOP("ToolbarView", "Find")},
-    {"Tools", QT_TRANSLATE_NOOP("ToolbarView", "Tools")},
-    {"RandAll", QT_TRANSLATE_NOOP("ToolbarView", "Randomize All")},
-    {"RandSec", QT_TRANSLATE_NOOP("ToolbarView", "Randomize")},
-    {"Convert", QT_TRANSLATE_NOOP("ToolbarView", "Convert")},
-    {"Colorize", QT_TRANSLATE_NOOP("ToolbarView", "Colorize")},
-    {"ShowTabs", QT_TRANSLATE_NOOP("ToolbarView", "Panel")},
+    {"FileNew", QT_TRANSLATE_NOOP("tessel::ToolbarView", "New")},
+    {"FileOpen", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Open")},
+    {"FileClose", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Close")},
+    {"FileSave", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Save As")},
+    {"Cut", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Cut")},
+    {"Copy", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Copy")},
+    {"Paste", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Paste")},
+    {"Find", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Find")},
+    {"Tools", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Tools")},
+    {"RandAll", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Randomize All")},
+    {"RandSec", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Randomize")},
+    {"Convert", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Convert")},
+    {"Colorize", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Colorize")},
+    {"ShowTabs", QT_TRANSLATE_NOOP("tessel::ToolbarView", "Panel")},
 };
 
 QString WordOf(const std::string& key) {
@@ -50,6 +51,7 @@ QString WordOf(const std::string& key) {
 }  // namespace
 
 ToolbarView::ToolbarView(Toolbar& model, QWidget* parent) : QToolBar(parent), model_(model) {
+  InstallViewAccessibility();
   setMovable(false);
   setFloatable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
@@ -57,6 +59,9 @@ ToolbarView::ToolbarView(Toolbar& model, QWidget* parent) : QToolBar(parent), mo
   setToolButtonStyle(Qt::ToolButtonIconOnly);
   setStyle(TesselStyle::Shared());
   for (const ToolbarButton& button : model_.Buttons()) AddButton(button);
+  if (auto* rest = findChild<QToolButton*>("qt_toolbar_ext_button")) {
+    rest->setAccessibleName(tr("More buttons"));
+  }
   refresh_ = model_.Refresh.Connect([this] { Draw(); });
   Draw();
 }
@@ -84,8 +89,10 @@ void ToolbarView::AddButton(const ToolbarButton& button) {
   if (button.style == ButtonStyle::kDropDown) {
     auto* menu = new QMenu(this);
     menu->setToolTipsVisible(true);
+    menu->setAccessibleName(toolTip);
     action->setMenu(menu);
     tool->setPopupMode(QToolButton::MenuButtonPopup);
+    ForgetAccessibility(*tool);
   }
   tool->setObjectName(key);
   tool->setStyle(TesselStyle::Shared());
