@@ -3,8 +3,8 @@
 # What the programs are built with.
 build_packages=(
   g++ cmake ninja-build pkg-config
-  qt6-base-dev qt6-svg-dev libqt6svg6 qt6-tools-dev libqscintilla2-qt6-dev libgl-dev libxcb1-dev
-  libsqlite3-dev libcli11-dev nlohmann-json3-dev libtomlplusplus-dev
+  qt6-base-dev qt6-svg-dev libqt6svg6 qt6-tools-dev qt6-l10n-tools libqscintilla2-qt6-dev
+  libgl-dev libxcb1-dev libsqlite3-dev libcli11-dev nlohmann-json3-dev libtomlplusplus-dev
   fonts-dejavu-core
 )
 # What "./test.sh" takes besides.
@@ -18,7 +18,7 @@ all_packages=(
   clang libclang-rt-14-dev clang-format clang-tidy git
   desktop-file-utils appstream libxml2-utils shared-mime-info file
   build-essential dpkg-dev debhelper devscripts lintian
-  xvfb xdotool xauth openbox x11-utils
+  xvfb xdotool xauth openbox x11-utils at-spi2-core
   zsh fish patch
 )
 # What the programs of bench/ take besides; no test does.

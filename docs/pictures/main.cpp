@@ -8,6 +8,7 @@
 #include <iostream>
 
 #include "host/MainWindow.h"
+#include "host/language/Translations.h"
 #include "models/Form.h"
 #include "posix/HostDirectory.h"
 #include "qt/editor/ScintillaView.h"
@@ -149,6 +150,7 @@ int main(int argc, char** argv) {
   }
   int qtArguments = 1;
   QApplication application(qtArguments, argv);
+  const Translations english{QLocale(QLocale::English)};
   const bool dark = argc > 2 && QString(argv[2]) == "--dark";
   ApplyTheme(application, dark ? ColourScheme::kDark : ColourScheme::kLight);
 

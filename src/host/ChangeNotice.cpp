@@ -69,10 +69,11 @@ void ChangeNotice::Check() {
 bool ChangeNotice::MayDropChanges() {
   const Document document = Current();
   if (!document.Modified()) return true;
-  const MessageAnswer answer = messages_.Show(
-      "Reload " + NameOfPath(document.Path(), '/') +
-          " and drop your changes?\nYour text is kept among the backups (File > Backups).",
-      MessageIcon::kQuestion, kProgramTitle, MessageButtons::kNoYes);
+  const QString question = tr("Reload %1 and drop your changes?\n"
+                              "Your text is kept among the backups (File > Backups).")
+                               .arg(ShownName(NameOfPath(document.Path(), '/')));
+  const MessageAnswer answer = messages_.Show(question.toStdString(), MessageIcon::kQuestion,
+                                              kProgramTitle, MessageButtons::kNoYes);
   return answer == MessageAnswer::kYes && keepText_(document.Path(), document.Editor().Bytes());
 }
 

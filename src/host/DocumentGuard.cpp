@@ -2,12 +2,16 @@
 
 #include <sys/stat.h>
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
+#include "qt/base/QtText.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -17,14 +21,28 @@ bool SameFile(const DiskState& a, const DiskState& b) {
   return a.exists && b.exists && a.device == b.device && a.number == b.number;
 }
 
-std::string Size(long long bytes) {
-  return QLocale().toString(bytes).toStdString() + (bytes == 1 ? " byte" : " bytes");
+class GuardTexts {
+  Q_DECLARE_TR_FUNCTIONS(DocumentGuard)
+};
+
+QString Size(long long bytes) {
+  constexpr long long kMost = std::numeric_limits<int>::max();
+  return GuardTexts::tr("%1 byte(s)", nullptr, static_cast<int>(std::min(bytes, kMost)))
+      .arg(QLocale().toString(bytes));
 }
 
-std::string Time(const DiskState& state) {
-  return QLocale()
-      .toString(QDateTime::fromSecsSinceEpoch(state.written.seconds), QLocale::ShortFormat)
-      .toStdString();
+QString Time(const DiskState& state) {
+  return QLocale().toString(QDateTime::fromSecsSinceEpoch(state.written.seconds),
+                            QLocale::ShortFormat);
+}
+
+QString OneOfSeveral(const std::string& candidate) {
+  return GuardTexts::tr("Names that differ only in the case of letters are several files. Open %1?")
+      .arg(ShownName(candidate));
+}
+
+QString InsteadOf(const std::string& path, const std::string& candidate) {
+  return GuardTexts::tr("%1 is not there. Open %2?").arg(ShownName(path), ShownName(candidate));
 }
 
 bool IsReadOnly(const std::string& path) {
@@ -83,17 +101,15 @@ std::optional<std::string> DocumentGuard::SpellingMeantBy(const std::string& pat
   const std::vector<std::string> candidates = realPaths_.Candidates(path);
   if (candidates.empty()) return path;  // the control says that it is not there
   if (candidates.size() == 1) return candidates.front();
-  const std::string why = posix::StatusOfLink(path)
-                              ? "Names that differ only in the case of letters are several files. "
-                              : path + " is not there. ";
+  const bool isThere = posix::StatusOfLink(path).has_value();
   for (const std::string& candidate : candidates) {
-    if (Agrees(why + "Open " + candidate + "?")) return candidate;
+    if (Agrees(isThere ? OneOfSeveral(candidate) : InsteadOf(path, candidate))) return candidate;
   }
   return std::nullopt;
 }
 
-bool DocumentGuard::Agrees(const std::string& question) {
-  return messages_.Show(question, MessageIcon::kExclamation, kProgramTitle,
+bool DocumentGuard::Agrees(const QString& question) {
+  return messages_.Show(question.toStdString(), MessageIcon::kExclamation, kProgramTitle,
                         MessageButtons::kNoYes) == MessageAnswer::kYes;
 }
 
@@ -102,18 +118,21 @@ bool DocumentGuard::BeforeSaving(const Document& document, const std::string& pa
   if (!document.HasPath(path) && !posix::StatusOf(path)) return true;
   const DiskState now = DiskStateOf(path);
   if (!now.exists) return true;
-  const std::string name = NameOfPath(path, files_.Separator());
+  const QString name = ShownName(NameOfPath(path, files_.Separator()));
   Record& own = At(document.Place());
   const bool itsOwn = document.HasPath(path) && own.has_value();
   if (itsOwn) files_.RefuseIfChanged(path, *own, document.Editor().Bytes());
   if (const auto other = OtherWith(now, &document)) {
-    return Agrees(name + " is open in another tab. Write this document over its file?");
+    return Agrees(
+        GuardTexts::tr("%1 is open in another tab. Write this document over its file?").arg(name));
   }
   if (!itsOwn && !(own && SameFile(own->state, now))) {
-    return Agrees(name + " already exists (" + Size(now.size) + ", changed " + Time(now) +
-                  ").\nReplace it with this document (" + Size(document.Editor().Length()) + ")?");
+    return Agrees(GuardTexts::tr("%1 already exists (%2, changed %3).\n"
+                                 "Replace it with this document (%4)?")
+                      .arg(name, Size(now.size), Time(now), Size(document.Editor().Length())));
   }
-  return !IsReadOnly(path) || Agrees(name + " is read-only. Save over it and make it writable?");
+  return !IsReadOnly(path) ||
+         Agrees(GuardTexts::tr("%1 is read-only. Save over it and make it writable?").arg(name));
 }
 
 bool DocumentGuard::ChangedByOthers(const Document& document) {

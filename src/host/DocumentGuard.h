@@ -1,6 +1,7 @@
 // Which file each document has, and what may be written over it.
 #pragma once
 
+#include <QString>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -43,7 +44,7 @@ class DocumentGuard : public DocumentHost {
   Record& At(Slot slot);
   void Renew(const Document& document);
   std::optional<Document> OtherWith(const DiskState& file, const Document* besides) const;
-  bool Agrees(const std::string& question);
+  bool Agrees(const QString& question);
   std::optional<std::string> SpellingMeantBy(const std::string& path);
 
   GuardedFiles& files_;

@@ -26,6 +26,7 @@
 #include "host/help/AboutDialog.h"
 #include "host/help/HelpWindows.h"
 #include "host/menu/DocumentMenus.h"
+#include "host/menu/FreeLetters.h"
 #include "host/menu/TabMenu.h"
 #include "host/menu/WindowKeys.h"
 #include "host/panel/ReplacementOutline.h"
@@ -137,6 +138,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   qApp->installEventFilter(this);
   qApp->installEventFilter(new BoxPaste(this));
   BuildMenu();
+  new FreeLetters(*control_, *centre);
   BuildStatusBar();
   ReportChanges();
   OutlineReplacements();
@@ -326,9 +328,9 @@ bool MainWindow::KeepAsBackup(const std::string& path, std::string_view text) {
     backups_->Keep(PathOfFile(path), text);
     return true;
   } catch (const posix::FileProblem& problem) {
-    messages_.Show(
-        std::string("Your text cannot be kept: ") + problem.what() + ". The file is not reloaded.",
-        MessageIcon::kExclamation, kProgramTitle, MessageButtons::kOk);
+    const QString sentence = tr("Your text cannot be kept: %1. The file is not reloaded.");
+    messages_.Show(sentence.arg(ShownName(problem.what())).toStdString(), MessageIcon::kExclamation,
+                   kProgramTitle, MessageButtons::kOk);
     return false;
   }
 }

@@ -122,7 +122,7 @@ void RecoveryOffer::Recover() {
 
 void RecoveryOffer::Discard() {
   const MessageAnswer answer =
-      messages_.Show("Discard the text for good? It cannot be brought back.",
+      messages_.Show(tr("Discard the text for good? It cannot be brought back.").toStdString(),
                      MessageIcon::kQuestion, kProgramTitle, MessageButtons::kNoYes);
   if (answer != MessageAnswer::kYes) return;
   texts_->Discard();

@@ -13,6 +13,7 @@
 #include "host/HostAutomation.h"
 #include "host/MainWindow.h"
 #include "host/Options.h"
+#include "host/language/Translations.h"
 #include "host/process/AbruptEnd.h"
 #include "host/process/MemoryEnd.h"
 #include "host/process/Picture.h"
@@ -157,5 +158,6 @@ int main(int argc, char** argv) {
   QApplication application(qtArguments, argv);
   QGuiApplication::setDesktopFileName("zanth-manager");
   QGuiApplication::setWindowIcon(QIcon(":/tessel/icons/zanth-manager.svg"));
+  const tessel::Translations translations(QLocale::system());
   return tessel::Run(*options);
 }

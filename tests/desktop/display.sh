@@ -20,6 +20,7 @@ for _ in $(seq 600); do [ -s "$work/display" ] && break; sleep 0.05; done
 [ -s "$work/display" ] || { echo "there is no display: $(cat "$work/display-errors")" >&2; exit 1; }
 display=:$(cat "$work/display")
 export DISPLAY=$display QT_QPA_PLATFORM=xcb HOME=$work XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state
+export LANGUAGE=en
 export ASAN_OPTIONS=log_path=$work/sanitizer UBSAN_OPTIONS=log_path=$work/sanitizer
 export XDG_RUNTIME_DIR=$work ZANTHMAN_STORE=$work/settings.db QT_SCALE_FACTOR=1 QT_FONT_DPI=96
 

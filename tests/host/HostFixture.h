@@ -16,6 +16,7 @@
 
 #include "host/MainWindow.h"
 #include "posix/PosixFiles.h"
+#include "qt/base/Mnemonics.h"
 #include "safekeeping/BackupStore.h"
 #include "support/FakeServices.h"
 #include "support/TempDirectory.h"
@@ -61,7 +62,7 @@ struct HostRun {
   bool Press(const QString& caption) {
     for (auto* part : window->findChildren<Widget*>()) {
       for (auto* button : part->template findChildren<QPushButton*>()) {
-        if (button->text() != caption) continue;
+        if (PlainCaption(button->text()) != PlainCaption(caption)) continue;
         button->click();
         return true;
       }

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
+#include "qt/base/AccessibleNames.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
 #include "qt/looks/SvgIcon.h"
@@ -35,8 +36,8 @@ FindBar::FindBar(TesselWidget& control, QWidget* parent)
 
 void FindBar::BuildFindRow(QGridLayout& rows) {
   field_ = new FindField(this);
-  field_->setAccessibleName(tr("Find"));
-  auto* label = new QLabel(tr("Fin&d:"), this);
+  NameForReaders(*field_, tr("Find"));
+  auto* label = new QLabel(tr("Loo&k for:"), this);
   label->setBuddy(field_);
   count_ = new QLabel(this);
   count_->setObjectName("count");
@@ -49,8 +50,8 @@ void FindBar::BuildFindRow(QGridLayout& rows) {
             &FindBar::FindPrevious, *row);
   AddButton("FindNext", tr("Next match"), tr("Next match (Enter)"), &FindBar::FindNext, *row);
   row->addSpacing(6);
-  matchCase_ = AddChoice(tr("C&ase"), tr("Match case"), *row);
-  wholeWord_ = AddChoice(tr("W&ord"), tr("Whole words only"), *row);
+  matchCase_ = AddChoice(tr("&Case"), tr("Match case"), *row);
+  wholeWord_ = AddChoice(tr("Wor&d"), tr("Whole words only"), *row);
   expression_ = AddChoice(tr("Rege&x"), tr("Regular expression"), *row);
   row->addStretch(1);
   AddButton("FindClose", tr("Close"), tr("Close (Esc)"), &FindBar::Close, *row);
@@ -243,7 +244,7 @@ QString FindBar::StateText() const {
   }
   if (matches == 0) return tr("No match");
   if (number > 0) return tr("%1 of %2").arg(number).arg(matches);
-  return matches == 1 ? tr("1 match") : tr("%1 matches").arg(matches);
+  return tr("%n match(es)", nullptr, static_cast<int>(matches));
 }
 
 void FindBar::ShowState() {

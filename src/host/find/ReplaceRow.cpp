@@ -19,11 +19,11 @@ ReplaceRow::ReplaceRow(QGridLayout& grid, int row, QWidget* bar)
   parts_ = {label, field_};
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(4);
-  AddButton(tr("&Replace"), tr("Replace this match and go on (Enter)"), &ReplaceRow::oneWanted,
+  AddButton(tr("Repl&ace"), tr("Replace this match and go on (Enter)"), &ReplaceRow::oneWanted,
             *buttons, bar);
-  AddButton(tr("Replace A&ll"), tr("Replace all matches of this document"), &ReplaceRow::allWanted,
+  AddButton(tr("Rep&lace All"), tr("Replace all matches of this document"), &ReplaceRow::allWanted,
             *buttons, bar);
-  AddButton(tr("I&n All Documents"), tr("Replace all matches of all open documents"),
+  AddButton(tr("In All Docu&ments"), tr("Replace all matches of all open documents"),
             &ReplaceRow::everywhereWanted, *buttons, bar);
   buttons->addWidget(inSelection_);
   buttons->addStretch(1);

@@ -9,7 +9,9 @@
 namespace tessel {
 namespace {
 
-QString Told(const char* sentence) { return QCoreApplication::translate("Replacement", sentence); }
+class ReplacementTexts {
+  Q_DECLARE_TR_FUNCTIONS(Replacement)
+};
 
 /// Everything that means something; the groups tell which it is.
 const QRegularExpression& Special() {
@@ -57,13 +59,14 @@ void Replacement::AddSpecial(const QRegularExpressionMatch& special, int groups,
     case kItself:
       return AddText(special.captured().left(1));
     default:
-      problem_ = Told("\"%1\" means nothing in a replacement. For a \"\\\" write \"\\\\\".")
+      problem_ = ReplacementTexts::tr(
+                     "\"%1\" means nothing in a replacement. For a \"\\\" write \"\\\\\".")
                      .arg(special.captured());
   }
 }
 
 void Replacement::AddGroup(int group, int groups) {
-  if (group > groups) problem_ = Told("The expression has no group %1.").arg(group);
+  if (group > groups) problem_ = ReplacementTexts::tr("The expression has no group %1.").arg(group);
   parts_.push_back({{}, group});
 }
 

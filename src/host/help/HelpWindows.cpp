@@ -9,6 +9,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "qt/base/Mnemonics.h"
+
 // The macro wants the global namespace.
 static void LoadManual() { Q_INIT_RESOURCE(manual); }
 
@@ -34,9 +36,6 @@ QDialog* MakeWindow(QWidget& parent, QWidget* part, const QString& title, QSize 
   window->resize(size);
   return window;
 }
-
-/// The caption without its mnemonic.
-QString Plain(QString caption) { return caption.remove('&'); }
 
 }  // namespace
 
@@ -67,11 +66,11 @@ void ShowShortcuts(QWidget& parent, const MainMenu& menu) {
   for (const Menu title : {Menu::kFile, Menu::kEdit, Menu::kSearch, Menu::kView, Menu::kGame,
                            Menu::kTools, Menu::kWindow, Menu::kHelp}) {
     QMenu& of = menu.Of(title);
-    auto* group = new QTreeWidgetItem(list, {Plain(of.title())});
+    auto* group = new QTreeWidgetItem(list, {PlainCaption(of.title())});
     for (const QAction* action : of.actions()) {
       if (action->shortcuts().isEmpty()) continue;
       new QTreeWidgetItem(group,
-                          {Plain(action->text()),
+                          {PlainCaption(action->text()),
                            QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText)
                                .replace("; ", ", ")});
     }

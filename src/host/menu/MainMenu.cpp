@@ -4,6 +4,8 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "qt/base/Mnemonics.h"
+
 namespace tessel {
 namespace {
 
@@ -26,10 +28,17 @@ QList<QKeySequence> KeysOf(const MenuRow& row) {
                              : QKeySequence::listFromString(row.keys, QKeySequence::PortableText);
 }
 
+/// With its title as the name for assistive technology, too.
+QMenu* Named(QMenu* menu) {
+  menu->setAccessibleName(PlainCaption(menu->title()));
+  return menu;
+}
+
 }  // namespace
 
 MainMenu::MainMenu(QMainWindow& window, ucTessel& tessel)
     : QObject(&window), window_(window), tessel_(tessel) {
+  window_.menuBar()->setAccessibleName(tr("Menu bar"));
   for (const MenuRow& row : MenuRows()) Add(row);
   toolbar_ = tessel_.Controls().tbToolBar.Refresh.Connect([this] { ShowStates(); });
   ShowStates();
@@ -37,13 +46,14 @@ MainMenu::MainMenu(QMainWindow& window, ucTessel& tessel)
 
 void MainMenu::Add(const MenuRow& row) {
   QMenu*& menu = menus_[row.menu];
-  if (menu == nullptr) menu = window_.menuBar()->addMenu(tr(TitleOf(row.menu)));
+  if (menu == nullptr) menu = Named(window_.menuBar()->addMenu(Translated(TitleOf(row.menu))));
   if (row.kind == MenuItemKind::kSeparator) {
     menu->addSeparator();
     return;
   }
-  QAction* action = row.kind == MenuItemKind::kSubMenu ? menu->addMenu(tr(row.text))->menuAction()
-                                                       : menu->addAction(tr(row.text));
+  QAction* action = row.kind == MenuItemKind::kSubMenu
+                        ? Named(menu->addMenu(Translated(row.text)))->menuAction()
+                        : menu->addAction(Translated(row.text));
   action->setShortcuts(KeysOf(row));
   action->setCheckable(row.kind == MenuItemKind::kToggle);
   if (row.command == WindowCommand::kNone) {

@@ -1,6 +1,6 @@
 #include "host/menu/MenuTable.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
 
 namespace tessel {
 namespace {
@@ -32,7 +32,8 @@ constexpr MenuRow DropDown(Menu menu, const char* text, const char* button, cons
   return {menu, MenuItemKind::kCommand, text, nullptr, Do::kNone, nullptr, button, item};
 }
 
-#define TR(text) QT_TRANSLATE_NOOP("MainMenu", text)
+// Outside of a class lupdate takes the namespace for the context.
+#define TR(text) QT_TRANSLATE_NOOP("tessel", text)
 
 constexpr MenuRow kMenuRows[] = {
     SubMenu(kFile, TR("&New"), "Ctrl+N", Do::kNew),
@@ -131,6 +132,8 @@ constexpr MenuTitle kTitles[] = {
 #undef TR
 
 }  // namespace
+
+QString Translated(const char* caption) { return QCoreApplication::translate("tessel", caption); }
 
 std::span<const MenuRow> MenuRows() { return kMenuRows; }
 

@@ -1,6 +1,7 @@
 // Every item of the menu bar: where it stands, its keys, and what it does.
 #pragma once
 
+#include <QString>
 #include <span>
 
 #include "control/Commands.h"
@@ -73,6 +74,9 @@ struct MenuRow {
   const char* button = nullptr;
   const char* dropDownItem = nullptr;  ///< of the button
 };
+
+/// A text or title of these tables, in the language of the window.
+QString Translated(const char* caption);
 
 /// In the order of the menu bar.
 std::span<const MenuRow> MenuRows();

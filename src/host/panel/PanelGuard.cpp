@@ -1,44 +1,52 @@
 #include "host/panel/PanelGuard.h"
 
+#include <QCoreApplication>
 #include <string>
 #include <utility>
 
 #include "base/ScopeGuard.h"
 #include "language/SettingLines.h"
+#include "qt/base/QtText.h"
 
 namespace tessel {
 namespace {
 
+class PanelQuestions {
+  Q_DECLARE_TR_FUNCTIONS(PanelGuard)
+};
+
 constexpr std::size_t kMostQuoted = 60;
 
-/// The line's fault, as a clause.
-const char* WhyNot(PanelWrite write) {
+/// What is asked where something is selected: %1 is the new text, %2 the old one, %3 the line.
+QString QuestionOf(PanelWrite write) {
   switch (write) {
     case PanelWrite::kValue:
     case PanelWrite::kYesNo:
-      return "which is no define";
+      return PanelQuestions::tr("%1 would replace %2 in line %3, which is no define.\nReplace it?");
     case PanelWrite::kLevel:
-      return "which is no definelevelname";
+      return PanelQuestions::tr(
+          "%1 would replace %2 in line %3, which is no definelevelname.\nReplace it?");
     case PanelWrite::kWord:
       break;
   }
-  return "where you do not see it selected";
+  return PanelQuestions::tr(
+      "%1 would replace %2 in line %3, where you do not see it selected.\nReplace it?");
 }
 
 /// The beginning of a text in quotes.
-std::string Quoted(std::string_view text) {
+QString Quoted(std::string_view text) {
   const std::string_view shown = text.substr(0, text.find_first_of("\r\n")).substr(0, kMostQuoted);
-  return '"' + std::string(shown) + (shown.size() < text.size() ? "...\"" : "\"");
+  return '"' + ShownText(shown) + (shown.size() < text.size() ? "...\"" : "\"");
 }
 
-std::string Question(PanelWrite write, std::string_view text, const RichTextBox& editor,
-                     Position line) {
-  if (editor.SelLength() == 0) {
-    return "Nothing is selected: " + Quoted(text) + " would be inserted into line " +
-           std::to_string(line) + ".\nInsert it?";
+QString Question(PanelWrite write, std::string_view text, const RichTextBox& editor,
+                 Position place) {
+  const QString line = QString::number(place);
+  if (editor.SelLength() > 0) {
+    return QuestionOf(write).arg(Quoted(text), Quoted(editor.SelBytes()), line);
   }
-  return Quoted(text) + " would replace " + Quoted(editor.SelBytes()) + " in line " +
-         std::to_string(line) + ", " + WhyNot(write) + ".\nReplace it?";
+  return PanelQuestions::tr("Nothing is selected: %1 would be inserted into line %2.\nInsert it?")
+      .arg(Quoted(text), line);
 }
 
 }  // namespace
@@ -77,8 +85,9 @@ bool PanelGuard::MayWrite(PanelWrite write, std::string_view text) {
 bool PanelGuard::Ask(PanelWrite write, std::string_view text, Position line) {
   Asking.Raise(true);
   const ScopeGuard answered([this] { Asking.Raise(false); });
-  return messages_.Show(Question(write, text, Editor(), line), MessageIcon::kExclamation,
-                        kProgramTitle, MessageButtons::kNoYes) == MessageAnswer::kYes;
+  return messages_.Show(Question(write, text, Editor(), line).toStdString(),
+                        MessageIcon::kExclamation, kProgramTitle,
+                        MessageButtons::kNoYes) == MessageAnswer::kYes;
 }
 
 void PanelGuard::OnCommandEnded() {

@@ -13,12 +13,17 @@ namespace {
 using language::Keyword;
 
 constexpr const char* kGroupTitles[] = {
-    QT_TRANSLATE_NOOP("OutlineModel", "Levels"),      QT_TRANSLATE_NOOP("OutlineModel", "Actors"),
-    QT_TRANSLATE_NOOP("OutlineModel", "States"),      QT_TRANSLATE_NOOP("OutlineModel", "Actions"),
-    QT_TRANSLATE_NOOP("OutlineModel", "Moves"),       QT_TRANSLATE_NOOP("OutlineModel", "AIs"),
-    QT_TRANSLATE_NOOP("OutlineModel", "Definitions"), QT_TRANSLATE_NOOP("OutlineModel", "Quotes"),
-    QT_TRANSLATE_NOOP("OutlineModel", "Titles"),      QT_TRANSLATE_NOOP("OutlineModel", "Sounds"),
-    QT_TRANSLATE_NOOP("OutlineModel", "Music"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Levels"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Actors"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "States"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Actions"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Moves"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "AIs"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Definitions"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Quotes"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Titles"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Sounds"),
+    QT_TRANSLATE_NOOP("tessel::OutlineModel", "Music"),
 };
 constexpr std::size_t kGroups = std::size(kGroupTitles);
 

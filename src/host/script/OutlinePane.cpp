@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "qt/base/AccessibleNames.h"
 #include "qt/base/QtText.h"
 
 namespace tessel {
@@ -17,7 +18,7 @@ OutlinePane::OutlinePane(QWidget* parent)
     : QWidget(parent), filter_(new QLineEdit(this)), tree_(new QTreeView(this)) {
   filter_->setPlaceholderText(tr("Filter"));
   filter_->setAccessibleName(tr("Filter of the outline"));
-  filter_->setClearButtonEnabled(true);
+  OfferClearing(*filter_);
   filter_->installEventFilter(this);
   tree_->setAccessibleName(tr("Outline"));
   tree_->setModel(&model_);

@@ -17,23 +17,23 @@ struct ScriptCommand {
 };
 
 const ScriptCommand kScriptCommands[] = {
-    {"GoToDefinition", QT_TRANSLATE_NOOP("ScriptTools", "Go to &Definition"),
+    {"GoToDefinition", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Go to &Definition"),
      QKeyCombination(Qt::Key_F12), &ScriptTools::GoToDefinition},
-    {"GoBack", QT_TRANSLATE_NOOP("ScriptTools", "Go &Back"), Qt::ALT | Qt::Key_Left,
+    {"GoBack", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Go &Back"), Qt::ALT | Qt::Key_Left,
      &ScriptTools::GoBack},
-    {"GoForward", QT_TRANSLATE_NOOP("ScriptTools", "Go F&orward"), Qt::ALT | Qt::Key_Right,
+    {"GoForward", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Go F&orward"), Qt::ALT | Qt::Key_Right,
      &ScriptTools::GoForward},
-    {"ToggleOutline", QT_TRANSLATE_NOOP("ScriptTools", "Outlin&e"),
+    {"ToggleOutline", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Outlin&e"),
      Qt::CTRL | Qt::SHIFT | Qt::Key_O, &ScriptTools::ToggleOutline},
-    {"ToggleFold", QT_TRANSLATE_NOOP("ScriptTools", "&Fold or Unfold"), QKeyCombination(Qt::Key_F9),
-     &ScriptTools::ToggleFold},
-    {"FoldAll", QT_TRANSLATE_NOOP("ScriptTools", "Fold &All"), Qt::CTRL | Qt::Key_F9,
+    {"ToggleFold", QT_TRANSLATE_NOOP("tessel::ScriptTools", "&Fold or Unfold"),
+     QKeyCombination(Qt::Key_F9), &ScriptTools::ToggleFold},
+    {"FoldAll", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Fold &All"), Qt::CTRL | Qt::Key_F9,
      &ScriptTools::FoldAll},
-    {"UnfoldAll", QT_TRANSLATE_NOOP("ScriptTools", "Unf&old All"),
+    {"UnfoldAll", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Unf&old All"),
      Qt::CTRL | Qt::SHIFT | Qt::Key_F9, &ScriptTools::UnfoldAll},
-    {"Complete", QT_TRANSLATE_NOOP("ScriptTools", "Co&mplete"), Qt::CTRL | Qt::Key_Space,
+    {"Complete", QT_TRANSLATE_NOOP("tessel::ScriptTools", "Co&mplete"), Qt::CTRL | Qt::Key_Space,
      &ScriptTools::Complete},
-    {"ShowParameters", QT_TRANSLATE_NOOP("ScriptTools", "&Show Parameters"),
+    {"ShowParameters", QT_TRANSLATE_NOOP("tessel::ScriptTools", "&Show Parameters"),
      Qt::CTRL | Qt::SHIFT | Qt::Key_Space, &ScriptTools::ShowParameters},
 };
 

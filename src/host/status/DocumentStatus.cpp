@@ -52,9 +52,10 @@ DocumentStatus::DocumentStatus(QStatusBar& bar, TesselWidget& control)
     : QObject(&bar),
       control_(control),
       selection_(AddLabel(bar, tr("%1 selected").arg(100'000), tr("Characters that are selected"))),
-      caret_(AddLabel(bar, "Ln 000000, Col 0000", tr("Line and column of the caret"))),
+      caret_(AddLabel(bar, tr("Ln %1, Col %2").arg("000000", "0000"),
+                      tr("Line and column of the caret"))),
       encoding_(AddLabel(bar, {}, tr("How the bytes of the file are shown"))),
-      lineEnds_(AddLabel(bar, "Mixed", tr("How the lines end"))),
+      lineEnds_(AddLabel(bar, tr("Mixed"), tr("How the lines end"))),
       dialect_(AddLabel(bar, "1.4/1.5", tr("The version of the game that the text is for"))),
       modified_(AddLabel(bar, tr("Modified"), {})) {
   encoding_->setText(QStringLiteral("Windows-1252"));

@@ -1,0 +1,34 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>DocumentGuard</name>
+    <message numerus="yes">
+        <source>%1 byte(s)</source>
+        <translation>
+            <numerusform>%1 byte</numerusform>
+            <numerusform>%1 bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReplace</name>
+    <message numerus="yes">
+        <source>%1 replaced in %n document(s)</source>
+        <translation>
+            <numerusform>%1 replaced in %n document</numerusform>
+            <numerusform>%1 replaced in %n documents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tessel::FindBar</name>
+    <message numerus="yes">
+        <source>%n match(es)</source>
+        <translation>
+            <numerusform>%n match</numerusform>
+            <numerusform>%n matches</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
