@@ -210,7 +210,7 @@ TEST_F(FindReplaceKeys, OnlyGoesThereWhileNoMatchIsSelected) {
   Given("[]one two one");
   Replace("one", "1");
   Editor().SelectByHand(4, 0);
-  Click("&Replace");
+  Click("Replace");
   EXPECT_EQ(Shown(), "one two [one]");
 }
 
