@@ -9,10 +9,75 @@
     </message>
 </context>
 <context>
+    <name>BackupComparison</name>
+    <message>
+        <source>The backup of %1</source>
+        <translation>Die Sicherungskopie von %1</translation>
+    </message>
+    <message>
+        <source>%1 on the disk</source>
+        <translation>%1 auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>%1 now</source>
+        <translation>%1 jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>ChangeReport</name>
+    <message>
+        <source>1 line changed</source>
+        <translation>1 Zeile geändert</translation>
+    </message>
+    <message>
+        <source>%1 lines changed</source>
+        <translation>%1 Zeilen geändert</translation>
+    </message>
+    <message>
+        <source>1 value changed</source>
+        <translation>1 Wert geändert</translation>
+    </message>
+    <message>
+        <source>%1 values changed</source>
+        <translation>%1 Werte geändert</translation>
+    </message>
+    <message>
+        <source>%1 replaced</source>
+        <translation>%1 ersetzt</translation>
+    </message>
+    <message>
+        <source>%1 in %2 documents</source>
+        <translation>%1 in %2 Dokumenten</translation>
+    </message>
+    <message>
+        <source>Converted to 1.4/1.5: %1</source>
+        <translation>In 1.4/1.5 umgewandelt: %1</translation>
+    </message>
+    <message>
+        <source>%1 reloaded: %2</source>
+        <translation>%1 neu geladen: %2</translation>
+    </message>
+    <message>
+        <source>Backup put back: %1</source>
+        <translation>Sicherungskopie zurückgeholt: %1</translation>
+    </message>
+    <message>
+        <source>%1 saved, %2 bytes</source>
+        <translation>%1 gespeichert, %2 Bytes</translation>
+    </message>
+</context>
+<context>
     <name>CloseButton</name>
     <message>
         <source>Close Tab</source>
         <translation>Reiter schließen</translation>
+    </message>
+</context>
+<context>
+    <name>DifferenceWindow</name>
+    <message>
+        <source>no line end</source>
+        <translation>kein Zeilenende</translation>
     </message>
 </context>
 <context>
@@ -56,17 +121,6 @@ Durch dieses Dokument (%4) ersetzen?</translation>
     <message>
         <source>Nothing was found to replace.</source>
         <translation>Es wurde nichts zum Ersetzen gefunden.</translation>
-    </message>
-    <message>
-        <source>%1 replaced</source>
-        <translation>%1 ersetzt</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 replaced in %n document(s)</source>
-        <translation>
-            <numerusform>%1 in %n Dokument ersetzt</numerusform>
-            <numerusform>%1 in %n Dokumenten ersetzt</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -114,30 +168,6 @@ Durch dieses Dokument (%4) ersetzen?</translation>
         <source>Keyboard Shortcuts</source>
         <translation>Tastenkürzel</translation>
     </message>
-    <message>
-        <source>About Zanth Manager</source>
-        <translation>Über Zanth Manager</translation>
-    </message>
-    <message>
-        <source>Zanth Manager %1</source>
-        <translation>Zanth Manager %1</translation>
-    </message>
-    <message>
-        <source>An editor for CON files.
-
-Free software under the GNU General Public License, version 3.
-It uses Qt %1 (LGPL 3), QScintilla (GPL 3) and SQLite (public domain).
-
-Backups: %2
-Unsaved text: %3</source>
-        <translation>Ein Editor für CON-Dateien.
-
-Freie Software unter der GNU General Public License, Version 3.
-Sie verwendet Qt %1 (LGPL 3), QScintilla (GPL 3) und SQLite (gemeinfrei).
-
-Sicherungskopien: %2
-Nicht gespeicherter Text: %3</translation>
-    </message>
 </context>
 <context>
     <name>MatchScan</name>
@@ -168,6 +198,15 @@ Nicht gespeicherter Text: %3</translation>
 <context>
     <name>PanelGuard</name>
     <message>
+        <source>Nothing is selected: %1 would be inserted into line %2.
+Insert it?</source>
+        <translation>Es ist nichts ausgewählt: %1 würde in Zeile %2 eingefügt.
+Einfügen?</translation>
+    </message>
+</context>
+<context>
+    <name>PanelQuestions</name>
+    <message>
         <source>%1 would replace %2 in line %3, which is no define.
 Replace it?</source>
         <translation>%1 würde %2 in Zeile %3 ersetzen, die kein define ist.
@@ -185,18 +224,19 @@ Replace it?</source>
         <translation>%1 würde %2 in Zeile %3 ersetzen, ohne dass dort eine Auswahl zu sehen ist.
 Ersetzen?</translation>
     </message>
-    <message>
-        <source>Nothing is selected: %1 would be inserted into line %2.
-Insert it?</source>
-        <translation>Es ist nichts ausgewählt: %1 würde in Zeile %2 eingefügt.
-Einfügen?</translation>
-    </message>
 </context>
 <context>
     <name>QDockWidget</name>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
     </message>
 </context>
 <context>
@@ -216,6 +256,18 @@ Einfügen?</translation>
     <message>
         <source>Save As</source>
         <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>%1 on the disk</source>
+        <translation>%1 auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>No file of %1</source>
+        <translation>Keine Datei von %1</translation>
+    </message>
+    <message>
+        <source>The unsaved text of %1</source>
+        <translation>Der nicht gespeicherte Text von %1</translation>
     </message>
 </context>
 <context>
@@ -551,6 +603,65 @@ Einfügen?</translation>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
+    <message>
+        <source>S&amp;how Last Changes</source>
+        <translation>Letzte Änderungen &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Scroll Bar &amp;Marks</source>
+        <translation>&amp;Marken an der Bildlaufleiste</translation>
+    </message>
+    <message>
+        <source>Second &amp;View</source>
+        <translation>Zwei&amp;te Ansicht</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::AboutDialog</name>
+    <message>
+        <source>About Zanth Manager</source>
+        <translation>Über Zanth Manager</translation>
+    </message>
+    <message>
+        <source>Zanth Manager %1</source>
+        <translation>Zanth Manager %1</translation>
+    </message>
+    <message>
+        <source>An editor for CON files.</source>
+        <translation>Ein Editor für CON-Dateien.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3, with icons of its own. It uses Qt %1 (LGPL 3), QScintilla (GPL 3) with Scintilla (a permissive licence), SQLite (public domain), and the fonts of the desktop.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3, mit eigenen Symbolen. Sie benutzt Qt %1 (LGPL 3), QScintilla (GPL 3) mit Scintilla (eine freizügige Lizenz), SQLite (gemeinfrei) und die Schriften der Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>&amp;Settings:</source>
+        <translation>&amp;Einstellungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Backups:</source>
+        <translation>&amp;Sicherungskopien:</translation>
+    </message>
+    <message>
+        <source>&amp;Unsaved text:</source>
+        <translation>&amp;Nicht gespeicherter Text:</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open the folder: %1</source>
+        <translation>Den Ordner öffnen: %1</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the path: %1</source>
+        <translation>Den Pfad kopieren: %1</translation>
+    </message>
 </context>
 <context>
     <name>tessel::Automation</name>
@@ -609,6 +720,14 @@ Einfügen?</translation>
         <source>%1 (damaged)</source>
         <translation>%1 (beschädigt)</translation>
     </message>
+    <message>
+        <source>Co&amp;mpare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>Show what has changed in the text since then</source>
+        <translation>Zeigen, was sich im Text seitdem geändert hat</translation>
+    </message>
 </context>
 <context>
     <name>tessel::BusName</name>
@@ -619,6 +738,29 @@ Einfügen?</translation>
     <message>
         <source>The name %1 on the bus is taken by another program.</source>
         <translation>Der Name %1 auf dem Bus ist von einem anderen Programm belegt.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::ChangeLine</name>
+    <message>
+        <source>What has changed</source>
+        <translation>Was sich geändert hat</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Show changes: %1</source>
+        <translation>Änderungen zeigen: %1</translation>
+    </message>
+    <message>
+        <source>Undo: %1</source>
+        <translation>Rückgängig: %1</translation>
     </message>
 </context>
 <context>
@@ -648,6 +790,37 @@ Einfügen?</translation>
 Your text is kept among the backups (File &gt; Backups).</source>
         <translation>%1 neu laden und die eigenen Änderungen verwerfen?
 Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien).</translation>
+    </message>
+    <message>
+        <source>Show D&amp;ifferences</source>
+        <translation>Unterschiede zei&amp;gen</translation>
+    </message>
+    <message>
+        <source>%1 here</source>
+        <translation>%1 hier</translation>
+    </message>
+    <message>
+        <source>%1 on the disk</source>
+        <translation>%1 auf dem Datenträger</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::ChangeReports</name>
+    <message>
+        <source>The backup is a new document.</source>
+        <translation>Die Sicherungskopie ist ein neues Dokument.</translation>
+    </message>
+    <message>
+        <source>The backup is the text that is there.</source>
+        <translation>Die Sicherungskopie ist gleich dem jetzigen Text.</translation>
+    </message>
+    <message>
+        <source>%1 before</source>
+        <translation>%1 vorher</translation>
+    </message>
+    <message>
+        <source>%1 now</source>
+        <translation>%1 jetzt</translation>
     </message>
 </context>
 <context>
@@ -701,6 +874,75 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
     <message>
         <source>%1 has been converted. The text from before can be put back until you change it.</source>
         <translation>%1 wurde umgewandelt. Der vorige Text kann bis zur nächsten Änderung zurückgeholt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::DifferenceModel</name>
+    <message>
+        <source>%1 equal lines</source>
+        <translation>%1 gleiche Zeilen</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Removed: %1</source>
+        <translation>Entfernt: %1</translation>
+    </message>
+    <message>
+        <source>Added: %1</source>
+        <translation>Hinzugefügt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::DifferenceWindow</name>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Voriger</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Nächster</translation>
+    </message>
+    <message>
+        <source>Comparing...</source>
+        <translation>Wird verglichen...</translation>
+    </message>
+    <message>
+        <source>No difference</source>
+        <translation>Kein Unterschied</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>The texts differ in so much that this is a rough comparison.</source>
+        <translation>Die Texte unterscheiden sich so sehr, dass dies ein grober Vergleich ist.</translation>
     </message>
 </context>
 <context>
@@ -864,6 +1106,25 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
     </message>
 </context>
 <context>
+    <name>tessel::FirstStartHint</name>
+    <message>
+        <source>What to do first</source>
+        <translation>Was zuerst zu tun ist</translation>
+    </message>
+    <message>
+        <source>Open a CON file (Ctrl+O), or make one with File &gt; New. The pages above the text change its values. Text that is not saved is kept, and offered again after a crash.</source>
+        <translation>Öffnen Sie eine CON-Datei (Strg+O) oder legen Sie eine mit Datei &gt; Neu an. Die Seiten über dem Text ändern ihre Werte. Nicht gespeicherter Text bleibt erhalten und wird nach einem Absturz wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>&amp;Manual (F1)</source>
+        <translation>&amp;Handbuch (F1)</translation>
+    </message>
+    <message>
+        <source>&amp;Close Hint</source>
+        <translation>Hinweis s&amp;chließen</translation>
+    </message>
+</context>
+<context>
     <name>tessel::HostAutomation</name>
     <message>
         <source>Other programs cannot use the control: %1.</source>
@@ -882,10 +1143,6 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
     <message>
         <source>Zanth Manager[*]</source>
         <translation>Zanth Manager[*]</translation>
-    </message>
-    <message>
-        <source>[*] – Zanth Manager</source>
-        <translation>[*] – Zanth Manager</translation>
     </message>
     <message>
         <source>Your text cannot be kept: %1. The file is not reloaded.</source>
@@ -910,6 +1167,41 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
     <message>
         <source>Not there any more and not opened again: %1</source>
         <translation>Nicht mehr vorhanden und nicht wieder geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>[*] — Zanth Manager</source>
+        <translation>[*] — Zanth Manager</translation>
+    </message>
+    <message>
+        <source>The backup cannot be compared: %1.</source>
+        <translation>Die Sicherungskopie kann nicht verglichen werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::MarkStrip</name>
+    <message>
+        <source>Marks</source>
+        <translation>Marken</translation>
+    </message>
+    <message>
+        <source>Where the matches and the changed lines are</source>
+        <translation>Wo die Treffer und die geänderten Zeilen sind</translation>
+    </message>
+    <message>
+        <source>Match %1 of %2, line %3</source>
+        <translation>Treffer %1 von %2, Zeile %3</translation>
+    </message>
+    <message>
+        <source>Line %1, changed</source>
+        <translation>Zeile %1, geändert</translation>
+    </message>
+    <message>
+        <source>Lines %1 to %2, changed</source>
+        <translation>Zeilen %1 bis %2, geändert</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>Zeile %1</translation>
     </message>
 </context>
 <context>
@@ -1055,6 +1347,10 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
         <source>Font &amp;size:</source>
         <translation>Schrift&amp;größe:</translation>
     </message>
+    <message>
+        <source>Bac&amp;kups of each file:</source>
+        <translation>Si&amp;cherungskopien je Datei:</translation>
+    </message>
 </context>
 <context>
     <name>tessel::ReadingNotice</name>
@@ -1118,13 +1414,13 @@ Den Text trotzdem als Änderung der Datei zeigen? „Nein“ zeigt ihn als eigen
         <source>Discard the text for good? It cannot be brought back.</source>
         <translation>Den Text endgültig verwerfen? Er kann nicht zurückgeholt werden.</translation>
     </message>
+    <message>
+        <source>Show D&amp;ifferences</source>
+        <translation>Unterschiede zei&amp;gen</translation>
+    </message>
 </context>
 <context>
     <name>tessel::ReplaceRow</name>
-    <message>
-        <source>Selection Onl&amp;y</source>
-        <translation>&amp;Nur Auswahl</translation>
-    </message>
     <message>
         <source>Replace by</source>
         <translation>Ersetzen durch</translation>
@@ -1161,6 +1457,10 @@ Den Text trotzdem als Änderung der Datei zeigen? „Nein“ zeigt ihn als eigen
         <source>Replace all matches of all open documents</source>
         <translation>Alle Treffer aller geöffneten Dokumente ersetzen</translation>
     </message>
+    <message>
+        <source>Selection onl&amp;y</source>
+        <translation>Nur in der Ausw&amp;ahl</translation>
+    </message>
 </context>
 <context>
     <name>tessel::ScintillaView</name>
@@ -1171,10 +1471,6 @@ Den Text trotzdem als Änderung der Datei zeigen? „Nein“ zeigt ihn als eigen
     <message>
         <source>The text of the document</source>
         <translation>Der Text des Dokuments</translation>
-    </message>
-    <message>
-        <source>The program that has the selection does not answer. Nothing was pasted.</source>
-        <translation>Das Programm, dem die Auswahl gehört, antwortet nicht. Es wurde nichts eingefügt.</translation>
     </message>
 </context>
 <context>
@@ -1222,6 +1518,55 @@ Den Text trotzdem als Änderung der Datei zeigen? „Nein“ zeigt ihn als eigen
     <message>
         <source>Keep &amp;Indentation</source>
         <translation>Einrückung &amp;beibehalten</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::SecondPane</name>
+    <message>
+        <source>Second view</source>
+        <translation>Zweite Ansicht</translation>
+    </message>
+    <message>
+        <source>Close the second view</source>
+        <translation>Die zweite Ansicht schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::SecondText</name>
+    <message>
+        <source>Second view</source>
+        <translation>Zweite Ansicht</translation>
+    </message>
+    <message>
+        <source>A document, for reading</source>
+        <translation>Ein Dokument, zum Lesen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Alles a&amp;uswählen</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::SecondView</name>
+    <message>
+        <source>Empty Document</source>
+        <translation>Leeres Dokument</translation>
+    </message>
+    <message>
+        <source>The second view is for reading. Type into the text beside it.</source>
+        <translation>Die zweite Ansicht ist zum Lesen. Geschrieben wird in den Text daneben.</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>%1 (second view)</source>
+        <translation>%1 (zweite Ansicht)</translation>
     </message>
 </context>
 <context>

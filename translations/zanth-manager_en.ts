@@ -12,16 +12,6 @@
     </message>
 </context>
 <context>
-    <name>DocumentReplace</name>
-    <message numerus="yes">
-        <source>%1 replaced in %n document(s)</source>
-        <translation>
-            <numerusform>%1 replaced in %n document</numerusform>
-            <numerusform>%1 replaced in %n documents</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>tessel::FindBar</name>
     <message numerus="yes">
         <source>%n match(es)</source>

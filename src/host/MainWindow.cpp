@@ -124,21 +124,22 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   const auto keepText = [this](const std::string& path, std::string_view text) {
     return KeepAsBackup(path, text);
   };
-  control_->ShowAboveText(*new ConversionNotice(control_->Tessel(), control_));
-  control_->ShowAboveText(*new ReadingNotice(*control_, control_));
+  letters_ = new FreeLetters(*control_);
+  AddNotice(*new ConversionNotice(control_->Tessel(), control_));
+  AddNotice(*new ReadingNotice(*control_, control_));
   changeNotice_ = new ChangeNotice(*control_, guard_, messages_, keepText, control_);
-  control_->ShowAboveText(*changeNotice_);
+  AddNotice(*changeNotice_);
   splitter_ = new QSplitter(Qt::Horizontal, centre);
   splitter_->addWidget(control_);
   column->addWidget(splitter_, 1);
   find_ = new FindBar(*control_, centre);
   column->addWidget(find_);
+  letters_->AddBar(*find_);
   setCentralWidget(centre);
   setAcceptDrops(true);
   qApp->installEventFilter(this);
   qApp->installEventFilter(new BoxPaste(this));
   BuildMenu();
-  new FreeLetters(*control_, *centre);
   BuildStatusBar();
   ReportChanges();
   OutlineReplacements();
@@ -393,7 +394,12 @@ void MainWindow::KeepUnsavedText(const std::string& folder) {
   auto* offer = new RecoveryOffer(
       control_->Tessel(), files_, messages_, std::move(texts),
       [this] { return keeper_->KeepNow(); }, control_);
-  control_->ShowAboveText(*offer);
+  AddNotice(*offer);
+}
+
+void MainWindow::AddNotice(QWidget& notice) {
+  control_->ShowAboveText(notice);
+  letters_->AddBar(notice);
 }
 
 void MainWindow::LogTo(KeepingLog& log) {
@@ -433,7 +439,7 @@ void MainWindow::ShowFirstHint() {
   if (!control_->Tessel().OpenDocuments().Current().IsFree()) return;
   auto* hint = new FirstStartHint(*control_, control_);
   connect(hint, &FirstStartHint::manualWanted, this, [this] { ShowManual(*this); });
-  control_->ShowAboveText(*hint);
+  AddNotice(*hint);
 }
 
 // --- Files dropped anywhere in the window are opened, on the editor too

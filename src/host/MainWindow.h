@@ -29,6 +29,7 @@ namespace tessel {
 class BackupsDialog;
 class ChangeNotice;
 class ChangeReports;
+class FreeLetters;
 class KeepingLog;
 class RecoveryKeeper;
 class ScriptTools;
@@ -92,6 +93,7 @@ class MainWindow : public QMainWindow {
   void OfferPreferences();
   void OfferHelp();
   void BuildStatusBar();
+  void AddNotice(QWidget& notice);
   void ReportChanges();
   void ShowBackups();
   void LimitBackups();
@@ -117,6 +119,7 @@ class MainWindow : public QMainWindow {
   SettingsStore& settings_;
   QSplitter* splitter_ = nullptr;
   MainMenu* menu_ = nullptr;
+  FreeLetters* letters_ = nullptr;
   ChangeNotice* changeNotice_ = nullptr;
   FindBar* find_ = nullptr;
   ChangeReports* changes_ = nullptr;

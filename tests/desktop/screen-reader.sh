@@ -20,6 +20,7 @@ export DBUS_SESSION_BUS_ADDRESS QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 # window LANGUAGE FILTER: the tests of the reader at a window in that language
 window() {
   printf 'define MAXPLAYERHEALTH 100 // health\r\nsecond line\r\n' >"$work/User.con"
+  rm -rf "$work/settings.db" "$work/state"  # no place that another window was left at
   LANGUAGE=$1 open_window "$work/User.con"
   "$reader" --gtest_filter="$2"
   kill "$pid"

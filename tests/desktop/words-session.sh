@@ -22,7 +22,7 @@ key ctrl+h
 type zanth
 key Tab
 type hero
-key alt+n
+key alt+m
 demand "nothing was replaced" titled 'user.con\* *'
 key Escape
 

@@ -217,16 +217,16 @@ TEST_F(FindBarKeys, ItsChoicesHaveKeys) {
   Given("[]cat Cat cats");
   Find("Cat");
   EXPECT_TRUE(Counts("1 of 3"));
-  Press(Qt::Key_O, Qt::AltModifier);
+  Press(Qt::Key_D, Qt::AltModifier);
   EXPECT_TRUE(Counts("1 of 2"));
   EXPECT_TRUE(Button("Whole words only").isChecked());
-  Press(Qt::Key_A, Qt::AltModifier);
+  Press(Qt::Key_C, Qt::AltModifier);
   EXPECT_TRUE(Counts("1 of 1"));
   EXPECT_EQ(Shown(), "cat [Cat] cats");
   Press(Qt::Key_X, Qt::AltModifier);
   EXPECT_TRUE(QTest::qWaitFor([&] { return Button("Regular expression").isChecked(); }, kSoon));
   View().setFocus();
-  Press(Qt::Key_D, Qt::AltModifier);
+  Press(Qt::Key_K, Qt::AltModifier);
   EXPECT_TRUE(Field().hasFocus());
 }
 

@@ -145,12 +145,12 @@ TEST_P(Mnemonics, AreEachNoticesOwn) {
   Window().KeepTexts();
   Restart();
   ASSERT_TRUE(Window().findChild<RecoveryOffer*>()->isVisible());
-  ExpectFreeOfClashesOnEveryPage("recovery");
+  ExpectFreeOfClashesOnEveryPage("recovery", false);
   Window().OpenFiles({directory_.Put("user.con", "define QSIZE 5\r\n")});
   auto* changed = Window().findChild<ChangeNotice*>();
   std::ofstream(directory_ / "user.con") << "others were here";
   ASSERT_TRUE(QTest::qWaitFor([&] { return changed->isVisible(); }, kPatience));
-  ExpectFreeOfClashesOnEveryPage("recovery and change");
+  ExpectFreeOfClashesOnEveryPage("recovery and change", false);
   Trigger("&Replace...");
   ExpectFreeOfClashesOnEveryPage("all bars", false);
 }

@@ -4,9 +4,9 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLayout>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "qt/base/Mnemonics.h"
 
@@ -37,28 +37,43 @@ QString Lettered(const QString& plain, const QSet<QChar>& taken) {
 
 }  // namespace
 
-FreeLetters::FreeLetters(QWidget& control, QWidget& centre)
-    : QObject(&centre), control_(control), centre_(centre) {
+FreeLetters::FreeLetters(QWidget& control) : QObject(&control), control_(control) {
   soon_.setSingleShot(true);
   connect(&soon_, &QTimer::timeout, this, &FreeLetters::Assign);
-  centre_.installEventFilter(this);
   for (QObject* part : control_.children()) part->installEventFilter(this);
 }
 
+void FreeLetters::AddBar(QWidget& bar) {
+  bars_ += &bar;
+  bar.installEventFilter(this);
+  soon_.start();
+}
+
 // The pages of the panel come and go, and so do the bars and their rows.
-bool FreeLetters::eventFilter(QObject* watched, QEvent* event) {
-  const bool ofBars = watched == &centre_ && event->type() == QEvent::LayoutRequest;
-  const bool ofPages = event->type() == QEvent::Show || event->type() == QEvent::Hide;
-  if (ofBars || ofPages) soon_.start();
+bool FreeLetters::eventFilter(QObject*, QEvent* event) {
+  const bool isChange = event->type() == QEvent::Show || event->type() == QEvent::Hide ||
+                        event->type() == QEvent::LayoutRequest;
+  if (isChange) soon_.start();
   return false;
 }
 
 bool FreeLetters::IsInBar(const QWidget& part) const {
-  return centre_.isAncestorOf(&part) && !control_.isAncestorOf(&part);
+  return std::ranges::any_of(bars_,
+                             [&](const auto& bar) { return bar && bar->isAncestorOf(&part); });
+}
+
+QList<QWidget*> FreeLetters::BarsInSight() const {
+  QList<QWidget*> bars;
+  for (QWidget* bar : bars_) {
+    if (bar != nullptr && bar->isVisible()) bars += bar;
+  }
+  std::ranges::stable_sort(bars, {},
+                           [](const QWidget* bar) { return bar->mapToGlobal(QPoint()).y(); });
+  return bars;
 }
 
 QSet<QChar> FreeLetters::LettersOfOthers() const {
-  const QWidget* window = centre_.window();
+  const QWidget* window = control_.window();
   QSet<QChar> letters;
   for (const QWidget* part : window->findChildren<QWidget*>()) {
     if (part->window() != window || !part->isVisible() || IsInBar(*part)) continue;
@@ -103,9 +118,7 @@ void FreeLetters::Show(QWidget& part, const QString& caption) {
 
 QList<QWidget*> FreeLetters::PartsInSight() const {
   QList<QWidget*> parts;
-  for (int row = 0; row < centre_.layout()->count(); ++row) {
-    const QWidget* bar = centre_.layout()->itemAt(row)->widget();
-    if (bar == nullptr || bar == &control_) continue;
+  for (const QWidget* bar : BarsInSight()) {
     for (QWidget* part : bar->findChildren<QWidget*>()) {
       if (part->isVisible() && !CaptionOf(*part).isEmpty()) parts += part;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QHash>
+#include <QPointer>
 #include <QSet>
 #include <QTimer>
 #include <QWidget>
@@ -15,8 +16,11 @@ class FreeLetters : public QObject {
   Q_OBJECT
 
  public:
-  /// The bars are what stands in `centre` beside `control`; both outlive this.
-  FreeLetters(QWidget& control, QWidget& centre);
+  /// `control` outlives this.
+  explicit FreeLetters(QWidget& control);
+
+  /// A bar may stand inside the control, and may go.
+  void AddBar(QWidget& bar);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -33,9 +37,11 @@ class FreeLetters : public QObject {
   QString MadeAs(QWidget& part);
   QSet<QChar> LettersOfOthers() const;
   bool IsInBar(const QWidget& part) const;
+  /// Those in sight, the upper one first.
+  QList<QWidget*> BarsInSight() const;
 
   QWidget& control_;
-  QWidget& centre_;
+  QList<QPointer<QWidget>> bars_;
   QTimer soon_;
   QHash<const QObject*, Caption> captions_;
 };
