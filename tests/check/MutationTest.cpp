@@ -38,7 +38,7 @@ struct Value {
 Value ValueIn(const std::string& line) {
   const std::size_t name = line.find_first_not_of(' ', std::string_view("define").size());
   const std::size_t begin = line.find_first_not_of(' ', line.find(' ', name));
-  return {begin, std::min(line.find(' ', begin), line.size())};
+  return {begin, std::min(line.find_first_of(" \t/", begin), line.size())};
 }
 
 // --- The mutations
