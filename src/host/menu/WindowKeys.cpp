@@ -16,6 +16,21 @@ constexpr QKeyCombination kOfTheFocus[] = {
     Qt::CTRL | Qt::Key_A, Qt::CTRL | Qt::Key_F, QKeyCombination(Qt::Key_F3),
 };
 
+// A box takes back what was typed into it.
+constexpr QKeyCombination kOfBoxes[] = {
+    Qt::CTRL | Qt::Key_Z,
+    Qt::CTRL | Qt::Key_Y,
+    Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
+};
+
+bool IsOfTheFocus(const QWidget& focus, QKeyCombination keys) {
+  const auto has = [keys](const auto& table) {
+    return std::ranges::find(table, keys) != std::ranges::end(table);
+  };
+  const bool isBox = qobject_cast<const ScintillaView*>(&focus) == nullptr;
+  return has(kOfTheFocus) || (isBox && has(kOfBoxes));
+}
+
 }  // namespace
 
 WindowKeys::WindowKeys(QMainWindow& window) : QObject(&window), window_(window) {
@@ -24,11 +39,10 @@ WindowKeys::WindowKeys(QMainWindow& window) : QObject(&window), window_(window) 
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::ShortcutOverride) return false;
-  const auto* view = qobject_cast<ScintillaView*>(watched);
-  if (view == nullptr || view->window() != &window_) return false;
+  const auto* focus = qobject_cast<const QWidget*>(watched);
+  if (focus == nullptr || focus->window() != &window_) return false;
   const auto keys = static_cast<QKeyEvent*>(event)->keyCombination();
-  if (std::ranges::find(kOfTheFocus, keys) != std::ranges::end(kOfTheFocus)) return false;
-  if (!IsOfMenu(QKeySequence(keys))) return false;
+  if (IsOfTheFocus(*focus, keys) || !IsOfMenu(QKeySequence(keys))) return false;
   event->ignore();
   return true;
 }
