@@ -12,6 +12,7 @@
 
 #include "posix/PathResolution.h"
 #include "qt/base/QtText.h"
+#include "qt/base/RoomForTitle.h"
 #include "services/Paths.h"
 
 namespace tessel {
@@ -67,7 +68,7 @@ BackupsDialog::BackupsDialog(std::vector<Backup> backups, const std::string& cur
   column->addWidget(list_, 1);
   column->addWidget(hint);
   column->addWidget(buttons);
-  resize(680, 380);
+  resize(OnScreen(*this, {680, 380}));
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(open, &QPushButton::clicked, this, &BackupsDialog::Choose);
   connect(compare, &QPushButton::clicked, this, &BackupsDialog::Compare);

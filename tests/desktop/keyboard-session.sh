@@ -26,8 +26,8 @@ demand "the value is not in the text" titled 'user.con\* *'
 key ctrl+s
 demand "the value is not saved" titled 'user.con *'
 
-# The find bar, and the word it looked for replaced everywhere.
-key F6 ctrl+e
+# From the box of the value to the find bar, and the word it looked for replaced everywhere.
+key ctrl+e
 type health
 key Escape ctrl+h Tab
 type vigour

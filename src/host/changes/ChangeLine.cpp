@@ -29,6 +29,9 @@ QToolButton* ChangeLine::AddLink(const QString& caption, void (ChangeLine::*want
   link->setAutoRaise(true);
   link->setFocusPolicy(Qt::TabFocus);
   link->setForegroundRole(QPalette::Link);
+  QFont underlined = link->font();
+  underlined.setUnderline(true);
+  link->setFont(underlined);
   connect(link, &QToolButton::clicked, this, wanted);
   layout()->addWidget(link);
   return link;

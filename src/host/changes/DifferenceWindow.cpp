@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "host/changes/Background.h"
+#include "qt/base/RoomForTitle.h"
 #include "qt/editor/ScintillaView.h"
 
 namespace tessel {
@@ -59,7 +60,7 @@ DifferenceWindow::DifferenceWindow(QWidget* parent)
   column->addWidget(remark_);
   column->addWidget(view_, 1);
   column->addLayout(row);
-  resize(kUsualSize);
+  resize(OnScreen(*this, kUsualSize));
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(documents_, &QComboBox::currentIndexChanged, this, &DifferenceWindow::Compare);
   connect(view_, &DifferenceView::currentMoved, this, &DifferenceWindow::ShowState);

@@ -3,6 +3,7 @@
 #include <QInputDialog>
 
 #include "host/edit/CommentLines.h"
+#include "qt/base/RoomForTitle.h"
 #include "qt/editor/ScintillaView.h"
 
 namespace tessel {
@@ -64,6 +65,7 @@ void AskForLine(TesselWidget& control) {
   dialog->setOkButtonText(TextCommands::tr("&Go"));
   QObject::connect(dialog, &QInputDialog::intValueSelected, &control,
                    [&control](int line) { GoToLine(control, line); });
+  KeepRoomForTitle(*dialog);
   dialog->open();
 }
 

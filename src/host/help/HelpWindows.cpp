@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "qt/base/Mnemonics.h"
+#include "qt/base/RoomForTitle.h"
 
 // The macro wants the global namespace.
 static void LoadManual() { Q_INIT_RESOURCE(manual); }
@@ -33,7 +34,7 @@ QDialog* MakeWindow(QWidget& parent, QWidget* part, const QString& title, QSize 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, window);
   QObject::connect(buttons, &QDialogButtonBox::rejected, window, &QDialog::reject);
   column->addWidget(buttons);
-  window->resize(size);
+  window->resize(OnScreen(*window, size));
   return window;
 }
 

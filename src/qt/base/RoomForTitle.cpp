@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QScreen>
 #include <algorithm>
 
 namespace tessel {
@@ -11,11 +12,17 @@ constexpr int kNarrowestBox = 320;
 // A window manager's own: the icon, the buttons, bold letters.
 constexpr int kBesideTitle = 120;
 constexpr double kBoldLetters = 1.15;
+constexpr QSize kFrame{8, 40};
 
 /// The toolkit puts the program's name behind a title.
-QString WholeTitle(const QMessageBox& box) {
+QString WholeTitle(const QDialog& dialog) {
   const QString program = QGuiApplication::applicationDisplayName();
-  return box.windowTitle() == program ? program : box.windowTitle() + " \u2014 " + program;
+  return dialog.windowTitle() == program ? program : dialog.windowTitle() + " \u2014 " + program;
+}
+
+int WidthForTitle(const QDialog& dialog) {
+  const int title = dialog.fontMetrics().horizontalAdvance(WholeTitle(dialog));
+  return std::max(kNarrowestBox, qRound(title * kBoldLetters) + kBesideTitle);
 }
 
 }  // namespace
@@ -24,11 +31,16 @@ QString WholeTitle(const QMessageBox& box) {
 void KeepRoomForTitle(QMessageBox& box) {
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (grid == nullptr) return;
-  const int title = box.fontMetrics().horizontalAdvance(WholeTitle(box));
-  const int width = std::max(kNarrowestBox, qRound(title * kBoldLetters) + kBesideTitle);
+  const int width = WidthForTitle(box);
   const QMargins margins = box.contentsMargins() + grid->contentsMargins();
   auto* room = new QSpacerItem(width - margins.left() - margins.right(), 0);
   grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+void KeepRoomForTitle(QDialog& dialog) { dialog.setMinimumWidth(WidthForTitle(dialog)); }
+
+QSize OnScreen(const QWidget& window, QSize wanted) {
+  return wanted.boundedTo(window.screen()->availableSize() - kFrame);
 }
 
 }  // namespace tessel

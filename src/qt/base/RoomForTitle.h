@@ -1,4 +1,4 @@
-// Message boxes that are as wide as their titles.
+// Dialogs that are as wide as their titles, and no wider than the screen.
 #pragma once
 
 #include <QMessageBox>
@@ -8,5 +8,10 @@ namespace tessel {
 /// Makes the box wide enough for its window's title with the buttons beside it, and never a sliver.
 /// To be called when it has its title and before it is shown.
 void KeepRoomForTitle(QMessageBox& box);
+/// The same for a dialog that has its size from its layout.
+void KeepRoomForTitle(QDialog& dialog);
+
+/// As much of the size, in pixels, as the screen has beside its panels and the window's own frame.
+QSize OnScreen(const QWidget& window, QSize wanted);
 
 }  // namespace tessel
