@@ -256,7 +256,9 @@ void MainWindow::RememberSession() {
 
 void MainWindow::BuildStatusBar() {
   statusBar()->setSizeGripEnabled(true);
-  new DocumentStatus(*statusBar(), *control_);
+  new DocumentStatus(*statusBar(), *control_, [this](Slot slot) -> const language::Script& {
+    return script_->ScriptOf(slot);
+  });
 }
 
 void MainWindow::ReportChanges() {

@@ -60,7 +60,7 @@ bool TakesItsDocument(const KeptBytes& text, std::span<const KeptBytes> newerTex
 bool HasOtherWork(const DiskState& file, const KeptText& text) try {
   if (!text.base) return file.written.seconds > text.seconds;
   // Not through the guarded files: this is no look that the user has taken.
-  return HashOf(PosixFiles().Read(text.path)) != *text.base;
+  return ContentHash(PosixFiles().Read(text.path)) != *text.base;
 } catch (const RuntimeError&) {  // opening it will say why
   return false;
 }

@@ -53,7 +53,7 @@ std::string GuardedFiles::Read(const std::string& path) {
   const DiskState before = DiskStateOf(path);  // a change while reading is a change
   const LongWork work(*this, "Opening ", path, before.size);
   std::string bytes = files_.Read(path);
-  known_[path] = {before, HashOf(bytes)};
+  known_[path] = {before, ContentHash(bytes)};
   return bytes;
 }
 
@@ -61,14 +61,14 @@ void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
   RefuseIfChanged(path, bytes);
   files_.Write(path, bytes);
-  known_[path] = {DiskStateOf(path), HashOf(bytes)};
+  known_[path] = {DiskStateOf(path), ContentHash(bytes)};
 }
 
 void GuardedFiles::WriteAs(const std::string& path, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
   if (posix::StatusOf(path)) RefuseIfChanged(path, bytes);
   files_.WriteAs(path, bytes);
-  known_[path] = {DiskStateOf(path), HashOf(bytes)};
+  known_[path] = {DiskStateOf(path), ContentHash(bytes)};
 }
 
 void GuardedFiles::RefuseIfChanged(const std::string& path, std::string_view bytes) {
@@ -111,7 +111,7 @@ bool GuardedFiles::Changed(const std::string& path, FileRecord& record) {
 }
 
 bool GuardedFiles::HasTheBytes(const std::string& path, const FileRecord& record) try {
-  return record.hash && HashOf(files_.Read(path)) == *record.hash;
+  return record.hash && ContentHash(files_.Read(path)) == *record.hash;
 } catch (const RuntimeError&) {
   return false;
 }
@@ -119,7 +119,7 @@ bool GuardedFiles::HasTheBytes(const std::string& path, const FileRecord& record
 void GuardedFiles::Accept(const std::string& path) {
   FileRecord& record = known_[path] = {DiskStateOf(path)};
   try {
-    if (record.state.exists) record.hash = HashOf(files_.Read(path));
+    if (record.state.exists) record.hash = ContentHash(files_.Read(path));
   } catch (const RuntimeError&) {
   }
 }

@@ -36,7 +36,7 @@ DiskState DiskStateOf(const std::string& path);
 /// A file as it was read or written.
 struct FileRecord {
   DiskState state;
-  std::optional<std::uint64_t> hash = {};  ///< of the bytes, where they could be read
+  std::optional<std::uint64_t> hash = {};  ///< ContentHash of the bytes, where they could be read
 };
 
 /// The host's files: they remember the state of each file they read or wrote, and refuse to write

@@ -8,15 +8,17 @@
 namespace tessel::test {
 namespace {
 
+QString Dialect(std::string_view text) { return DialectOf(language::Script(text)); }
+
 TEST(Dialect, IsTheNewerOneWhereQsizeIsDefined) {
-  EXPECT_EQ(DialectOf("definelevelname 0 0 a.map 1:00 1:00 A\ndefine QSIZE 5\n"), "1.4/1.5");
-  EXPECT_EQ(DialectOf("// define QSIZE 5\ndefinelevelname 0 0 a.map 1:00 1:00 A\n"), "1.3D");
+  EXPECT_EQ(Dialect("definelevelname 0 0 a.map 1:00 1:00 A\ndefine QSIZE 5\n"), "1.4/1.5");
+  EXPECT_EQ(Dialect("// define QSIZE 5\ndefinelevelname 0 0 a.map 1:00 1:00 A\n"), "1.3D");
 }
 
 TEST(Dialect, IsNotKnownWhereNeitherIsDefined) {
-  EXPECT_EQ(DialectOf(""), "");
-  EXPECT_EQ(DialectOf("define A 1\n"), "");
-  EXPECT_EQ(DialectOf("// definelevelname 0 0 a.map 1:00 1:00 A\n"), "");
+  EXPECT_EQ(Dialect(""), "");
+  EXPECT_EQ(Dialect("define A 1\n"), "");
+  EXPECT_EQ(Dialect("// definelevelname 0 0 a.map 1:00 1:00 A\n"), "");
 }
 
 TEST(LineEndsShown, AreTheOnlyKindOrMixed) {

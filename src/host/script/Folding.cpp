@@ -104,8 +104,9 @@ Folding::Folding(TesselWidget& control, OpenScripts& scripts, StructureReader& r
       scripts_.Changed.Connect([this](Slot slot, const ChangedRange&) {
         if (slot == slot_) marking_.stop();
       }),
-      control_.Tessel().OpenDocuments().Shown.Connect(
-          [this](const Document& document) { Reveal(document.Editor()); }),
+      control_.Tessel().OpenDocuments().Shown.Connect([this](const Document& document) {
+        if (ScintillaView* view = ViewOf(document.Editor())) Reveal(document.Editor(), *view);
+      }),
   };
   reader.SetWish(this, StructureReader::Wish::kBlocks);
 }
@@ -120,7 +121,7 @@ void Folding::Add(RichTextBox& editor) {
   connect(view, &QsciScintillaBase::SCN_MARGINCLICK, this, [this, view](int position, int, int) {
     Toggle(*view, view->SendScintilla(Sci::SCI_LINEFROMPOSITION, LineNumber(position)));
   });
-  selections_.push_back(editor.SelectionMoved.Connect([this, &editor] { Reveal(editor); }));
+  selections_.push_back(editor.SelectionMoved.Connect([&editor, view] { Reveal(editor, *view); }));
 }
 
 // --- Telling the view which lines fold
@@ -188,19 +189,18 @@ void Folding::TakeCaretOutOfFold(ScintillaView& view) {
   editor.SelectByHand(view.mirror().OffsetOf(at), 0);
 }
 
-void Folding::Reveal(const RichTextBox& editor) {
-  ScintillaView* view = ViewOf(editor);
-  if (view == nullptr || view->mirror().State() != MirrorState::kInStep) return;
-  if (view->SendScintilla(Sci::SCI_GETALLLINESVISIBLE) != 0) return;
+void Folding::Reveal(const RichTextBox& editor, ScintillaView& view) {
+  if (view.mirror().State() != MirrorState::kInStep) return;
+  if (view.SendScintilla(Sci::SCI_GETALLLINESVISIBLE) != 0) return;
   bool hidden = false;
   for (const Position place : {editor.SelStart(), editor.SelEnd()}) {
-    const auto at = LineNumber(view->mirror().PositionOf(place));
-    const long line = view->SendScintilla(Sci::SCI_LINEFROMPOSITION, at);
-    if (IsVisible(*view, line)) continue;
-    view->SendScintilla(Sci::SCI_ENSUREVISIBLE, LineNumber(line));
+    const auto at = LineNumber(view.mirror().PositionOf(place));
+    const long line = view.SendScintilla(Sci::SCI_LINEFROMPOSITION, at);
+    if (IsVisible(view, line)) continue;
+    view.SendScintilla(Sci::SCI_ENSUREVISIBLE, LineNumber(line));
     hidden = true;
   }
-  if (hidden) view->SendScintilla(Sci::SCI_SCROLLCARET);
+  if (hidden) view.SendScintilla(Sci::SCI_SCROLLCARET);
 }
 
 }  // namespace tessel

@@ -37,7 +37,7 @@ class Folding : public QObject {
   void MarkOn();
   void Toggle(ScintillaView& view, long line);
   void TakeCaretOutOfFold(ScintillaView& view);
-  void Reveal(const RichTextBox& editor);
+  static void Reveal(const RichTextBox& editor, ScintillaView& view);
 
   TesselWidget& control_;
   OpenScripts& scripts_;

@@ -1,5 +1,7 @@
 #include "host/status/DocumentStatus.h"
 
+#include <utility>
+
 #include "language/Definitions.h"
 #include "language/Levels.h"
 #include "qt/editor/ScintillaView.h"
@@ -13,7 +15,7 @@ using Sci = QsciScintillaBase;
 
 constexpr int kPauseMilliseconds = 400;
 
-/// A look at the bytes spares the reading of a text in which the word stands nowhere.
+/// A look at the bytes spares the search for statements where the word stands nowhere.
 bool Holds(std::string_view text, std::string_view word) {
   return FindText(text, word, 0, std::ssize(text), kFindWholeWord) != kNotFound;
 }
@@ -33,11 +35,10 @@ CaretPlace PlaceOfCaret(const ScintillaView& view) {
 
 }  // namespace
 
-QString DialectOf(std::string_view text) {
+QString DialectOf(const language::Script& script) {
+  const std::string_view text = script.Text();
   const bool newer = Holds(text, "QSIZE");
   const bool older = Holds(text, "definelevelname");
-  if (!newer && !older) return {};
-  const language::Script script(text);
   if (newer && !DefinitionsOf(script, "QSIZE").empty()) return QStringLiteral("1.4/1.5");
   return older && !language::Levels(script).empty() ? QStringLiteral("1.3D") : QString();
 }
@@ -48,9 +49,11 @@ QString LineEndsShown(std::string_view text) {
   return ends.Only() ? QString::fromLatin1(NameOf(*ends.Only())) : QString();
 }
 
-DocumentStatus::DocumentStatus(QStatusBar& bar, TesselWidget& control)
+DocumentStatus::DocumentStatus(QStatusBar& bar, TesselWidget& control, ScriptOf scriptOf)
     : QObject(&bar),
       control_(control),
+      scriptOf_(std::move(scriptOf)),
+      pause_(std::chrono::milliseconds(kPauseMilliseconds), this),
       selection_(AddLabel(bar, tr("%1 selected").arg(100'000), tr("Characters that are selected"))),
       caret_(AddLabel(bar, tr("Ln %1, Col %2").arg("000000", "0000"),
                       tr("Line and column of the caret"))),
@@ -59,13 +62,11 @@ DocumentStatus::DocumentStatus(QStatusBar& bar, TesselWidget& control)
       dialect_(AddLabel(bar, "1.4/1.5", tr("The version of the game that the text is for"))),
       modified_(AddLabel(bar, tr("Modified"), {})) {
   encoding_->setText(QStringLiteral("Windows-1252"));
-  reading_.setSingleShot(true);
-  reading_.setInterval(kPauseMilliseconds);
-  connect(&reading_, &QTimer::timeout, this, &DocumentStatus::ReadText);
+  connect(&pause_, &Pause::over, this, &DocumentStatus::ReadText);
   connect(&control_, &TesselWidget::documentChanged, this, &DocumentStatus::ShowDocument);
   connect(&control_, &TesselWidget::caretMoved, this, &DocumentStatus::ShowCaret);
   subscriptions_ = {control_.Tessel().OpenDocuments().Changed.Connect(
-      [this](const Document&) { reading_.start(); })};
+      [this](const Document&) { pause_.Begin(); })};
   ShowDocument();
 }
 
@@ -83,7 +84,7 @@ void DocumentStatus::ShowDocument() {
   modified_->setText(control_.Tessel().OpenDocuments().Current().Modified() ? tr("Modified")
                                                                             : QString());
   ShowCaret();
-  reading_.start();
+  pause_.Begin();
 }
 
 void DocumentStatus::ShowCaret() {
@@ -97,9 +98,9 @@ void DocumentStatus::ShowCaret() {
 
 void DocumentStatus::ReadText() {
   if (control_.CurrentEditorView() == nullptr) return;
-  const std::string_view text = control_.Tessel().OpenDocuments().CurrentEditor().Bytes();
-  lineEnds_->setText(LineEndsShown(text));
-  dialect_->setText(DialectOf(text));
+  const Document document = control_.Tessel().OpenDocuments().Current();
+  lineEnds_->setText(LineEndsShown(document.Editor().Bytes()));
+  dialect_->setText(DialectOf(scriptOf_(document.Place())));
 }
 
 }  // namespace tessel

@@ -3,9 +3,11 @@
 
 #include <QLabel>
 #include <QStatusBar>
-#include <QTimer>
+#include <functional>
 
+#include "language/Script.h"
 #include "qt/TesselWidget.h"
+#include "qt/base/Pause.h"
 
 namespace tessel {
 
@@ -16,8 +18,11 @@ class DocumentStatus : public QObject {
   Q_OBJECT
 
  public:
-  /// Both outlive this.
-  DocumentStatus(QStatusBar& bar, TesselWidget& control);
+  /// What the document in a slot says now.
+  using ScriptOf = std::function<const language::Script&(Slot)>;
+
+  /// All of them outlive this.
+  DocumentStatus(QStatusBar& bar, TesselWidget& control, ScriptOf scriptOf);
 
  private:
   QLabel* AddLabel(QStatusBar& bar, const QString& widest, const QString& tip);
@@ -26,7 +31,8 @@ class DocumentStatus : public QObject {
   void ReadText();
 
   TesselWidget& control_;
-  QTimer reading_;
+  ScriptOf scriptOf_;
+  Pause pause_;
   QLabel* selection_;
   QLabel* caret_;
   QLabel* encoding_;
@@ -37,7 +43,7 @@ class DocumentStatus : public QObject {
 };
 
 /// The versions of the game for which a text is written, as far as it says so; else empty.
-QString DialectOf(std::string_view text);
+QString DialectOf(const language::Script& script);
 
 /// "CR LF", "LF", "CR" or "Mixed"; empty where no line ends.
 QString LineEndsShown(std::string_view text);

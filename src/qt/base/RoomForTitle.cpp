@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace tessel {
@@ -37,7 +38,14 @@ void KeepRoomForTitle(QMessageBox& box) {
   grid->addItem(room, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-void KeepRoomForTitle(QDialog& dialog) { dialog.setMinimumWidth(WidthForTitle(dialog)); }
+// Its layout sets the least size that the dialog has.
+void KeepRoomForTitle(QInputDialog& dialog) {
+  dialog.sizeHint();  // makes the layout
+  auto* column = qobject_cast<QVBoxLayout*>(dialog.layout());
+  if (column == nullptr) return;
+  const QMargins margins = column->contentsMargins();
+  column->addItem(new QSpacerItem(WidthForTitle(dialog) - margins.left() - margins.right(), 0));
+}
 
 QSize OnScreen(const QWidget& window, QSize wanted) {
   return wanted.boundedTo(window.screen()->availableSize() - kFrame);
