@@ -83,49 +83,64 @@ std::string DefaultSettingsPath() {
   return directory + "/ZanthMan/settings.db";
 }
 
-/// A prepared statement. Parameters count from 1, columns from 0; all are blobs.
+/// A prepared statement, which is kept for the next use. Its words outlive the store. Parameters
+/// count from 1, columns from 0; all are blobs.
 class SqliteSettingsStore::Statement {
  public:
-  Statement(SqliteSettingsStore& store, const char* sql) : store_(store) {
+  Statement(SqliteSettingsStore& store, const char* sql)
+      : store_(store), kept_(store.prepared_[sql]), prepared_(std::move(kept_)) {
     store.steps_ = 0;
-    if (sqlite3_prepare_v2(store.database_.get(), sql, -1, &statement_, nullptr) != SQLITE_OK) {
-      store.Fail();
-    }
+    if (prepared_ == nullptr) prepared_ = store.Prepare(sql);
   }
-  ~Statement() { sqlite3_finalize(statement_); }
+  ~Statement() {
+    sqlite3_reset(prepared_.get());
+    sqlite3_clear_bindings(prepared_.get());
+    kept_ = std::move(prepared_);
+  }
   Statement(const Statement&) = delete;
   Statement& operator=(const Statement&) = delete;
 
   void Bind(int parameter, const std::string& bytes) {
     // The bytes outlive the statement.
-    if (sqlite3_bind_blob64(statement_, parameter, bytes.data(), bytes.size(), SQLITE_STATIC) !=
-        SQLITE_OK) {
+    if (sqlite3_bind_blob64(prepared_.get(), parameter, bytes.data(), bytes.size(),
+                            SQLITE_STATIC) != SQLITE_OK) {
       store_.Fail();
     }
   }
 
   /// True while there is a row.
   bool Step() {
-    const int result = sqlite3_step(statement_);
+    const int result = sqlite3_step(prepared_.get());
     if (result != SQLITE_ROW && result != SQLITE_DONE) store_.Fail();
     return result == SQLITE_ROW;
   }
 
   std::string Bytes(int column) const {
-    const void* bytes = sqlite3_column_blob(statement_, column);
-    const int length = sqlite3_column_bytes(statement_, column);
+    const void* bytes = sqlite3_column_blob(prepared_.get(), column);
+    const int length = sqlite3_column_bytes(prepared_.get(), column);
     return bytes == nullptr
                ? std::string()
                : std::string(static_cast<const char*>(bytes), static_cast<std::size_t>(length));
   }
-  int Number(int column) const { return sqlite3_column_int(statement_, column); }
+  int Number(int column) const { return sqlite3_column_int(prepared_.get(), column); }
 
  private:
   SqliteSettingsStore& store_;
-  sqlite3_stmt* statement_ = nullptr;
+  Prepared& kept_;
+  Prepared prepared_;
 };
 
 void SqliteSettingsStore::Closer::operator()(sqlite3* database) const { sqlite3_close(database); }
+
+void SqliteSettingsStore::Finalizer::operator()(sqlite3_stmt* statement) const {
+  sqlite3_finalize(statement);
+}
+
+SqliteSettingsStore::Prepared SqliteSettingsStore::Prepare(const char* sql) {
+  sqlite3_stmt* statement = nullptr;
+  if (sqlite3_prepare_v2(database_.get(), sql, -1, &statement, nullptr) != SQLITE_OK) Fail();
+  return Prepared(statement);
+}
 
 SqliteSettingsStore::SqliteSettingsStore(std::string path) : path_(std::move(path)) {
   try {

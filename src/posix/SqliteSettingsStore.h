@@ -1,13 +1,16 @@
 // Settings in a file that several programs may use at once.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "services/Services.h"
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace tessel {
 
@@ -43,11 +46,17 @@ class SqliteSettingsStore : public SettingsStore {
     void operator()(sqlite3* database) const;
   };
 
+  struct Finalizer {
+    void operator()(sqlite3_stmt* statement) const;
+  };
+  using Prepared = std::unique_ptr<sqlite3_stmt, Finalizer>;
+
   void Open();
   void TrustNothingInIt();
   void MakeSchema();
   void RefuseOtherSchema();
   void RefuseIfDamaged();
+  Prepared Prepare(const char* sql);
   void Execute(const char* sql);
   int Number(const char* sql);
   [[noreturn]] void Fail(const std::string& reason) const;
@@ -56,6 +65,7 @@ class SqliteSettingsStore : public SettingsStore {
   std::string path_;
   int steps_ = 0;  // of the present statement, in thousands
   std::unique_ptr<sqlite3, Closer> database_;
+  std::map<std::string_view, Prepared> prepared_;  // those that nobody uses, by their words
 };
 
 }  // namespace tessel

@@ -17,6 +17,7 @@ constexpr StandardIconRow kStandardIcons[] = {
     {QStyle::SP_MessageBoxWarning, "BoxWarning"},
     {QStyle::SP_MessageBoxCritical, "BoxCritical"},
     {QStyle::SP_MessageBoxQuestion, "BoxQuestion"},
+    {QStyle::SP_LineEditClearButton, "FindClose"},
     {QStyle::SP_FileIcon, "DialogFile"},
     {QStyle::SP_FileLinkIcon, "DialogFile"},
     {QStyle::SP_DirIcon, "DialogFolder"},
