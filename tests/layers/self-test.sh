@@ -28,5 +28,9 @@ rm -r "$dir"/src/other
 echo '| `mid` | z | `later` |' >>"$dir"/docs/architecture.md
 expect "a row that uses what has none" 1 "which has no row above it"
 sed -i '$d' "$dir"/docs/architecture.md
+sed -i 's/| `low` |$/| |\n| | | `low` |/' "$dir"/docs/architecture.md
+expect "a row that goes on" 0 ""
+sed -i '$d' "$dir"/docs/architecture.md
+expect "a row that does not" 1 "src/high/High.h:2: high/ may not use low/ (low/Low.h)"
 for i in $(seq 41); do : >"$dir/src/low/F$i.h"; done
 expect "a folder that is too large" 1 "low/ has more than 40 files"

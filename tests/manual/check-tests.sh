@@ -10,12 +10,14 @@ complain() { echo "docs/reliability.md: $*"; status=1; }
 # is_there FOLDER SUITE NAME: as tests/FOLDER has it, on one line or broken behind the comma.
 is_there() { cat "tests/$1"/*.cpp | tr -s '\n ' '  ' | grep -qE "(TEST|PROP)[A-Z_]*\($2, ?$3[,)]"; }
 
-table=$(sed -n '/^## The faults, by number/,/^## /p' docs/reliability.md | grep -E '^\| [0-9]+ \|')
+# Each fault on a line of its own, with the indented lines that follow it.
+faults=$(sed -n '/^## The faults, by number/,/^## /p' docs/reliability.md |
+  awk '/^[0-9]+\. / { if (row) print row; row = $0; next } /^  / && row { row = row " " $0 } END { print row }')
 expected=$(seq 43)
-[ "$(cut -d' ' -f2 <<<"$table")" = "$expected" ] || complain "the faults are not numbered from 1 to 43"
+[ "$(cut -d. -f1 <<<"$faults")" = "$expected" ] || complain "the faults are not numbered from 1 to 43"
 while read -r row; do
-  [[ $row == *'`'* || $row == *partly* || $row == *'| no'* ]] || complain "no test: $row"
-done <<<"$table"
+  [[ $row == *'`'* || $row == *'**: partly'* || $row == *'**: no'* ]] || complain "no test: $row"
+done <<<"$faults"
 
 while read -r test; do
   checked=$((checked + 1))
@@ -27,6 +29,6 @@ while read -r test; do
     *.*.*) IFS=. read -r folder suite name <<<"$test"
       is_there "$folder" "$suite" "$name" || complain "there is no test $test" ;;
   esac
-done < <(grep -oE '`[a-z]+\.[A-Za-z.-]+`' <<<"$table" | tr -d '`')
+done < <(grep -oE '`[a-z]+\.[A-Za-z.-]+`' <<<"$faults" | tr -d '`')
 [ "$checked" -ge 43 ] || complain "only $checked tests are named"
 exit $status
