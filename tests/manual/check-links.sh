@@ -1,30 +1,40 @@
 #!/usr/bin/env bash
 # Usage: check-links.sh SOURCES
-# Fails when a link, a picture or a file that the texts name is not there.
+# Fails when a link, a picture, a file or a heading that the texts name is not there.
 set -uo pipefail
 cd "$1" || exit 1
 status=0
 checked=0
 
+complain() { echo "$*"; status=1; }
+
 # expect TEXT DIRECTORY NAME
 expect() {
   checked=$((checked + 1))
-  [ -e "$2/$3" ] || { echo "$1 names $3, which is not there"; status=1; }
+  [ -e "$2/$3" ] || complain "$1 names $3, which is not there"
 }
 
-for text in README.md docs/*.md; do
-  # Links and pictures count from where the text is, names in backticks from the top; KEY in a name
-  # stands for any key.
+# anchors TEXT: its headings as links name them.
+anchors() { grep -E '^#+ ' "$1" | sed -E 's/^#+ //' | tr 'A-Z ' 'a-z-' | tr -cd 'a-z0-9_\n-'; }
+
+for text in README.md CONTRIBUTING.md CHANGELOG.md docs/*.md; do
+  # Links and pictures count from where the text is, names in backticks from the top; KEY and Your in
+  # a name stand for any name.
   while read -r target; do
-    [[ $target == *://* || $target == mailto:* || -z $target ]] || expect "$text" "$(dirname "$text")" "$target"
-  done < <(grep -oE '\]\([^)]*\)' "$text" | sed -E 's/^\]\(([^)# ]*).*/\1/')
+    [[ $target == *://* || $target == mailto:* ]] && continue
+    file=${target%%#*}
+    [ -z "$file" ] || expect "$text" "$(dirname "$text")" "$file"
+    [[ $target == *'#'* ]] || continue
+    file=${file:+$(dirname "$text")/$file}
+    anchors "${file:-$text}" | grep -qxF -- "${target#*#}" || complain "$text names $target, a heading that is not there"
+  done < <(grep -oE '\]\([^)]*\)|^\[[a-z]+\]: .*' "$text" | sed -E 's/^\]\(([^) ]*).*/\1/; s/^\[[a-z]+\]: //')
   while read -r name; do
     expect "$text" . "$name"
   done < <(grep -oE '`(\./)?(docs|src|tests|scripts|share|packaging|data|examples|bench|cmake)/[A-Za-z0-9_./-]*`' "$text" |
-    tr -d '`' | grep -v KEY)
+    tr -d '`' | grep -vE 'KEY|Your')
   while read -r picture; do
     expect "$text" docs "$picture"
   done < <(grep -oE 'images/[A-Za-z0-9_-]+\.png' "$text")
 done
-[ "$checked" -gt 0 ] || { echo "No links found"; status=1; }
+[ "$checked" -gt 0 ] || complain "No links found"
 exit $status

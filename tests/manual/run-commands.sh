@@ -1,15 +1,19 @@
 #!/usr/bin/env bash
-# Usage: run-commands.sh MANUAL DIRECTORY-OF-TESSEL DATA
-# Runs the lines that the manual shows for the command line, from top to bottom, beside a user file
-# of version 1.3D, and asks with other commands whether each did what it says.
+# Usage: run-commands.sh TEXT HEADING DIRECTORY-OF-TESSEL DATA
+# Runs the lines that the text shows in the first block below the heading, from top to bottom,
+# beside the files of version 1.3D and a page of values, and asks with other commands whether each
+# did what it says.
 set -uo pipefail
-manual=$1 data=$3
-export PATH=$2:$PATH
+text=$1 heading=$2 data=$4
+export PATH=$3:$PATH
 directory=$(mktemp -d)
 trap 'rm -rf "$directory"' EXIT
 export ZANTHMAN_STORE=$directory/settings.db
 cd "$directory" || exit 1
 cp "$data/zmuser.dat" User.con
+cp "$data/zmdefs.dat" Defs.con
+cp "$data/zmgame.dat" Game.con
+printf '[values]\nMAXPLAYERHEALTH = 120\n' >page.toml
 status=0
 
 complain() { echo "\"$line\": $*"; status=1; }
@@ -77,6 +81,11 @@ check_level() {
   what_is "$(tessel level "$(output "$@")" "$2")" "$(option --map "$@")"$'\t'"$(option --title "$@")"
 }
 
+# The templates have no errors; a file that a check cannot read ends it.
+check_check() { ! grep -q ' error: ' answer || complain "finds errors in the templates"; }
+check_diff() { grep -qF '| QSIZE | - | 64 |' answer || complain "does not show what the conversion adds"; }
+check_apply() { what_is "$(tessel get "$2" MAXPLAYERHEALTH)" 120; }
+
 check_new() {
   cmp -s "$(output "$1" "$@")" "$data/zmuserp.dat" || complain "is not the template of a user file"
 }
@@ -87,9 +96,11 @@ check_levels() { what_is "$(wc -l <answer)" "$(grep -c '^definelevelname' "$1")"
 check_colour() { grep -q '<span style="color:' answer || complain "colours nothing"; }
 check_words() { what_is "$(<answer)" ""; }
 
-# The block of the section about the command line.
-mapfile -t lines < <(sed -n '/^## The command line/,$p' "$manual" | sed -n '/^```/,/^```/p' | grep -v '^```')
-[ ${#lines[@]} -gt 0 ] || { echo "$manual shows no commands"; exit 1; }
+mapfile -t lines < <(awk -v heading="## $heading" '
+  $0 == heading { below = 1; next }
+  below && /^```/ { if (inside) exit; inside = 1; next }
+  inside' "$text")
+[ ${#lines[@]} -gt 0 ] || { echo "$text shows no commands"; exit 1; }
 
 for line in "${lines[@]}"; do
   cp User.con before.con
