@@ -22,7 +22,8 @@ struct VersionEdit {
   When when = When::kAlways;
 };
 
-/// All edits, in the order in which they are carried out.
+/// All edits, in the order in which they are carried out. Steps are numbered from 1 without a gap;
+/// the edits of one step follow each other.
 std::span<const VersionEdit> VersionEdits();
 
 /// What one step of a conversion did.

@@ -249,6 +249,7 @@ bool Documents::CloseAll() {
 void Documents::RemoveSlot(Slot slot) {
   DocumentList& list = uses_.list;
   const Document closed = list.At(slot);
+  // Before any text is overwritten: a host stores what is about to go.
   list.AboutToDrop.Raise(closed);
   SetColourMode(closed.Editor(), ColourMode::kNone);
   const int count = list.Count();

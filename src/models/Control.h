@@ -59,7 +59,9 @@ class Control {
   /// True when a person can use the control: it and all its containers are enabled and not parked.
   bool Usable() const;
 
-  /// Some property has changed; a view draws it again.
+  /// Some property was assigned; a view draws it again. Raised at once, after every assignment,
+  /// also of an equal value, and between two assignments that belong together: what is drawn may be
+  /// a state on the way. A handler assigns nothing and plays no gesture.
   Event<> Refresh;
 
  protected:

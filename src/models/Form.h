@@ -34,7 +34,8 @@ class Form {
   /// The form's own controls; they come before those of the surface behind it.
   ControlSet controls;
 
-  /// The form was shown (Visible is true) or hidden, or its caption changed.
+  /// The form was shown (Visible is true) or hidden, or its caption changed. Raised at once: a view
+  /// opens or closes its dialog, and waits for nothing.
   Event<> Refresh;
 
  private:

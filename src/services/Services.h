@@ -51,7 +51,8 @@ class FileDialogs {
 class ModalForms {
  public:
   virtual ~ModalForms() = default;
-  /// Shows the form (Form::Show) and returns when it has been hidden.
+  /// Shows the form (Form::Show) and returns when it has been hidden. Meanwhile the user reaches
+  /// nothing but the form, whose handlers run as commands of their own.
   virtual void ShowModal(Form& form) = 0;
 };
 
@@ -127,14 +128,15 @@ class RandomNumbers {
 class Focus {
  public:
   virtual ~Focus() = default;
-  /// Code moves the focus.
+  /// Code moves the focus, which is not a user's gesture: no GotFocus is raised.
   virtual void MoveTo(Control& control) = 0;
 };
 
 class MessageLoop {
  public:
   virtual ~MessageLoop() = default;
-  /// Lets windows paint and pending events run.
+  /// Lets windows paint and pending events run, in the middle of a command: timers and calls of
+  /// other programs, but nothing that a user does. A gesture would run inside of that command.
   virtual void DoEvents() = 0;
 };
 
