@@ -14,8 +14,11 @@ expect() {
   [ -e "$2/$3" ] || complain "$1 names $3, which is not there"
 }
 
+# prose TEXT: without its blocks of code.
+prose() { awk '/^ *```/ { code = !code; next } !code' "$1"; }
+
 # anchors TEXT: its headings as links name them.
-anchors() { grep -E '^#+ ' "$1" | sed -E 's/^#+ //' | tr 'A-Z ' 'a-z-' | tr -cd 'a-z0-9_\n-'; }
+anchors() { prose "$1" | grep -E '^#+ ' | sed -E 's/^#+ //' | tr 'A-Z ' 'a-z-' | tr -cd 'a-z0-9_\n-'; }
 
 for text in README.md CONTRIBUTING.md CHANGELOG.md docs/*.md; do
   # Links and pictures count from where the text is, names in backticks from the top; KEY and Your in
@@ -27,7 +30,7 @@ for text in README.md CONTRIBUTING.md CHANGELOG.md docs/*.md; do
     [[ $target == *'#'* ]] || continue
     file=${file:+$(dirname "$text")/$file}
     anchors "${file:-$text}" | grep -qxF -- "${target#*#}" || complain "$text names $target, a heading that is not there"
-  done < <(grep -oE '\]\([^)]*\)|^\[[a-z]+\]: .*' "$text" | sed -E 's/^\]\(([^) ]*).*/\1/; s/^\[[a-z]+\]: //')
+  done < <(prose "$text" | grep -oE '\]\([^)]*\)|^\[[a-z]+\]: .*' | sed -E 's/^\]\(([^) ]*).*/\1/; s/^\[[a-z]+\]: //')
   while read -r name; do
     expect "$text" . "$name"
   done < <(grep -oE '`(\./)?(docs|src|tests|scripts|share|packaging|data|examples|bench|cmake)/[A-Za-z0-9_./-]*`' "$text" |
