@@ -25,7 +25,8 @@ bool ControlObject::Refused() const {
   } else if (QApplication::activePopupWidget() != nullptr) {
     sendErrorReply(kBusy, tr("A menu is open. Call again when the user has closed it."));
   } else if (control_->Tessel().Running()) {
-    sendErrorReply(kBusy, tr("A command is on its way. Call again when it is through."));
+    sendErrorReply(kBusy,
+                   tr("The editor is busy. Call again when the current command has finished."));
   } else {
     return false;
   }

@@ -85,10 +85,10 @@ void AddConvert(CLI::App& program, Arguments& all) {
   AddFiles(*command, convert.files);
   AddEdit(*command, convert);
   const auto keep = [&convert](const std::string& kind) { convert.keepLineEnds = kind == "keep"; };
-  TakeOneOf(
-      *command->add_option_function<std::string>(
-          "--line-ends", keep, "what is inserted ends with CR LF (control), or as the file (keep)"),
-      {"control", "keep"});
+  TakeOneOf(*command->add_option_function<std::string>(
+                "--line-ends", keep,
+                "line ends of what is inserted: CR LF (control) or the file's own (keep)"),
+            {"control", "keep"});
   command->callback([command, &convert, &all] {
     CheckEdit(*command, convert);
     all.good = Convert(convert);
@@ -121,14 +121,16 @@ void AddRandomizeOptions(CLI::App& command, RandomizeArguments& randomize, Rando
       ->excludes(upper);
   command
       .add_option("--percent", randomize.percent,
-                  "draw at most so much away from the present value")
+                  "draw values at most this many per cent from the present one")
       ->type_name("NUMBER")
       ->check(CLI::Range(1, 1000))
       ->excludes(lower)
       ->excludes(upper);
   command.add_flag("--keep-below", randomize.keepBelow, "leave smaller values as they are");
   command.add_flag("--keep-above", randomize.keepAbove, "leave larger values as they are");
-  command.add_option("--seed", randomize.seed, "start the random numbers at another place")
+  command
+      .add_option("--seed", randomize.seed,
+                  "start the random numbers here; the same seed gives the same file")
       ->check(CLI::Range(0U, (1U << 24) - 1));
 }
 
@@ -372,7 +374,7 @@ void AddApply(CLI::App& program, Arguments& all) {
 
 void AddWords(CLI::App& program, Arguments& all) {
   WordsArguments& arguments = all.words;
-  CLI::App* words = program.add_subcommand("words", "Keep the list of script words");
+  CLI::App* words = program.add_subcommand("words", "Manage the list of script words");
   words->require_subcommand(1);
   words->add_option("--store", arguments.store, "the settings file, instead of the user's own")
       ->type_name("FILE");
@@ -394,7 +396,7 @@ void AddWords(CLI::App& program, Arguments& all) {
   TakeDocumentText(
       *set->add_option("PARAMETERS", arguments.parameters, "such as \"[weapon] [amount]\"")
            ->required());
-  addWord(add("remove", "Take a word off the list", RemoveWord));
+  addWord(add("remove", "Remove a word from the list", RemoveWord));
   CLI::Option* file =
       add("import", "Add the words of a file: one a line, word, tab, parameters", ImportWords)
           ->add_option("FILE", arguments.file, "the file; \"-\" is standard input");
@@ -434,7 +436,7 @@ void DeclareSubcommands(CLI::App& program, Arguments& arguments) {
   AddApply(program, arguments);
   AddWords(program, arguments);
   AddNew(program, arguments);
-  program.add_subcommand("help", "Tell about a subcommand")
+  program.add_subcommand("help", "Print help on a subcommand")
       ->add_option("COMMAND", arguments.helpOn, "the subcommand, such as: words set");
 }
 

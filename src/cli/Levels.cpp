@@ -96,7 +96,7 @@ Level FindLevel(const Script& script, const std::string& file, const LevelArgume
   if (levels.size() > 1) {
     throw RuntimeError(file + " has level " + wanted + " in the lines " +
                        std::to_string(LineOf(script, levels[0])) + " and " +
-                       std::to_string(LineOf(script, levels[1])) + ": say which, with --line.");
+                       std::to_string(LineOf(script, levels[1])) + ": choose one with --line.");
   }
   if (const auto problem = ProblemOf(levels.front())) {
     throw RuntimeError("Line " + std::to_string(LineOf(script, levels.front())) + " of " + file +

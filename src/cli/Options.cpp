@@ -110,11 +110,10 @@ std::string MisuseMessage(const CLI::App* program, const CLI::Error& error) {
 
 int RunSubcommand(int argc, char** argv) {
   Arguments arguments;
-  CLI::App program("Works on CON files: converts, randomizes, reads and changes settings.",
-                   "tessel");
+  CLI::App program("Convert, randomize, read and change CON files.", "tessel");
   program.formatter(std::make_shared<HelpFormatter>());
   program.require_subcommand(1);
-  program.footer("\"tessel help SUBCOMMAND\" tells more.");
+  program.footer("Run 'tessel help SUBCOMMAND' for details.");
   DeclareSubcommands(program, arguments);
   AddVersion(program, "tessel " TESSEL_VERSION);
   CLI::App* help = program.get_subcommand("help");

@@ -45,7 +45,7 @@ int Run(int argc, char** argv) {
 int RunAndFlush(int argc, char** argv) {
   const int result = Run(argc, argv);
   if (std::cout.flush()) return result;
-  Complain("The result could not be written to standard output.");
+  Complain("Cannot write the result to standard output.");
   return kFailed;
 }
 

@@ -62,7 +62,7 @@ CLI::Option* AddOutput(CLI::App& command, Destination& destination) {
   CLI::Option* option = command.add_option(
       "-o,--output", destination.file, "write the result to this file; \"-\" is standard output");
   TakeFileName(*option);
-  command.add_flag("--force", destination.force, "replace a file that is there");
+  command.add_flag("--force", destination.force, "replace an existing file");
   return option;
 }
 
@@ -76,7 +76,7 @@ void AddFormat(CLI::App& command, Format& format) {
 }
 
 void AddLine(CLI::App& command, std::optional<std::int64_t>& line) {
-  command.add_option("--line", line, "the line meant, of several")
+  command.add_option("--line", line, "the line of the define or level, if there are several")
       ->type_name("NUMBER")
       ->check(CLI::PositiveNumber);
 }
@@ -85,9 +85,10 @@ void AddEdit(CLI::App& command, EditArguments& edit) {
   Destination& destination = edit.destination;
   CLI::Option* output = AddOutput(command, destination);
   CLI::Option* inPlace =
-      command.add_flag("--in-place", destination.inPlace, "write the result over the file itself")
+      command.add_flag("--in-place", destination.inPlace, "overwrite the file itself")
           ->excludes(output);
-  command.add_flag("--backup{~}", destination.backup, "keep the old file as FILE~, or FILESUFFIX")
+  command
+      .add_flag("--backup{~}", destination.backup, "back up the old file as FILE~ or FILESUFFIX")
       ->type_name("[=SUFFIX]")
       ->check([](const std::string& suffix) {
         const bool bad = suffix.empty() || suffix.find('/') != suffix.npos;
@@ -96,7 +97,7 @@ void AddEdit(CLI::App& command, EditArguments& edit) {
       ->needs(inPlace);
   command.add_flag("--dry-run", destination.dryRun, "write nothing, print the difference");
   command.add_flag("--report", edit.report, "list on standard error what was done");
-  command.add_flag("--quiet", edit.quiet, "say nothing but errors");
+  command.add_flag("--quiet", edit.quiet, "print errors only");
   AddFormat(command, edit.format);
 }
 
@@ -105,7 +106,7 @@ void CheckFiles(const CLI::App& command, const std::vector<std::string>& files) 
     if (file.empty()) throw CLI::ValidationError("FILE", RefuseEmpty(file));
   }
   if (std::ranges::count(files, "-") > 1) {
-    throw CLI::ValidationError(command.get_name(), "standard input can be read once");
+    throw CLI::ValidationError(command.get_name(), "standard input can be read only once");
   }
 }
 

@@ -29,8 +29,8 @@ std::string Guess(const Misuse& misuse) {
 }  // namespace
 
 std::string UsageMessage(const Misuse& misuse) {
-  return "tessel: " + ForTerminal(Reason(misuse)) + "\n" + Guess(misuse) + "\"" + misuse.command +
-         " --help\" tells more.\n";
+  return "tessel: " + ForTerminal(Reason(misuse)) + "\n" + Guess(misuse) + "Run '" +
+         misuse.command + " --help' for details.\n";
 }
 
 }  // namespace tessel::cli

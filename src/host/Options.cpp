@@ -140,16 +140,16 @@ class Arguments {
     return "--" + Bytes(option.names().constLast());
   }
 
-  QCommandLineOption help_{{"h", "help"}, "print this help and end"};
-  QCommandLineOption version_{"version", "print the version and end"};
+  QCommandLineOption help_{{"h", "help"}, "print this help and exit"};
+  QCommandLineOption version_{"version", "print the version and exit"};
   QCommandLineOption store_{"store", "file of the settings store", "FILE"};
   QCommandLineOption hostDirectory_{"host-dir", "directory of the template files", "DIR"};
   QCommandLineOption dark_{"dark", "dark colours, whatever the desktop has"};
   QCommandLineOption light_{"light", "light colours"};
-  QCommandLineOption screenshot_{"screenshot", "leave a picture of the window in this file and end",
+  QCommandLineOption screenshot_{"screenshot", "save a picture of the window to this file and exit",
                                  "FILE"};
   QCommandLineOption automation_{
-      "automation", "let other programs use the editor, and say so when that cannot be"};
+      "automation", "let other programs use the editor; report if that is not possible"};
   QCommandLineOption noAutomation_{"no-automation", "let no other program use the editor"};
   QCommandLineOption size_{"size", "size of the window in pixels", "WxH"};
   QCommandLineParser parser_;
@@ -169,7 +169,7 @@ std::optional<Options> ParseOptions(int argc, char** argv, int& exitStatus) {
     return arguments.Wanted();
   } else {
     TellOnStandardError(problem);
-    std::cerr << "\"zanth-manager --help\" tells more.\n";
+    std::cerr << "Run 'zanth-manager --help' for details.\n";
     exitStatus = kBadArguments;
   }
   return std::nullopt;

@@ -66,7 +66,7 @@ std::unique_ptr<KeepingLog> WantedLog() try {
   if (path == nullptr || *path == '\0') return nullptr;
   return std::make_unique<KeepingLog>(path);
 } catch (const posix::FileProblem& problem) {
-  TellOnStandardError(std::string("no log is written: ") + problem.what());
+  TellOnStandardError(std::string("cannot write the log: ") + problem.what());
   return nullptr;
 }
 

@@ -91,7 +91,7 @@ void FlushName(const FreshFile& placed, const SaveTarget& target) try {
                     std::string(problem.what()) + ")");
 }
 
-[[noreturn]] void RefuseWhatIsThere() { throw FileProblem("it is there already"); }
+[[noreturn]] void RefuseWhatIsThere() { throw FileProblem("it exists already"); }
 
 void GiveName(FreshFile& fresh, const SaveTarget& target, const SaveCondition& condition) {
   if (!condition.isNew) return fresh.TakePlaceOf(target.name);

@@ -147,7 +147,7 @@ TEST_F(CommandLineBadInput, KeepsTheOldBytesWhenTheDiskIsFull) {
 }
 
 TEST_F(CommandLineBadInput, SaysSoWhenStandardOutputIsFullOrClosed) {
-  const std::string sentence = "tessel: The result could not be written to standard output.\n";
+  const std::string sentence = "tessel: Cannot write the result to standard output.\n";
   auto commands = ReadersOf("User.con");
   std::erase_if(commands, [](const auto& command) {
     return command.back() == "--in-place" || command.front() == "levels";

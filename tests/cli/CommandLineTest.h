@@ -81,7 +81,7 @@ class CommandLineTest : public testing::Test {
                         const std::string& command) {
     const Outcome outcome = Tessel(arguments);
     EXPECT_EQ(outcome.status, 2);
-    EXPECT_EQ(outcome.err, "tessel: " + sentence + "\n\"" + command + " --help\" tells more.\n");
+    EXPECT_EQ(outcome.err, "tessel: " + sentence + "\nRun '" + command + " --help' for details.\n");
     EXPECT_EQ(outcome.out, "");
   }
 

@@ -95,7 +95,7 @@ TEST_F(CommandLineEdit, KeepsABackup) {
 TEST_F(CommandLineEdit, ReplacesABackupOnlyWhenForced) {
   Put("a.con~", "mine");
   ExpectRefusal({"set", "a.con", "QSIZE=9", "--in-place", "--backup"},
-                "Cannot back up a.con as a.con~: it is there already; --force replaces it.");
+                "Cannot back up a.con as a.con~: it exists already; --force replaces it.");
   OutputOf({"set", "a.con", "QSIZE=9", "--in-place", "--backup", "--force"});
   EXPECT_EQ(Bytes("a.con~"), kEditText);
 }
@@ -118,7 +118,7 @@ TEST_F(CommandLineEdit, KeepsTheOldBackupUntilTheNewOneIsWhole) {
 TEST_F(CommandLineEdit, ReplacesByABackupNoFileOfTheSameCall) {
   Put("a.con~", kEditText);
   ExpectRefusal({"set", "a.con", "./a.con~", "QSIZE=9", "--in-place", "--backup", "--force"},
-                "Cannot back up a.con as a.con~: ./a.con~ is to be changed as well.");
+                "Cannot back up a.con as a.con~: ./a.con~ is one of the files to change.");
 }
 
 TEST_F(CommandLineEdit, KnowsWhatABackupNeeds) {
@@ -132,10 +132,10 @@ TEST_F(CommandLineEdit, ChoosesNotBetweenTwoSpellings) {
   Put("uSER.con", kEditText);
   ExpectRefusal(
       {"set", "user.con", "QSIZE=9", "--in-place"},
-      "Cannot open user.con: it may be User.con or uSER.con; write the one that is meant.");
+      "Cannot open user.con: it may be User.con or uSER.con; name the one that you mean.");
   ExpectRefusal(
       {"get", "USER.CON", "QSIZE"},
-      "Cannot open USER.CON: it may be User.con or uSER.con; write the one that is meant.");
+      "Cannot open USER.CON: it may be User.con or uSER.con; name the one that you mean.");
   EXPECT_EQ(OutputOf({"set", "uSER.con", "QSIZE=9", "--in-place"}), "");
   EXPECT_EQ(Bytes("User.con"), kEditText);
   EXPECT_EQ(OutputOf({"get", "A.CON", "QSIZE"}), "64\n");

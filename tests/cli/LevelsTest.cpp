@@ -151,7 +151,7 @@ TEST_F(CommandLineLevels, RefusesToChooseBetweenTwoLinesOfALevel) {
   const std::string text = kLevelsText + "definelevelname 0 7 B.map 03:45 01:50 SECOND\r\n";
   Put("User.con", text);
   ExpectRefusal({"level", "User.con", "0 7", "--title", "X", "--in-place"},
-                "User.con has level 0 7 in the lines 2 and 4: say which, with --line.");
+                "User.con has level 0 7 in the lines 2 and 4: choose one with --line.");
   EXPECT_EQ(OutputOf({"level", "User.con", "0 7", "--title", "X", "--line", "4"}),
             With(text, "SECOND", "X"));
   ExpectRefusal({"level", "User.con", "0 7", "--line", "3"},

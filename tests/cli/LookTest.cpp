@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "gamestartup 1 2 MAXPLAYERHEALTH\r\ndefine MAXPLAYERHEALTH 100\r\n",
                  "line 1 is part of \"gamestartup\"; the define is in line 2: use --line 2", "2"},
         WrongHit{"two defines", "define MAXPLAYERHEALTH 1\r\ndefine MAXPLAYERHEALTH 100\r\n",
-                 "it is defined in line 1 and again in line 2: say which, with --line", "2"}),
+                 "it is defined in line 1 and again in line 2: choose one with --line", "2"}),
     [](const auto& hit) {
       std::string name = hit.param.what;
       std::erase_if(name, [](char c) { return c == ' ' || c == '-'; });

@@ -24,7 +24,7 @@ TEST_F(CommandLineNew, TakesACodeInAnyCase) {
 TEST_F(CommandLineNew, ReplacesAFileOnlyWhenForced) {
   Put("User.con", "mine");
   ExpectRefusal({"new", "15AU", "-o", "User.con"},
-                "Cannot save User.con: it is there already; --force replaces it.");
+                "Cannot save User.con: it exists already; --force replaces it.");
   EXPECT_EQ(OutputOf({"new", "15AU", "-o", "User.con", "--force"}), "");
   EXPECT_EQ(Bytes("User.con"), TemplateText("zmuserp.dat"));
 }

@@ -101,7 +101,8 @@ TEST_F(CommandLineStreams, SaysSoWhenStandardInputCannotBeRead) {
                                      {"level", "-", "-", "0 0"},
                                      {"convert", "-", "-", "--dry-run"}}) {
     const std::string& command = arguments.front();
-    ExpectUsageError(arguments, command + ": standard input can be read once", "tessel " + command);
+    ExpectUsageError(arguments, command + ": standard input can be read only once",
+                     "tessel " + command);
   }
 }
 

@@ -54,8 +54,7 @@ TEST_F(CommandLineTogether, GiveANewNameToOneOfTwoOnly) {
         "$first; "
         "echo $((second + $?))");
     ASSERT_EQ(outcome.out, "1\n") << outcome.err;
-    ASSERT_THAT(outcome.err,
-                testing::StartsWith("tessel: Cannot save new.con: it is there already"));
+    ASSERT_THAT(outcome.err, testing::StartsWith("tessel: Cannot save new.con: it exists already"));
   }
   EXPECT_THAT(files_.Names(), testing::ElementsAre("new.con"));
 }

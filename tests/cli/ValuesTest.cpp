@@ -81,7 +81,7 @@ TEST_F(CommandLineValues, SetsAValueIntoAnotherFile) {
 TEST_F(CommandLineValues, ReplacesAnotherFileOnlyWhenForced) {
   Put("new.con", "mine");
   ExpectRefusal({"set", "User.con", "QSIZE", "9", "-o", "new.con"},
-                "Cannot save new.con: it is there already; --force replaces it.");
+                "Cannot save new.con: it exists already; --force replaces it.");
   EXPECT_EQ(OutputOf({"set", "User.con", "QSIZE", "9", "-o", "new.con", "--force"}), "");
   EXPECT_EQ(Bytes("new.con"), With(kValuesText, "64", "9"));
 }

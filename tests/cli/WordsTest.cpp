@@ -115,7 +115,7 @@ TEST_F(CommandLineWords, ImportsWhatItExports) {
   OutputOf({"words", "export", "-o", "again.txt"});
   EXPECT_EQ(Bytes("again.txt"), list);
   ExpectRefusal({"words", "export", "-o", "words.txt"},
-                "Cannot save words.txt: it is there already; --force replaces it.");
+                "Cannot save words.txt: it exists already; --force replaces it.");
 }
 
 TEST_F(CommandLineWords, ImportsAllOrNothing) {

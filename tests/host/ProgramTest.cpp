@@ -191,7 +191,7 @@ TEST_F(HostProgram, RefusesOptionsThatExcludeEachOther) {
 TEST_F(HostProgram, SaysWhereToReadOnWhenItDoesNotKnowAnOption) {
   for (const std::string option : {"--no-such", "-x", "--store", "--host-dir=/no/such"}) {
     EXPECT_EQ(Start({option}), 2) << option;
-    EXPECT_TRUE(Said("\"zanth-manager --help\" tells more.")) << BytesOf(errors);
+    EXPECT_TRUE(Said("Run 'zanth-manager --help' for details.")) << BytesOf(errors);
   }
 }
 

@@ -75,7 +75,7 @@ TEST_F(PosixFilesTest, MakesANewFileOnlyWhereNoneIs) {
   const std::string path = directory / "a.con";
   files.WriteNew(path, "first");
   EXPECT_EQ(ErrorOf([&] { files.WriteNew(path, "second"); }),
-            "Cannot save " + path + ": it is there already.");
+            "Cannot save " + path + ": it exists already.");
   EXPECT_EQ(BytesOf(path), "first");
 }
 

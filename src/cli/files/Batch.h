@@ -14,7 +14,7 @@ namespace tessel::cli {
 struct LookArguments {
   std::vector<std::string> files;
   Format format = Format::kText;
-  bool quiet = false;  ///< say nothing but errors
+  bool quiet = false;  ///< print errors only
 };
 
 /// What every command that changes files is asked for.

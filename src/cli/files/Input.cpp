@@ -13,7 +13,7 @@ void RefuseToChoose(const std::string& name) {
   const std::vector<std::string> choice = posix::ChoiceIgnoringCase(name);
   if (choice.size() == 1) return;
   throw RuntimeError("Cannot open " + name + ": it may be " + choice[0] + " or " + choice[1] +
-                     "; write the one that is meant.");
+                     "; name the one that you mean.");
 }
 
 }  // namespace

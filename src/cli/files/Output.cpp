@@ -25,7 +25,7 @@ void RefuseToReplace(const std::string& file, const std::string& source) {
   const bool isSource = read && IsSameFile(*there, *read);
   throw RuntimeError("Cannot save " + file + ": " +
                      (isSource ? "it is the file that was read; --in-place writes over it."
-                               : "it is there already; --force replaces it."));
+                               : "it exists already; --force replaces it."));
 }
 
 std::string BackupOf(const std::string& file, const std::string& suffix) {
@@ -52,8 +52,7 @@ void BackUp(const std::string& named, const std::string& suffix, bool force) {
   } catch (const posix::FileProblem& problem) {
     const bool isThere = problem.Code() == EEXIST;
     throw RuntimeError("Cannot back up " + named + " as " + backup + ": " +
-                       (isThere ? "it is there already; --force replaces it" : problem.what()) +
-                       ".");
+                       (isThere ? "it exists already; --force replaces it" : problem.what()) + ".");
   }
 }
 
@@ -78,7 +77,7 @@ void RefuseToReplaceByBackups(const std::vector<std::string>& files,
       const auto read = there ? posix::StatusOf(posix::ResolveIgnoringCase(other)) : std::nullopt;
       if (!read || !IsSameFile(*there, *read)) continue;
       throw RuntimeError("Cannot back up " + file + " as " + backup + ": " + other +
-                         " is to be changed as well.");
+                         " is one of the files to change.");
     }
   }
 }

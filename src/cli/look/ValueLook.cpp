@@ -139,7 +139,7 @@ LookedAt ValueLook::LookAt(const WantedItem& item) {
             first,
             {},
             "it is defined in " + InLine(first) + " and again in " + InLine(second) +
-                ": say which, with --line"};
+                ": choose one with --line"};
   }
   const Definition& definition = definitions.front();
   LookedAt looked = OnlyComplete(definition);

@@ -38,7 +38,7 @@ void KeepAtExit() {
 
 /// An exception found its way to where none may come, such as a destructor without memory.
 [[noreturn]] void KeepAndAbort() {
-  constexpr std::string_view kSentence = "zanth-manager: the program cannot go on.\n";
+  constexpr std::string_view kSentence = "zanth-manager: the program cannot continue.\n";
   [[maybe_unused]] const auto written = ::write(STDERR_FILENO, kSentence.data(), kSentence.size());
   if (qApp != nullptr && QThread::currentThread() == qApp->thread()) KeepAtExit();
   std::abort();

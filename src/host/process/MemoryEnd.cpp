@@ -21,8 +21,9 @@ MemoryEnd* current = nullptr;
 /// Nothing of the program is in a state to be taken down.
 [[noreturn]] void End(bool kept) {
   const std::string_view sentence =
-      kept ? "zanth-manager: there is not enough memory to go on. Unsaved text is kept.\n"
-           : "zanth-manager: there is not enough memory to go on, nor to keep all unsaved text.\n";
+      kept ? "zanth-manager: there is not enough memory to continue. Unsaved text is stored.\n"
+           : "zanth-manager: there is not enough memory to continue, nor to store all unsaved "
+             "text.\n";
   [[maybe_unused]] const auto written = ::write(STDERR_FILENO, sentence.data(), sentence.size());
   ::_exit(1);
 }

@@ -17,7 +17,7 @@ QByteArray Encoded(const QImage& picture, const std::string& file) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   if (kind.isEmpty() || !picture.save(&buffer, kind.constData())) {
-    throw RuntimeError("its name does not end like that of a picture, such as .png.");
+    throw RuntimeError("its name has no ending of a picture, such as .png.");
   }
   return buffer.data();
 }
@@ -32,7 +32,7 @@ void RefuseToReplace(const std::string& bytes, const QByteArray& kind) {
   if (bytes.empty() || (!kind.isEmpty() && KindOf(QByteArray::fromStdString(bytes)) == kind)) {
     return;
   }
-  throw RuntimeError("another file is there, which is no such picture.");
+  throw RuntimeError("the file exists and is no such picture.");
 }
 
 }  // namespace
