@@ -21,8 +21,8 @@ prose() { awk '/^ *```/ { code = !code; next } !code' "$1"; }
 anchors() { prose "$1" | grep -E '^#+ ' | sed -E 's/^#+ //' | tr 'A-Z ' 'a-z-' | tr -cd 'a-z0-9_\n-'; }
 
 for text in README.md CONTRIBUTING.md CHANGELOG.md docs/*.md; do
-  # Links and pictures count from where the text is, names in backticks from the top; KEY and Your in
-  # a name stand for any name.
+  # Links and pictures count from where the text is, names in backticks from the top; KEY, FOLDER and Your
+  # in a name stand for any name.
   while read -r target; do
     [[ $target == *://* || $target == mailto:* ]] && continue
     file=${target%%#*}
@@ -34,7 +34,7 @@ for text in README.md CONTRIBUTING.md CHANGELOG.md docs/*.md; do
   while read -r name; do
     expect "$text" . "$name"
   done < <(grep -oE '`(\./)?(docs|src|tests|scripts|share|packaging|data|examples|bench|cmake)/[A-Za-z0-9_./-]*`' "$text" |
-    tr -d '`' | grep -vE 'KEY|Your')
+    tr -d '`' | grep -vE 'KEY|Your|FOLDER')
   while read -r picture; do
     expect "$text" docs "$picture"
   done < <(grep -oE 'images/[A-Za-z0-9_-]+\.png' "$text")
