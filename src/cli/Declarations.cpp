@@ -297,11 +297,12 @@ void AddCheckOptions(CLI::App& command, CheckArguments& check, CheckWords& words
   command.add_option("--no", words.off, "do not apply this rule; may be repeated")
       ->type_name("RULE")
       ->allow_extra_args(false);
-  command.add_flag("--warnings-as-errors", check.warningsAreErrors, "end with status 1 for them");
+  command.add_flag("--warnings-as-errors", check.warningsAreErrors,
+                   "exit with status 1 if there are warnings, too");
   command.add_option("--store", check.store, "the settings file with the script words")
       ->type_name("FILE");
   command.add_flag("--list-rules", words.list, "list the rules");
-  command.add_option("--explain", words.explain, "tell about a rule")->type_name("RULE");
+  command.add_option("--explain", words.explain, "explain a rule")->type_name("RULE");
   AddFormat(command, check.format);
   command.add_flag("--sarif", check.sarif, "print a SARIF 2.1.0 log")
       ->excludes("--json")
@@ -364,7 +365,7 @@ void AddApply(CLI::App& program, Arguments& all) {
   page->required();
   TakeFileName(*page);
   AddFiles(*command, apply.files);
-  command->add_flag("--skip-missing", apply.skipMissing, "pass over what a file does not have");
+  command->add_flag("--skip-missing", apply.skipMissing, "skip values that a file does not have");
   AddEdit(*command, apply);
   command->callback([command, &apply, &all] {
     CheckEdit(*command, apply);

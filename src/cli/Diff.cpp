@@ -67,7 +67,7 @@ Report ReportOf(const DiffArguments& arguments, const ValueDifference& differenc
   file.file = arguments.before;
   file.facts.emplace_back("other", arguments.after);
   for (const std::string& name : difference.doubled) {
-    file.notes.push_back(name + " stands twice in one file; the first counts.");
+    file.notes.push_back(name + " occurs twice in one file; the first counts.");
   }
   for (const ValueChange& change : difference.changes) {
     file.rows.push_back({std::string(NamesOf(change.name.kind).word), ToUtf8(change.name.name),

@@ -72,7 +72,7 @@ TEST_F(CommandLineDiff, IsAppliedAsJsonAndAsToml) {
 TEST_F(CommandLineDiff, TellsWhatStandsTwice) {
   Put("C.con", "define X 1\ndefine X 2\n");
   const Outcome outcome = Tessel({"diff", "C.con", "A.con"});
-  EXPECT_THAT(outcome.err, testing::HasSubstr("X stands twice in one file; the first counts."));
+  EXPECT_THAT(outcome.err, testing::HasSubstr("X occurs twice in one file; the first counts."));
 }
 
 class CommandLineApply : public CommandLineDiff {};
