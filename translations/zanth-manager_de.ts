@@ -853,7 +853,7 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
         <translation>Ein Menü ist geöffnet. Der Aufruf ist nach dem Schließen zu wiederholen.</translation>
     </message>
     <message>
-        <source>A command is on its way. Call again when it is through.</source>
+        <source>The editor is busy. Call again when the current command has finished.</source>
         <translation>Ein Befehl läuft. Der Aufruf ist nach seinem Ende zu wiederholen.</translation>
     </message>
 </context>
