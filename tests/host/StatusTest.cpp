@@ -52,7 +52,7 @@ TEST_F(Status, SaysWhatTheDocumentInFrontIs) {
   EXPECT_TRUE(Shows({"3 selected", "Ln 2, Col 4", "Windows-1252", "LF", "1.4/1.5"}))
       << Shown().join("|").toStdString();
   Run().Editor(0).Type("\r\n");
-  EXPECT_TRUE(Shows({"Ln 3, Col 1", "Windows-1252", "Mixed", "1.4/1.5", "Modified"}))
+  EXPECT_TRUE(Shows({"Modified", "Ln 3, Col 1", "Windows-1252", "Mixed", "1.4/1.5"}))
       << Shown().join("|").toStdString();
 }
 

@@ -14,6 +14,7 @@ namespace {
 using Sci = QsciScintillaBase;
 
 constexpr int kPauseMilliseconds = 400;
+constexpr const char* kEncoding = "Windows-1252";
 
 /// A look at the bytes spares the search for statements where the word stands nowhere.
 bool Holds(std::string_view text, std::string_view word) {
@@ -31,6 +32,12 @@ CaretPlace PlaceOfCaret(const ScintillaView& view) {
   const long line = view.SendScintilla(Sci::SCI_LINEFROMPOSITION, at);
   const long start = view.SendScintilla(Sci::SCI_POSITIONFROMLINE, line);
   return {line + 1, view.SendScintilla(Sci::SCI_COUNTCHARACTERS, start, at) + 1};
+}
+
+// What says nothing leaves its room to the message.
+void ShowIfAny(QLabel& label, const QString& text) {
+  label.setText(text);
+  label.setVisible(!text.isEmpty());
 }
 
 }  // namespace
@@ -54,14 +61,14 @@ DocumentStatus::DocumentStatus(QStatusBar& bar, TesselWidget& control, ScriptOf 
       control_(control),
       scriptOf_(std::move(scriptOf)),
       pause_(std::chrono::milliseconds(kPauseMilliseconds), this),
-      selection_(AddLabel(bar, tr("%1 selected").arg(100'000), tr("Characters that are selected"))),
+      selection_(AddLabel(bar, tr("%1 selected").arg(1000), tr("Characters that are selected"))),
+      modified_(AddLabel(bar, tr("Modified"), {})),
       caret_(AddLabel(bar, tr("Ln %1, Col %2").arg("000000", "0000"),
                       tr("Line and column of the caret"))),
-      encoding_(AddLabel(bar, {}, tr("How the bytes of the file are shown"))),
+      encoding_(AddLabel(bar, kEncoding, tr("How the bytes of the file are shown"))),
       lineEnds_(AddLabel(bar, tr("Mixed"), tr("How the lines end"))),
-      dialect_(AddLabel(bar, "1.4/1.5", tr("The version of the game that the text is for"))),
-      modified_(AddLabel(bar, tr("Modified"), {})) {
-  encoding_->setText(QStringLiteral("Windows-1252"));
+      dialect_(AddLabel(bar, "1.4/1.5", tr("The version of the game that the text is for"))) {
+  encoding_->setText(kEncoding);
   connect(&pause_, &Pause::over, this, &DocumentStatus::ReadText);
   connect(&control_, &TesselWidget::documentChanged, this, &DocumentStatus::ShowDocument);
   connect(&control_, &TesselWidget::caretMoved, this, &DocumentStatus::ShowCaret);
@@ -81,8 +88,8 @@ QLabel* DocumentStatus::AddLabel(QStatusBar& bar, const QString& widest, const Q
 }
 
 void DocumentStatus::ShowDocument() {
-  modified_->setText(control_.Tessel().OpenDocuments().Current().Modified() ? tr("Modified")
-                                                                            : QString());
+  const bool modified = control_.Tessel().OpenDocuments().Current().Modified();
+  ShowIfAny(*modified_, modified ? tr("Modified") : QString());
   ShowCaret();
   pause_.Begin();
 }
@@ -93,7 +100,7 @@ void DocumentStatus::ShowCaret() {
   const CaretPlace place = PlaceOfCaret(*view);
   caret_->setText(tr("Ln %1, Col %2").arg(place.line).arg(place.column));
   const Position selected = control_.Tessel().OpenDocuments().CurrentEditor().SelLength();
-  selection_->setText(selected > 0 ? tr("%1 selected").arg(selected) : QString());
+  ShowIfAny(*selection_, selected > 0 ? tr("%1 selected").arg(selected) : QString());
 }
 
 void DocumentStatus::ReadText() {

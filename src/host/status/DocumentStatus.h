@@ -34,11 +34,11 @@ class DocumentStatus : public QObject {
   ScriptOf scriptOf_;
   Pause pause_;
   QLabel* selection_;
+  QLabel* modified_;
   QLabel* caret_;
   QLabel* encoding_;
   QLabel* lineEnds_;
   QLabel* dialect_;
-  QLabel* modified_;
   std::vector<Subscription> subscriptions_;
 };
 

@@ -122,6 +122,27 @@ TEST(ScreenReader, FindsRadioButtonsInGroupsThatNameThem) {
   }
 }
 
+TEST(ScreenReader, ReadsTheParametersOfAFunction) {
+  Window().Do(*Await("page tab", "Functions"), "Press");
+  const auto search = Await("text", "Search for a function");
+  ASSERT_TRUE(search);
+  Window().Focus(*search);
+  Press({"a", "d", "d", "a", "m", "m", "o"});
+  EXPECT_TRUE(Window().Await([](const Accessible& at) {
+    return Window().Role(at) == "label" && Window().Name(at).contains("weapon");
+  }));
+}
+
+TEST(ScreenReader, ReadsWhatACommandSays) {
+  const auto editor = Await("text", "Editor");
+  ASSERT_TRUE(editor);
+  Window().Do(*editor, "SetFocus");
+  Press({"ctrl+Home", "ctrl+Right", "F12"});
+  EXPECT_TRUE(Window().Await([](const Accessible& at) {
+    return Window().Name(at) == R"("MAXPLAYERHEALTH" is defined here and nowhere else.)";
+  }));
+}
+
 TEST(GermanScreenReader, ReadsTheWindowInGermanAndTheControlInEnglish) {
   ASSERT_TRUE(Window().FindsProgram());
   EXPECT_TRUE(Await("menu item", "Datei"));
