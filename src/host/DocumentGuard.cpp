@@ -9,7 +9,6 @@
 #include <limits>
 #include <utility>
 
-#include "posix/PathResolution.h"
 #include "posix/Posix.h"
 #include "qt/base/QtText.h"
 #include "services/Paths.h"
@@ -46,7 +45,7 @@ QString InsteadOf(const std::string& path, const std::string& candidate) {
 }
 
 bool IsReadOnly(const std::string& path) {
-  const auto status = posix::StatusOf(posix::ResolveIgnoringCase(path));
+  const auto status = posix::StatusOf(path);
   return status && (status->st_mode & S_IWUSR) == 0;
 }
 
@@ -114,14 +113,12 @@ bool DocumentGuard::Agrees(const QString& question) {
 }
 
 bool DocumentGuard::BeforeSaving(const Document& document, const std::string& path) {
-  // A name given for the result is taken as it stands: a file of another spelling stays.
-  if (!document.HasPath(path) && !posix::StatusOf(path)) return true;
   const DiskState now = DiskStateOf(path);
   if (!now.exists) return true;
   const QString name = ShownName(NameOfPath(path, files_.Separator()));
   Record& own = At(document.Place());
   const bool itsOwn = document.HasPath(path) && own.has_value();
-  if (itsOwn) files_.RefuseIfChanged(path, *own, document.Editor().Bytes());
+  if (itsOwn) files_.RefuseIfChanged(*own, document.Editor().Bytes());
   if (const auto other = OtherWith(now, &document)) {
     return Agrees(
         GuardTexts::tr("%1 is open in another tab. Write this document over its file?").arg(name));
@@ -137,7 +134,7 @@ bool DocumentGuard::BeforeSaving(const Document& document, const std::string& pa
 
 bool DocumentGuard::ChangedByOthers(const Document& document) {
   Record& own = At(document.Place());
-  return own && files_.Changed(document.Path(), *own);
+  return own && files_.Changed(*own);
 }
 
 std::optional<std::uint64_t> DocumentGuard::BaseOf(const Document& document) {

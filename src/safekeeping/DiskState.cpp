@@ -23,7 +23,7 @@ bool MayHoldTheSameBytes(DiskState before, const DiskState& now) {
 
 DiskState DiskStateOf(const std::string& path) {
   struct stat found {};
-  if (stat(posix::ResolveIgnoringCase(path).c_str(), &found) != 0) return {};
+  if (stat(path.c_str(), &found) != 0) return {};
   return {true,
           found.st_dev,
           found.st_ino,
@@ -49,38 +49,40 @@ class GuardedFiles::LongWork {
   std::function<void(const std::string&)> tell_;
 };
 
+std::string GuardedFiles::PlaceOf(const std::string& path) const {
+  const auto known = known_.find(path);
+  return known == known_.end() ? posix::ResolveIgnoringCase(path) : known->second.place;
+}
+
 std::string GuardedFiles::Read(const std::string& path) {
-  const DiskState before = DiskStateOf(path);  // a change while reading is a change
+  const std::string place = posix::ResolveIgnoringCase(path);
+  const DiskState before = DiskStateOf(place);  // a change while reading is a change
   const LongWork work(*this, "Opening ", path, before.size);
-  std::string bytes = files_.Read(path);
-  known_[path] = {before, ContentHash(bytes)};
+  std::string bytes = files_.Read(place);
+  known_[path] = {place, before, ContentHash(bytes)};
   return bytes;
 }
 
 void GuardedFiles::Write(const std::string& path, std::string_view bytes) {
-  const LongWork work(*this, "Saving ", path, std::ssize(bytes));
-  RefuseIfChanged(path, bytes);
-  files_.Write(path, bytes);
-  known_[path] = {DiskStateOf(path), ContentHash(bytes)};
+  Put(path, PlaceOf(path), bytes);
 }
 
 void GuardedFiles::WriteAs(const std::string& path, std::string_view bytes) {
+  Put(path, path, bytes);
+}
+
+void GuardedFiles::Put(const std::string& path, const std::string& place, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
-  if (posix::StatusOf(path)) RefuseIfChanged(path, bytes);
-  files_.WriteAs(path, bytes);
-  known_[path] = {DiskStateOf(path), ContentHash(bytes)};
+  const auto known = known_.find(path);
+  if (known != known_.end() && known->second.place == place) RefuseIfChanged(known->second, bytes);
+  files_.WriteAs(place, bytes);
+  known_[path] = {place, DiskStateOf(place), ContentHash(bytes)};
 }
 
-void GuardedFiles::RefuseIfChanged(const std::string& path, std::string_view bytes) {
-  if (const auto known = known_.find(path); known != known_.end()) {
-    RefuseIfChanged(path, known->second, bytes);
-  }
-}
-
-void GuardedFiles::RefuseIfChanged(const std::string& path, FileRecord& record,
-                                   std::string_view bytes) {
-  if (!Changed(path, record) || !DiskStateOf(path).exists || files_.Read(path) == bytes) return;
-  throw RuntimeError(NameOfPath(path, Separator()) +
+void GuardedFiles::RefuseIfChanged(FileRecord& record, std::string_view bytes) {
+  if (!Changed(record) || !DiskStateOf(record.place).exists) return;
+  if (files_.Read(record.place) == bytes) return;
+  throw RuntimeError(NameOfPath(record.place, Separator()) +
                      " has not been saved: another program has changed the file since it was "
                      "opened. Choose Reload or Keep Mine above the text first.");
 }
@@ -92,34 +94,35 @@ std::optional<FileRecord> GuardedFiles::Known(const std::string& path) const {
 
 void GuardedFiles::SetAttributesNormal(const std::string& path) {
   const bool changed = ChangedByOthers(path);
-  files_.SetAttributesNormal(path);
+  files_.SetAttributesNormal(PlaceOf(path));
   const auto known = known_.find(path);
-  if (!changed && known != known_.end()) known->second.state = DiskStateOf(path);
+  if (!changed && known != known_.end()) known->second.state = DiskStateOf(known->second.place);
 }
 
 bool GuardedFiles::ChangedByOthers(const std::string& path) {
   const auto known = known_.find(path);
-  return known != known_.end() && Changed(path, known->second);
+  return known != known_.end() && Changed(known->second);
 }
 
-bool GuardedFiles::Changed(const std::string& path, FileRecord& record) {
-  const DiskState now = DiskStateOf(path);
+bool GuardedFiles::Changed(FileRecord& record) {
+  const DiskState now = DiskStateOf(record.place);
   if (record.state == now) return false;
-  if (!MayHoldTheSameBytes(record.state, now) || !HasTheBytes(path, record)) return true;
+  if (!MayHoldTheSameBytes(record.state, now) || !HasTheBytes(record)) return true;
   record.state = now;
   return false;
 }
 
-bool GuardedFiles::HasTheBytes(const std::string& path, const FileRecord& record) try {
-  return record.hash && ContentHash(files_.Read(path)) == *record.hash;
+bool GuardedFiles::HasTheBytes(const FileRecord& record) try {
+  return record.hash && ContentHash(files_.Read(record.place)) == *record.hash;
 } catch (const RuntimeError&) {
   return false;
 }
 
 void GuardedFiles::Accept(const std::string& path) {
-  FileRecord& record = known_[path] = {DiskStateOf(path)};
+  const std::string place = PlaceOf(path);
+  FileRecord& record = known_[path] = {place, DiskStateOf(place)};
   try {
-    if (record.state.exists) record.hash = ContentHash(files_.Read(path));
+    if (record.state.exists) record.hash = ContentHash(files_.Read(place));
   } catch (const RuntimeError&) {
   }
 }

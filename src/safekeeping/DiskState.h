@@ -30,17 +30,19 @@ struct DiskState {
   friend bool operator==(const DiskState&, const DiskState&) = default;
 };
 
-/// The state of the file that the path leads to now.
+/// The state of the file that the path leads to now, in exactly this spelling.
 DiskState DiskStateOf(const std::string& path);
 
 /// A file as it was read or written.
 struct FileRecord {
+  std::string place;  ///< its path as it was found: a file of another spelling is another one
   DiskState state;
   std::optional<std::uint64_t> hash = {};  ///< ContentHash of the bytes, where they could be read
 };
 
-/// The host's files: they remember the state of each file they read or wrote, and refuse to write
-/// over a file that somebody else has changed since.
+/// The host's files: they remember the place and the state of each file they read or wrote, and
+/// refuse to write over a file that somebody else has changed since. What was read is written to
+/// the place where it was found, even when that is gone and a file of another spelling is there.
 class GuardedFiles : public Files {
  public:
   /// `files` outlives this.
@@ -66,10 +68,10 @@ class GuardedFiles : public Files {
   std::optional<FileRecord> Known(const std::string& path) const;
   /// True when the file is another one than the record says. New permissions or one more name make
   /// it no other one: the bytes are looked at before that is said, and the record is renewed.
-  bool Changed(const std::string& path, FileRecord& record);
+  bool Changed(FileRecord& record);
   /// Throws the RuntimeError of Write when the file is another one than the record says and holds
   /// other bytes than these.
-  void RefuseIfChanged(const std::string& path, FileRecord& record, std::string_view bytes);
+  void RefuseIfChanged(FileRecord& record, std::string_view bytes);
   /// True when the file was read or written here and is another one now.
   bool ChangedByOthers(const std::string& path);
   /// Takes the file as it is now: it may be written over.
@@ -80,8 +82,9 @@ class GuardedFiles : public Files {
  private:
   class LongWork;
 
-  bool HasTheBytes(const std::string& path, const FileRecord& record);
-  void RefuseIfChanged(const std::string& path, std::string_view bytes);
+  std::string PlaceOf(const std::string& path) const;
+  bool HasTheBytes(const FileRecord& record);
+  void Put(const std::string& path, const std::string& place, std::string_view bytes);
 
   Files& files_;
   std::function<void(const std::string&)> tellLongWork_;

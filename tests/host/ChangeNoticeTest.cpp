@@ -148,6 +148,18 @@ TEST_F(ChangedOutside, AFileThatIsGoneCanBeWrittenAnew) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return !Notice().isVisible(); }, kPatience));
 }
 
+TEST_F(ChangedOutside, AFileThatIsGoneIsNotTakenForOneOfAnotherSpelling) {
+  const std::string other = directory_.Put("USER.CON", "another file");
+  Editor().Type("// mine\r\n");
+  std::filesystem::remove(path_);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+  EXPECT_TRUE(Notice().findChild<QLabel*>()->text().contains("gone"));
+  Press("&Keep Mine");
+  SaveInPlace();
+  EXPECT_EQ(OnDisk(), "// mine\r\ndefine A 1\r\n");
+  EXPECT_EQ(BytesOf(other), "another file");
+}
+
 TEST_F(ChangedOutside, ASmallFileIsOpenedWithoutATalk) {
   std::vector<std::string> told;
   files_.TellLongWork([&](const std::string& work) { told.push_back(work); });

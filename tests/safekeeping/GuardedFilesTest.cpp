@@ -51,6 +51,36 @@ TEST_F(Guarded, AFileThatOthersChangedHindersNoNewOneOfAnotherSpelling) {
   EXPECT_FALSE(files_.ChangedByOthers(other));
 }
 
+TEST_F(Guarded, AFileThatIsGoneIsWrittenAnewAndNotIntoOneOfAnotherSpelling) {
+  const std::string other = directory_.Put("user.con", "another file");
+  const std::string path = directory_.Put("USER.CON", "text");
+  files_.Read(path);
+  std::filesystem::remove(path);
+  EXPECT_TRUE(files_.ChangedByOthers(path));
+  files_.Accept(path);
+  files_.Write(path, "mine");
+  EXPECT_EQ(BytesOf(path), "mine");
+  EXPECT_EQ(BytesOf(other), "another file");
+}
+
+TEST_F(Guarded, AFileThatIsGoneMakesNoOtherOneWritable) {
+  const std::string other = directory_.Put("user.con", "another file");
+  const std::string path = directory_.Put("USER.CON", "text");
+  ASSERT_EQ(::chmod(other.c_str(), 0444), 0);
+  files_.Read(path);
+  std::filesystem::remove(path);
+  files_.SetAttributesNormal(path);
+  EXPECT_EQ(std::filesystem::status(other).permissions(), std::filesystem::perms(0444));
+}
+
+TEST_F(Guarded, WhatWasReadByAnotherSpellingIsWrittenToWhereItWasFound) {
+  const std::string path = directory_.Put("user.con", "text");
+  files_.Read(directory_ / "USER.CON");
+  files_.Write(directory_ / "USER.CON", "mine");
+  EXPECT_EQ(BytesOf(path), "mine");
+  EXPECT_FALSE(std::filesystem::exists(directory_ / "USER.CON"));
+}
+
 /// Puts other bytes into a file, and its time of writing back.
 void ChangeUnseen(const std::string& path, const std::string& bytes) {
   ::usleep(20'000);  // the clock of the file system is a coarse one
