@@ -32,6 +32,8 @@ ChangeNotice::ChangeNotice(TesselWidget& control, DocumentGuard& guard, MessageB
   connect(&settle_, &QTimer::timeout, this, &ChangeNotice::Check);
   connect(&watcher_, &QFileSystemWatcher::fileChanged, this, [this] { settle_.start(); });
   connect(&control_, &TesselWidget::documentChanged, &settle_, qOverload<>(&QTimer::start));
+  // Nobody tells of a file whose folder was moved, but a refused save points to this bar.
+  commandEnded_ = control_.Tessel().CommandEnded.Connect([this] { settle_.start(); });
 }
 
 Document ChangeNotice::Current() const { return control_.Tessel().OpenDocuments().Current(); }

@@ -13,10 +13,11 @@
 
 namespace tessel {
 
-/// A bar above the control. It watches the files of all open documents and shows itself while the
-/// current one's has been changed by others: Reload takes the file's text (it asks before it
-/// replaces changes of the user's own, and keeps them as a backup), Keep Mine leaves the document
-/// as it is and lets it be saved over the file, Show Differences shows what Reload would change.
+/// A bar above the control. It watches the files of all open documents, looks after each command,
+/// and shows itself while the current one's has been changed by others: Reload takes the file's
+/// text (it asks before it replaces changes of the user's own, and keeps them as a backup), Keep
+/// Mine leaves the document as it is and lets it be saved over the file, Show Differences shows
+/// what Reload would change.
 class ChangeNotice : public NoticeBar {
   Q_OBJECT
 
@@ -48,6 +49,7 @@ class ChangeNotice : public NoticeBar {
   KeepText keepText_;
   QFileSystemWatcher watcher_;
   QTimer settle_;
+  Subscription commandEnded_;
   QPushButton* reload_;
   QPushButton* compare_;
 };

@@ -160,6 +160,19 @@ TEST_F(ChangedOutside, AFileThatIsGoneIsNotTakenForOneOfAnotherSpelling) {
   EXPECT_EQ(BytesOf(other), "another file");
 }
 
+TEST_F(ChangedOutside, ARefusedSaveShowsTheBarWhereTheFolderWasExchanged) {
+  const std::string path = directory_.Put("mod/game.con", "define G 1\r\n");
+  directory_.Put("other/game.con", "define G 2 // theirs\r\n");
+  window_.OpenFiles({path});
+  Controls().rtbCon[1].Type("// mine\r\n");
+  QTest::qWait(500);  // the bar has looked, and nothing else makes it look again
+  std::filesystem::rename(directory_ / "mod", directory_ / "old");
+  std::filesystem::rename(directory_ / "other", directory_ / "mod");
+  SaveInPlace();
+  EXPECT_EQ(BytesOf(path), "define G 2 // theirs\r\n");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Notice().isVisible(); }, kPatience));
+}
+
 TEST_F(ChangedOutside, ASmallFileIsOpenedWithoutATalk) {
   std::vector<std::string> told;
   files_.TellLongWork([&](const std::string& work) { told.push_back(work); });
