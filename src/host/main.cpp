@@ -91,6 +91,7 @@ int Run(const Options& options) {
   });
   BackupFiles keptFiles(desktop.files, backups);
   GuardedFiles files(keptFiles);
+  desktop.files.SaveOnlyWhere([&files] { return files.AsItBegan(); });
   const Services services = desktop.With(settings, options.hostDirectory, messages, files);
 
   const ColourScheme scheme = SchemeOf(options, Preferences(settings));

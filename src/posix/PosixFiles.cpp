@@ -69,11 +69,11 @@ std::string PosixFiles::Read(const std::string& path) {
 }
 
 void PosixFiles::Write(const std::string& path, std::string_view bytes) {
-  OrTell("save", path, [&] { Save(ResolveIgnoringCase(path), bytes); });
+  OrTell("save", path, [&] { Save(ResolveIgnoringCase(path), bytes, Wanted()); });
 }
 
 void PosixFiles::WriteAs(const std::string& path, std::string_view bytes) {
-  OrTell("save", path, [&] { Save(path, bytes); });
+  OrTell("save", path, [&] { Save(path, bytes, Wanted()); });
 }
 
 void PosixFiles::WriteUnlessChanged(const std::string& path, std::string_view bytes,

@@ -23,6 +23,9 @@ class PosixFiles : public Files {
   /// Who keeps old bytes where a file can only be written in place. Without one such a file is not
   /// written.
   void KeepOldBytesBy(Keeper keeper) { keeper_ = std::move(keeper); }
+  /// What has to hold for the save that is on its way; asked in Write and WriteAs.
+  using Condition = std::function<posix::SaveCondition()>;
+  void SaveOnlyWhere(Condition condition) { condition_ = std::move(condition); }
 
   std::string Read(const std::string& path) override;
   void Write(const std::string& path, std::string_view bytes) override;
@@ -37,10 +40,11 @@ class PosixFiles : public Files {
   char Separator() const override { return '/'; }
 
  private:
-  void Save(const std::string& path, std::string_view bytes,
-            const posix::SaveCondition& condition = {});
+  void Save(const std::string& path, std::string_view bytes, const posix::SaveCondition& condition);
+  posix::SaveCondition Wanted() const { return condition_ ? condition_() : posix::SaveCondition(); }
 
   Keeper keeper_;
+  Condition condition_;
 };
 
 }  // namespace tessel

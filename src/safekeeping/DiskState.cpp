@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "base/RuntimeError.h"
+#include "base/ScopeGuard.h"
 #include "posix/PathResolution.h"
 #include "posix/Posix.h"
 #include "safekeeping/Hash.h"
@@ -73,6 +74,9 @@ void GuardedFiles::WriteAs(const std::string& path, std::string_view bytes) {
 
 void GuardedFiles::Put(const std::string& path, const std::string& place, std::string_view bytes) {
   const LongWork work(*this, "Saving ", path, std::ssize(bytes));
+  const ScopeGuard ended([this] { asItBegan_ = {}; });
+  asItBegan_.unchanged = posix::StatusOf(place);
+  asItBegan_.isNew = !asItBegan_.unchanged;
   const auto known = known_.find(path);
   if (known != known_.end() && known->second.place == place) RefuseIfChanged(known->second, bytes);
   files_.WriteAs(place, bytes);

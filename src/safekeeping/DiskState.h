@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "posix/SafeSave.h"
 #include "services/Services.h"
 
 namespace tessel {
@@ -64,6 +65,10 @@ class GuardedFiles : public Files {
     tellLongWork_ = std::move(tell);
   }
 
+  /// What the file that is being written was when that began: for PosixFiles::SaveOnlyWhere, so
+  /// that what others write meanwhile stays.
+  const posix::SaveCondition& AsItBegan() const { return asItBegan_; }
+
   /// The file as it was last read, written or accepted here.
   std::optional<FileRecord> Known(const std::string& path) const;
   /// True when the file is another one than the record says. New permissions or one more name make
@@ -88,6 +93,7 @@ class GuardedFiles : public Files {
 
   Files& files_;
   std::function<void(const std::string&)> tellLongWork_;
+  posix::SaveCondition asItBegan_;
   std::map<std::string, FileRecord> known_;
 };
 

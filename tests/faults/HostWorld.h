@@ -17,6 +17,7 @@ namespace tessel::test {
 struct HostFiles {
   explicit HostFiles(const std::string& state) : backups(state + "/backups") {
     plainFiles.KeepOldBytesBy(KeepAsBackups(state + "/backups"));
+    plainFiles.SaveOnlyWhere([this] { return files.AsItBegan(); });
     keptFiles.TellProblems([this](const std::string& problem) { problems.push_back(problem); });
   }
 

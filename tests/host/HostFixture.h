@@ -34,6 +34,7 @@ struct HostRun {
     plainFiles.KeepOldBytesBy([this](const std::string& path, std::string_view bytes) {
       backups.Keep(PathOfFile(path), bytes);
     });
+    plainFiles.SaveOnlyWhere([this] { return files.AsItBegan(); });
     const Services s = fakes.Get();
     const Services services{.messages = s.messages,
                             .fileDialogs = s.fileDialogs,

@@ -139,5 +139,30 @@ TEST_F(Guarded, ClearingTheReadOnlyAttributeHidesNoChangeOfOthers) {
   EXPECT_TRUE(files_.ChangedByOthers(path));
 }
 
+/// Another program writes while a save is on its way already.
+class Overtaken : public PosixFiles {
+ public:
+  void WriteAs(const std::string& path, std::string_view bytes) override {
+    std::ofstream(path, std::ios::binary) << "theirs";
+    PosixFiles::WriteAs(path, bytes);
+  }
+};
+
+TEST(OvertakenSave, LeavesWhatAnotherProgramWroteMeanwhile) {
+  const TempDirectory directory;
+  Overtaken plain;
+  GuardedFiles files(plain);
+  plain.SaveOnlyWhere([&files] { return files.AsItBegan(); });
+  const std::string path = directory.Put("user.con", "text");
+  files.Read(path);
+  EXPECT_THROW(files.Write(path, "mine"), RuntimeError);
+  EXPECT_EQ(BytesOf(path), "theirs");
+  EXPECT_TRUE(files.ChangedByOthers(path));
+
+  const std::string created = directory / "new.con";
+  EXPECT_THROW(files.WriteAs(created, "mine"), RuntimeError);
+  EXPECT_EQ(BytesOf(created), "theirs");
+}
+
 }  // namespace
 }  // namespace tessel::test
