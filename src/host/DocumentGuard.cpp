@@ -9,6 +9,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "posix/Posix.h"
 #include "qt/base/QtText.h"
 #include "services/Paths.h"
@@ -112,6 +113,15 @@ bool DocumentGuard::Agrees(const QString& question) {
                         MessageButtons::kNoYes) == MessageAnswer::kYes;
 }
 
+/// What was said in the question has to hold when it is answered.
+bool DocumentGuard::MayReplace(const std::string& path, const DiskState& file,
+                               const QString& question) {
+  if (!Agrees(question)) return false;
+  if (DiskStateOf(path) == file) return true;
+  throw RuntimeError(NameOfPath(path, files_.Separator()) +
+                     " has not been saved: another program has changed it meanwhile.");
+}
+
 bool DocumentGuard::BeforeSaving(const Document& document, const std::string& path) {
   const DiskState now = DiskStateOf(path);
   if (!now.exists) return true;
@@ -120,16 +130,23 @@ bool DocumentGuard::BeforeSaving(const Document& document, const std::string& pa
   const bool itsOwn = document.HasPath(path) && own.has_value();
   if (itsOwn) files_.RefuseIfChanged(*own, document.Editor().Bytes());
   if (const auto other = OtherWith(now, &document)) {
-    return Agrees(
+    return MayReplace(
+        path, now,
         GuardTexts::tr("%1 is open in another tab. Write this document over its file?").arg(name));
   }
   if (!itsOwn && !(own && SameFile(own->state, now))) {
-    return Agrees(GuardTexts::tr("%1 already exists (%2, changed %3).\n"
-                                 "Replace it with this document (%4)?")
-                      .arg(name, Size(now.size), Time(now), Size(document.Editor().Length())));
+    const bool may =
+        MayReplace(path, now,
+                   GuardTexts::tr("%1 already exists (%2, changed %3).\n"
+                                  "Replace it with this document (%4)?")
+                       .arg(name, Size(now.size), Time(now), Size(document.Editor().Length())));
+    if (may) files_.Forget(path);  // what a document read from it that is closed now
+    return may;
   }
   return !IsReadOnly(path) ||
-         Agrees(GuardTexts::tr("%1 is read-only. Save over it and make it writable?").arg(name));
+         MayReplace(
+             path, now,
+             GuardTexts::tr("%1 is read-only. Save over it and make it writable?").arg(name));
 }
 
 bool DocumentGuard::ChangedByOthers(const Document& document) {

@@ -45,6 +45,7 @@ class DocumentGuard : public DocumentHost {
   void Renew(const Document& document);
   std::optional<Document> OtherWith(const DiskState& file, const Document* besides) const;
   bool Agrees(const QString& question);
+  bool MayReplace(const std::string& path, const DiskState& file, const QString& question);
   std::optional<std::string> SpellingMeantBy(const std::string& path);
 
   GuardedFiles& files_;

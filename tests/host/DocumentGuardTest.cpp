@@ -63,6 +63,27 @@ TEST_F(Guard, ASaveOverAnotherFileIsAskedAboutWithSizesAndTime) {
   EXPECT_EQ(Documents().Current().Path(), game_);
 }
 
+TEST_F(Guard, ASaveOverAFileThatWasOpenBeforeIsAskedAboutAndDone) {
+  Run().window->OpenFiles({user_, game_});
+  Run().Controls().tbToolBar.Press("FileClose");
+  directory_.Put("game.con", "theirs, and longer");
+  Answer(MessageAnswer::kYes);
+  SaveAs(game_);
+  EXPECT_TRUE(AskedFor("game.con already exists (18 bytes, changed "));
+  EXPECT_EQ(BytesOf(game_), "define A 1\r\n");
+}
+
+TEST_F(Guard, AnAnswerDoesNotHoldForWhatTheFileHasBecomeMeanwhile) {
+  Run().window->OpenFiles({user_});
+  Run().fakes.messages.meanwhile = [this] { directory_.Put("game.con", "theirs, and longer"); };
+  Answer(MessageAnswer::kYes);
+  SaveAs(game_);
+  EXPECT_EQ(BytesOf(game_), "theirs, and longer");
+  ASSERT_EQ(Asked().size(), 2U);
+  EXPECT_NE(Asked()[1].find("another program has changed it meanwhile"), std::string::npos);
+  EXPECT_EQ(Documents().Current().Path(), user_);
+}
+
 TEST_F(Guard, ASaveToANameThatDiffersInCaseMakesANewFileAndIsNotAskedAbout) {
   Run().window->OpenFiles({user_});
   SaveAs(directory_ / "GAME.CON");
