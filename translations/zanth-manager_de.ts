@@ -771,7 +771,7 @@ Ersetzen?</translation>
     </message>
     <message>
         <source>Rel&amp;oad</source>
-        <translation>Neu la&amp;den</translation>
+        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>&amp;Keep Mine</source>
@@ -864,12 +864,12 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
         <translation>Dokument umgewandelt</translation>
     </message>
     <message>
-        <source>Un&amp;do Convert</source>
-        <translation>Umwandlung rückgän&amp;gig machen</translation>
+        <source>&amp;Undo Convert</source>
+        <translation>Umwandlung &amp;rückgängig machen</translation>
     </message>
     <message>
         <source>Keep Co&amp;nverted</source>
-        <translation>Umgewandeltes &amp;behalten</translation>
+        <translation>&amp;Umgewandeltes behalten</translation>
     </message>
     <message>
         <source>%1 has been converted. The text from before can be put back until you change it.</source>
@@ -1415,8 +1415,8 @@ Den Text trotzdem als Änderung der Datei zeigen? „Nein“ zeigt ihn als eigen
         <translation>Den Text endgültig verwerfen? Er kann nicht zurückgeholt werden.</translation>
     </message>
     <message>
-        <source>Show D&amp;ifferences</source>
-        <translation>Unterschiede zei&amp;gen</translation>
+        <source>Show Differen&amp;ces</source>
+        <translation>Unters&amp;chiede zeigen</translation>
     </message>
 </context>
 <context>

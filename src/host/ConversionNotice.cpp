@@ -11,7 +11,7 @@ namespace tessel {
 
 ConversionNotice::ConversionNotice(ucTessel& tessel, QWidget* parent)
     : NoticeBar(tr("Document converted"), parent), tessel_(tessel) {
-  AddButton(tr("Un&do Convert"), &ConversionNotice::UndoConversion);
+  AddButton(tr("&Undo Convert"), &ConversionNotice::UndoConversion);
   AddButton(tr("Keep Co&nverted"), &ConversionNotice::KeepConverted);
   DocumentList& documents = tessel_.OpenDocuments();
   subscriptions_ = {

@@ -80,7 +80,7 @@ RecoveryOffer::RecoveryOffer(ucTessel& tessel, Files& files, MessageBox& message
   AddButton(tr("&Recover"), &RecoveryOffer::Recover);
   AddButton(tr("&Discard"), &RecoveryOffer::Discard);
   AddButton(tr("&Later"), &RecoveryOffer::Later);
-  AddButton(tr("Show D&ifferences"), &RecoveryOffer::Compare);
+  AddButton(tr("Show Differen&ces"), &RecoveryOffer::Compare);
   setVisible(!texts_->Texts().empty());
 }
 

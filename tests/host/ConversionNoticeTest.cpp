@@ -19,7 +19,7 @@ class Conversion : public HostTest {
     ASSERT_TRUE(Tessel().Convert());
     ASSERT_NE(Editor().Text(), text_);
   }
-  void Undo() { ASSERT_TRUE(Run().Press<ConversionNotice>("Un&do Convert")); }
+  void Undo() { ASSERT_TRUE(Run().Press<ConversionNotice>("&Undo Convert")); }
 
   std::string text_ = BytesOf(std::string(TESSEL_TEST_DATA_DIR) + "/zmuser.dat");
   std::string user_ = directory_.Put("user.con", text_);

@@ -344,7 +344,7 @@ TEST_F(Differences, OfAnUnsavedTextAreShownBeforeItIsRecovered) {
   Run().Editor(0).Type("// ");
   ASSERT_TRUE(Run().window->findChild<RecoveryKeeper*>()->KeepNow());
   Restart();
-  ASSERT_TRUE(Run().Press<RecoveryOffer>("Show D&ifferences"));
+  ASSERT_TRUE(Run().Press<RecoveryOffer>("Show Differen&ces"));
   ASSERT_TRUE(Says("1 of 1"));
   EXPECT_EQ(CurrentLine(), "Removed: define A 1");
   Press(Qt::Key_Down);

@@ -4,6 +4,8 @@
 
 #include "HostFixture.h"
 #include "host/ReadingNotice.h"
+#include "host/RecoveryKeeper.h"
+#include "host/RecoveryOffer.h"
 #include "qt/base/TwipScale.h"
 #include "qt/editor/ScintillaView.h"
 #include "qt/looks/Contrast.h"
@@ -44,6 +46,25 @@ TEST_F(NoticePlace, IsAboveTheTextAndMovesNothingElse) {
   EXPECT_TRUE(area.contains(bar));
   EXPECT_TRUE(area.contains(text));
   EXPECT_GT(text.top(), bar.bottom());
+}
+
+TEST_F(NoticePlace, HasNoKeyOfAnotherBarNorOfTheMenuBar) {
+  Run().window->OpenFiles({directory_.Put("user.con", "define A 1\r\n")});
+  Run().Editor(0).Type("// ");
+  ASSERT_TRUE(Run().window->findChild<RecoveryKeeper*>()->KeepNow());
+  Restart();
+  ASSERT_NE(Run().window->findChild<RecoveryOffer*>(), nullptr);
+  QStringList keys;
+  for (const QAction* title : Run().window->menuBar()->actions()) {
+    keys += QKeySequence::mnemonic(title->text()).toString();
+  }
+  for (const NoticeBar* bar : Run().window->findChildren<NoticeBar*>()) {
+    for (const QPushButton* button : bar->findChildren<QPushButton*>()) {
+      keys += QKeySequence::mnemonic(button->text()).toString();
+    }
+  }
+  EXPECT_EQ(keys.size(), 8 + 4 + 3 + 2);
+  EXPECT_EQ(keys.removeDuplicates(), 0) << keys.join(' ').toStdString();
 }
 
 TEST_F(NoticePlace, GivesItsRoomBackToTheText) {
