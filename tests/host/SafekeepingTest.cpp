@@ -6,6 +6,7 @@
 #include <QStatusBar>
 #include <QTreeWidget>
 #include <csignal>
+#include <cstdlib>
 
 #include "HostFixture.h"
 #include "host/BackupsDialog.h"
@@ -477,6 +478,17 @@ TEST(AbruptEndDeathTest, KeepsTheTextsAndEndsByTheSignal) {
   for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
     EXPECT_EXIT(endBy(signal), testing::KilledBySignal(signal), "kept");
   }
+}
+
+// The toolkit calls exit when the display has gone.
+TEST(AbruptEndDeathTest, KeepsTheTextsWhenTheProgramExits) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  const auto exits = [] {
+    const std::string kept(100, 'k');  // too long to stand in the action itself
+    const AbruptEnd abruptEnd([kept] { std::fputs(kept.c_str(), stderr); });
+    std::exit(0);
+  };
+  EXPECT_EXIT(exits(), testing::ExitedWithCode(0), std::string(100, 'k'));
 }
 
 // --- Backups

@@ -47,9 +47,10 @@ void KeepAtExit() {
 }  // namespace
 
 AbruptEnd::AbruptEnd(std::function<void()> keep) {
+  // What is made first is there until the end: KeepAtExit finds it whole.
+  WhatToDo() = std::move(keep);
   [[maybe_unused]] static const int registered = std::atexit(KeepAtExit);
   if (::pipe2(pipeEnds.data(), O_CLOEXEC | O_NONBLOCK) == -1) return;
-  WhatToDo() = std::move(keep);
   auto* arrived = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);
   connect(arrived, &QSocketNotifier::activated, this, &AbruptEnd::TakeSignal);
   struct sigaction action {};
