@@ -313,6 +313,13 @@ Ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>ReplaceMatches</name>
+    <message>
+        <source>The text would have more than 512 MiB, which the editor cannot show.</source>
+        <translation>Der Text hätte mehr als 512 MiB; so viel kann der Editor nicht zeigen.</translation>
+    </message>
+</context>
+<context>
     <name>Replacement</name>
     <message>
         <source>&quot;%1&quot; means nothing in a replacement. For a &quot;\&quot; write &quot;\\&quot;.</source>

@@ -10,6 +10,7 @@
 #include <QToolButton>
 
 #include "HostFixture.h"
+#include "base/RuntimeError.h"
 #include "host/changes/ChangeLine.h"
 #include "host/find/FindBar.h"
 #include "host/find/ReplaceMatches.h"
@@ -63,6 +64,16 @@ TEST(FindReplacement, SaysWhatItCannotUse) {
       "The character \"\u4e2d\" (U+4e2d) cannot be stored in a CON file. Nothing was inserted.";
   EXPECT_EQ(RefusalOfReplacement(QString::fromUtf8("a\u4e2d")), refusal);
   EXPECT_EQ(Replacement(QString::fromUtf8("a\u4e2d")).Problem(), refusal);
+}
+
+TEST(FindReplacement, MakesNoTextThatTheEditorCannotShow) {
+  const SearchPattern pattern("a", kByExpression);
+  const std::string text = "a-a-a";
+  SearchedText searched(text);
+  const std::vector<TextMatch> matches = {{0, 1}, {2, 1}, {4, 1}};
+  const Replacement replacement("$0$0", pattern.Groups(), "\n");
+  EXPECT_EQ(ChangesOf(pattern, searched, matches, replacement, 8).size(), 3U);
+  EXPECT_THROW(ChangesOf(pattern, searched, matches, replacement, 7), RuntimeError);
 }
 
 // --- The edit

@@ -42,7 +42,7 @@ void DocumentReplace::Change(RichTextBox& editor, std::vector<TextChange> change
   control_.Tessel().Run([&] { MakeChanges(editor, std::move(changes)); });
 }
 
-QString DocumentReplace::One(const QString& text) {
+QString DocumentReplace::One(const QString& text) try {
   if (search_.Pattern() == nullptr) return {};
   if (QString refusal = Refusal(); !refusal.isEmpty()) return refusal;
   const Replacement replacement = ReplacementBy(text);
@@ -58,6 +58,8 @@ QString DocumentReplace::One(const QString& text) {
   }
   search_.Step(from, Direction::kForward);
   return {};
+} catch (const RuntimeError& error) {
+  return QString::fromUtf8(error.what());
 }
 
 std::size_t DocumentReplace::ReplaceIn(const std::optional<SearchArea>& area,

@@ -1,11 +1,18 @@
 #include "host/find/ReplaceMatches.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <optional>
 #include <utility>
 
+#include "base/RuntimeError.h"
+
 namespace tessel {
 namespace {
+
+struct ReplaceTexts {
+  Q_DECLARE_TR_FUNCTIONS(ReplaceMatches)
+};
 
 /// Each change moves what stands behind it: so many bytes are moved in about a second.
 constexpr Position kMostMoved = 4'000'000'000;
@@ -83,13 +90,19 @@ Position CaretBehind(const std::vector<TextChange>& changes, Position caret) {
 
 std::vector<TextChange> ChangesOf(const SearchPattern& pattern, SearchedText& text,
                                   const std::vector<TextMatch>& matches,
-                                  const Replacement& replacement) {
+                                  const Replacement& replacement, Position most) {
   std::vector<TextChange> changes;
   changes.reserve(matches.size());
+  Position length = text.Length();
   const bool groups = replacement.HasGroups();
   for (const TextMatch& match : matches) {
     const auto places = groups ? pattern.GroupsOf(text, match) : std::vector<TextMatch>();
     changes.push_back({match.start, match.length, replacement.For(text.Bytes(), places)});
+    length += std::ssize(changes.back().inserted) - match.length;
+    if (length <= most) continue;
+    throw RuntimeError(
+        ReplaceTexts::tr("The text would have more than 512 MiB, which the editor cannot show.")
+            .toStdString());
   }
   return changes;
 }

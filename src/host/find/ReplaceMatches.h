@@ -8,6 +8,7 @@
 #include "host/find/Replacement.h"
 #include "host/find/SearchPattern.h"
 #include "models/RichTextBox.h"
+#include "qt/base/LongestText.h"
 
 namespace tessel {
 
@@ -18,10 +19,12 @@ struct TextChange {
   std::string inserted;
 };
 
-/// What the matches of a pattern in `text` are to become.
+/// What the matches of a pattern in `text` are to become. A RuntimeError when the text would have
+/// more than `most` bytes then.
 std::vector<TextChange> ChangesOf(const SearchPattern& pattern, SearchedText& text,
                                   const std::vector<TextMatch>& matches,
-                                  const Replacement& replacement);
+                                  const Replacement& replacement,
+                                  Position most = Position{kLongestShownText});
 
 /// Makes these changes, which stand in order and do not overlap, in one undo step. Nothing else
 /// changes its colour. The caret stays with the text around it.

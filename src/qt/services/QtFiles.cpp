@@ -32,6 +32,7 @@ bool LinesAreUpTo(std::string_view bytes, std::size_t longest) {
 std::string QtFiles::Read(const std::string& path) {
   if (IsTooLong(path)) Refuse(path, "more than 512 MiB");
   std::string bytes = PosixFiles::Read(path);
+  if (bytes.size() > kLongestShownText) Refuse(path, "more than 512 MiB");  // it has grown
   if (!LinesAreUpTo(bytes, kLongestShownLine)) Refuse(path, "a line of more than 256 MiB");
   return bytes;
 }

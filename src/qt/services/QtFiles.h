@@ -2,15 +2,13 @@
 #pragma once
 
 #include "posix/PosixFiles.h"
+#include "qt/base/LongestText.h"
 
 namespace tessel {
 
 /// Bytes of a line: the editor widget lays out lines of this length, and ends the program at one of
 /// eight times as much.
 inline constexpr std::size_t kLongestShownLine = std::size_t{256} << 20;
-
-/// Bytes of a file: the editor widget counts its own, up to three for each of these, in an int.
-inline constexpr std::size_t kLongestShownText = std::size_t{512} << 20;
 
 /// True when no line, without its break (CR, LF or both), is longer than that.
 bool LinesAreUpTo(std::string_view bytes, std::size_t longest);
