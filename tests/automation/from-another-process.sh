@@ -126,7 +126,7 @@ await "the signal" in_signals 'string "Zanth Manager Version 4.0"'
 
 say "Converting"
 "$tessel" convert "$work/x.con" -o "$work/wanted.con"
-shown=$(grep '^gdbus call' "$manual")
+shown=$(sed -n '/^gdbus call/ { :a; /\\$/ { N; ba }; p }' "$manual")
 eval "expect '()' $shown"
 kept_text() { local kept=("$XDG_STATE_HOME"/ZanthMan/recovery/run-$first-*/text-*); tail -c "$(wc -c <"$work/wanted.con")" "${kept[0]}" | cmp - "$work/wanted.con"; }
 await "the converted text, as what is not saved yet," kept_text
