@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <tuple>
+
 #include "text/LineEnds.h"
 
 namespace tessel::cli {
@@ -12,6 +16,36 @@ TEST(LineEnds, AreCountedByKind) {
   EXPECT_EQ(ends.cr, 2U);
   EXPECT_TRUE(ends.Mixed());
   EXPECT_EQ(ends.Only(), std::nullopt);
+}
+
+/// Takes them out of the text one by one.
+LineEnds TakenOneByOne(std::string_view text) {
+  LineEnds ends;
+  while (!text.empty()) {
+    if (text.starts_with("\r\n")) {
+      ++ends.crLf;
+      text.remove_prefix(1);
+    } else if (text.front() == '\n') {
+      ++ends.lf;
+    } else if (text.front() == '\r') {
+      ++ends.cr;
+    }
+    text.remove_prefix(1);
+  }
+  return ends;
+}
+
+TEST(LineEnds, AreCountedAlikeInLongTexts) {
+  std::mt19937 dice(1);
+  for (int round = 0; round < 300; ++round) {
+    std::string text(dice() % 600, 'a');
+    for (char& c : text) c = "a\r\n"[dice() % 3];
+    const LineEnds ends = LineEndsOf(text);
+    const LineEnds wanted = TakenOneByOne(text);
+    ASSERT_EQ(std::tuple(ends.crLf, ends.lf, ends.cr),
+              std::tuple(wanted.crLf, wanted.lf, wanted.cr))
+        << testing::PrintToString(text);
+  }
 }
 
 TEST(LineEnds, AreOfOneKindOrOfNone) {

@@ -27,16 +27,22 @@ std::size_t CountOf(const std::vector<FileFacts>& files, std::span<const Keyword
   return count;
 }
 
-/// Adds the first word of each statement of the keyword that defines or opens something.
-void AddNames(const std::vector<FileFacts>& files, Keyword keyword, NameTable& table) {
+/// Adds the first word of each statement of the keyword that defines or opens something. The result
+/// is those whose name is there already.
+std::vector<PlacedStatement> AddNames(const std::vector<FileFacts>& files, Keyword keyword,
+                                      NameTable& table) {
+  std::vector<PlacedStatement> again;
   for (std::size_t i = 0; i < files.size(); ++i) {
     const auto& statements = files[i].Statements(keyword);
     for (std::size_t k = 0; k < statements.size(); ++k) {
       if (statements[k].role == Role::kUses || statements[k].words == 0) continue;
-      table.Add({files[i].WordText(statements[k], 0), static_cast<std::uint32_t>(i),
-                 static_cast<std::uint32_t>(k)});
+      const NamedPlace* before =
+          table.Add({files[i].WordText(statements[k], 0), static_cast<std::uint32_t>(i),
+                     static_cast<std::uint32_t>(k)});
+      if (before != nullptr) again.push_back({i, &statements[k]});
     }
   }
+  return again;
 }
 
 std::vector<FileFacts> FactsOf(std::span<const Source> sources, const CommandTable& commands) {
@@ -55,7 +61,7 @@ Mod::Mod(std::span<const Source> sources, const Knowledge& knowledge)
       defines_(CountOf(files_, std::array{Keyword::kDefine})),
       states_(CountOf(files_, std::array{Keyword::kState})),
       otherNames_(CountOf(files_, kNaming)) {
-  AddNames(files_, Keyword::kDefine, defines_);
+  repeatedDefines_ = AddNames(files_, Keyword::kDefine, defines_);
   AddNames(files_, Keyword::kState, states_);
   for (const Keyword keyword : kNaming) AddNames(files_, keyword, otherNames_);
   panelDefines_.reserve(files_.size());

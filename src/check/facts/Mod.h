@@ -38,6 +38,8 @@ class Mod {
   const Knowledge& Known() const { return knowledge_; }
   const CommandTable& Commands() const { return commands_; }
 
+  /// The defines that have the name of one before them.
+  const std::vector<PlacedStatement>& RepeatedDefines() const { return repeatedDefines_; }
   /// The first define of a name, if any.
   std::optional<PlacedStatement> DefineOf(std::string_view name) const;
   /// Whether any file gives that name to a define, an action, a move, an ai, a state.
@@ -64,6 +66,7 @@ class Mod {
   CommandTable commands_;
   std::vector<FileFacts> files_;
   NameTable defines_, states_, otherNames_;
+  std::vector<PlacedStatement> repeatedDefines_;
   std::vector<std::vector<const Statement*>> panelDefines_;
   bool hasUserFile_ = false;
   bool isWhole_ = false;

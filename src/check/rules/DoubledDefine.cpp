@@ -5,13 +5,10 @@ namespace tessel::check {
 namespace {
 
 void FindDoubledDefines(const Mod& mod, Findings& findings) {
-  for (std::size_t i = 0; i < mod.Files().size(); ++i) {
-    const FileFacts& file = mod.Files()[i];
-    for (const Statement& define : file.Statements(language::Keyword::kDefine)) {
-      const std::string_view name = file.WordText(define, 0);
-      const auto first = name.empty() ? std::nullopt : mod.DefineOf(name);
-      if (!first || first->statement == &define) continue;
-      AddDoubled(mod, *first, {i, &define}, Quoted(name), findings);
+  for (const PlacedStatement& define : mod.RepeatedDefines()) {
+    const std::string_view name = mod.Files()[define.file].WordText(*define.statement, 0);
+    if (const auto first = mod.DefineOf(name)) {
+      AddDoubled(mod, *first, define, Quoted(name), findings);
     }
   }
 }
