@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/RuntimeError.h"
-#include "language/Names.h"
+#include "language/NameAt.h"
 #include "qt/base/QtText.h"
 #include "qt/base/Windows1252Qt.h"
 #include "qt/editor/ScintillaView.h"
@@ -95,12 +95,9 @@ std::optional<Completion::Typed> Completion::TypedAtCaret() {
   const Document document = control_.Tessel().OpenDocuments().Current();
   const Position caret = document.Editor().SelStart();
   const language::Script& script = scripts_.Of(document.Place());
-  if (caret > 0 && script.IsInComment(caret - 1)) return std::nullopt;
-  const auto word = language::WordAt(script, caret);
-  if (!word || word->begin >= caret || script.Text(*word) == "{" || script.Text(*word) == "}") {
-    return Typed{caret, {}};
-  }
-  return Typed{word->begin, std::string(script.Text({word->begin, caret}))};
+  const auto typed = language::TypedAt(script, caret);
+  if (!typed) return std::nullopt;
+  return Typed{typed->begin, std::string(script.Text(*typed))};
 }
 
 const std::vector<ScriptWord>& Completion::Words() {

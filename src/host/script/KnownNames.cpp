@@ -1,29 +1,12 @@
 #include "host/script/KnownNames.h"
 
-#include "language/Names.h"
+#include "language/NameAt.h"
 #include "text/Text.h"
 
 namespace tessel {
 namespace {
 
 constexpr Position kQuicklyRead = 512 * 1024;
-
-bool HasName(const language::Symbol& symbol) {
-  using enum language::Keyword;
-  switch (symbol.keyword) {
-    case kDefine:
-    case kDefineSound:
-    case kAction:
-    case kMove:
-    case kAi:
-    case kState:
-    case kActor:
-    case kUserActor:
-      return !symbol.name.IsEmpty();
-    default:
-      return false;  // a number
-  }
-}
 
 }  // namespace
 
@@ -47,7 +30,7 @@ void KnownNames::Read(const Document& document, Names& names) {
   const language::Script& script = scripts_.Of(document.Place());
   names = {true, false, {}};
   for (const language::Symbol& symbol : language::Symbols(script)) {
-    if (HasName(symbol)) names.names.emplace_back(script.Text(symbol.name));
+    if (language::HasName(symbol)) names.names.emplace_back(script.Text(symbol.name));
   }
 }
 

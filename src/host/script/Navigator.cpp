@@ -3,27 +3,11 @@
 #include <algorithm>
 #include <string>
 
-#include "language/Names.h"
-#include "language/Statement.h"
+#include "language/NameAt.h"
 #include "qt/base/QtText.h"
 #include "qt/editor/ScintillaView.h"
 
 namespace tessel {
-namespace {
-
-/// The kind of what a word names, where its statement tells: "state NAME".
-std::optional<language::Keyword> KindOf(const language::Script& script, language::Range word) {
-  const auto statement = language::StatementAt(script, word.begin);
-  if (!statement || statement->name != word) return std::nullopt;
-  return statement->keyword;
-}
-
-bool IsName(const language::Script& script, language::Range word) {
-  const std::string_view text = script.Text(word);
-  return text != "{" && text != "}" && !language::KeywordOf(text);
-}
-
-}  // namespace
 
 Navigator::Navigator(TesselWidget& control, OpenScripts& scripts)
     : control_(control), documents_(control.Tessel().OpenDocuments()), scripts_(scripts) {
@@ -41,15 +25,16 @@ Place Navigator::Here() const {
   return {document.Place(), document.Editor().SelStart()};
 }
 
-// A state and an action may share a name: where the kind is known, the others are others.
 std::vector<Navigator::Found> Navigator::DefinitionsOf(
     std::string_view name, std::optional<language::Keyword> kind) const {
-  std::vector<Found> all;
-  std::vector<Found> ofKind;
+  struct Definition {
+    Found found;
+    std::optional<language::Keyword> keyword;
+  };
+  std::vector<Definition> all;
   const auto collect = [&](Slot slot) {
     for (const auto& use : language::DefinitionsOfName(scripts_.Of(slot), name)) {
-      all.push_back({slot, use.word});
-      if (use.keyword == kind) ofKind.push_back({slot, use.word});
+      all.push_back({{slot, use.word}, use.keyword});
     }
   };
   const Slot current = documents_.Current().Place();
@@ -57,17 +42,21 @@ std::vector<Navigator::Found> Navigator::DefinitionsOf(
   for (const Document& document : documents_.All()) {
     if (document.Place() != current) collect(document.Place());
   }
-  return ofKind.empty() ? all : ofKind;
+  language::KeepThoseOfKind(all, kind, [](const Definition& each) { return each.keyword; });
+  std::vector<Found> found;
+  found.reserve(all.size());
+  for (const Definition& each : all) found.push_back(each.found);
+  return found;
 }
 
 QString Navigator::GoToDefinition() {
   if (control_.Tessel().Running()) return {};
   const Place here = Here();
   const language::Script& script = scripts_.Of(here.slot);
-  const auto word = language::WordAt(script, here.at);
-  if (!word || !IsName(script, *word)) return tr("There is no name at the caret.");
+  const auto word = language::NameAt(script, here.at);
+  if (!word) return tr("There is no name at the caret.");
   const std::string name(script.Text(*word));
-  const auto found = DefinitionsOf(name, KindOf(script, *word));
+  const auto found = DefinitionsOf(name, language::KindOfName(script, *word));
   if (found.empty()) {
     return tr("\"%1\" is not defined in an open document.").arg(ShownName(name));
   }
