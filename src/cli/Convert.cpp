@@ -3,35 +3,15 @@
 
 #include "base/RuntimeError.h"
 #include "cli/Subcommands.h"
-#include "cli/look/DocumentSession.h"
-#include "converter/Converter.h"
+#include "cli/look/Conversion.h"
 #include "text/LineEnds.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
 namespace {
 
-/// Bytes, more than a conversion inserts: so the text is never moved to a larger place.
-constexpr std::size_t kRoomForConversion = 65536;
-
-/// A string that has to grow takes twice its room; a new one takes what it is asked for.
-std::string WithRoom(std::string_view bytes) {
-  std::string roomy;
-  roomy.reserve(bytes.size() + kRoomForConversion);
-  roomy.append(bytes);
-  return roomy;
-}
-
-std::vector<StepResult> ConvertDocument(DocumentSession& session, const std::string& name) try {
-  std::vector<StepResult> results;
-  session.Run([&] {
-    session.Control().Run([&] {
-      results = ConvertUserCon(
-          session.Editor(), session.World().pointer, session.World().messages, [] {},
-          AfterFailure::kAnything);
-    });
-  });
-  return results;
+Conversion ConvertFile(std::string bytes, const std::string& name) try {
+  return ConvertText(std::move(bytes));
 } catch (const RuntimeError& error) {
   throw RuntimeError(name + ": " + error.what());
 }
@@ -81,14 +61,11 @@ std::string StepsAsText(const FileReport& report) {
 bool Convert(const ConvertArguments& arguments) {
   const auto convert = [&](std::string bytes, FileReport& report) {
     const LineEnds own = LineEndsOf(bytes);
-    DocumentSession session;
-    bytes = WithRoom(bytes);
-    session.Show(std::move(bytes));
-    ReportSteps(ConvertDocument(session, report.file), report);
-    std::string converted = session.Editor().TakeText();
-    if (arguments.keepLineEnds) return InLineEndsOf(own, std::move(converted), report.file);
-    NoteMixture(own, converted, report);
-    return converted;
+    Conversion converted = ConvertFile(std::move(bytes), report.file);
+    ReportSteps(converted.steps, report);
+    if (arguments.keepLineEnds) return InLineEndsOf(own, std::move(converted.text), report.file);
+    NoteMixture(own, converted.text, report);
+    return std::move(converted.text);
   };
   return EditFiles(arguments,
                    {.command = "convert", .columns = {"step", "sought", "found", "changed"}},

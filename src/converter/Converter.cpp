@@ -9,6 +9,7 @@
 #include "converter/modConVersion.h"
 #include "services/Hourglass.h"
 #include "surface/Parked.h"
+#include "text/TextSearch.h"
 
 namespace tessel {
 namespace {
@@ -19,8 +20,8 @@ constexpr const char* kNoUserCon = "This does not appear to be a user.con file."
 
 /// Why the text is not to be converted, or null.
 const char* Refusal(RichTextBox& editor) {
-  if (editor.Find("QSIZE", 0) != kNotFound) return kAlreadyConverted;
-  if (editor.Find("definelevelname", 0) == kNotFound) return kNoUserCon;
+  if (editor.Find(kOnlyInConverted, 0) != kNotFound) return kAlreadyConverted;
+  if (editor.Find(kOnlyInUserFiles, 0) == kNotFound) return kNoUserCon;
   return nullptr;
 }
 
@@ -34,7 +35,15 @@ std::vector<StepResult> Convert(RichTextBox& editor) {
   return results;
 }
 
+bool Holds(std::string_view text, std::string_view word) {
+  return FindText(text, word, 0, std::ssize(text), kFindDefault) != kNotFound;
+}
+
 }  // namespace
+
+bool CanBeConverted(std::string_view text) {
+  return !Holds(text, kOnlyInConverted) && Holds(text, kOnlyInUserFiles);
+}
 
 std::vector<StepResult> ConvertUserCon(RichTextBox& editor, ScreenPointer& pointer,
                                        MessageBox& messages, const std::function<void()>& converted,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 #include <vector>
 
 #include "converter/VersionEdits.h"
@@ -15,6 +16,12 @@ enum class AfterFailure {
   kTextFromBefore,  // a copy is kept meanwhile: text, colours, undo
   kAnything,        // for a document that is thrown away then
 };
+
+/// What a text that is to be converted must not have, and what it must have, anywhere.
+inline constexpr std::string_view kOnlyInConverted = "QSIZE";
+inline constexpr std::string_view kOnlyInUserFiles = "definelevelname";
+/// False where ConvertUserCon would refuse the text.
+bool CanBeConverted(std::string_view text);
 
 /// Converts a document, a user file of the 1.3D dialect, into one of the 1.4/1.5 dialect
 /// and returns what each step did. Everything written is red; afterwards the caret is at 0, the
