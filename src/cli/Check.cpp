@@ -7,12 +7,9 @@
 #include "check/rules/Rules.h"
 #include "cli/Subcommands.h"
 #include "cli/check/CheckedFiles.h"
+#include "cli/check/StoredKnowledge.h"
 #include "cli/files/Input.h"
-#include "cli/files/WordStore.h"
 #include "cli/report/Complaint.h"
-#include "documents/Templates.h"
-#include "posix/HostDirectory.h"
-#include "posix/PosixFiles.h"
 #include "text/SafeText.h"
 
 namespace tessel::cli {
@@ -34,21 +31,12 @@ std::vector<CheckedFile> ReadAll(const CheckArguments& arguments, Report& report
   return files;
 }
 
-/// A user file that missing lines can be taken from; empty where it cannot be read.
-std::string TemplateText(const char* code) try {
-  return PosixFiles().Read(DefaultHostDirectory() + "/" + std::string(TemplateFile(code)));
-} catch (const RuntimeError&) {
-  return {};
-}
-
 void CheckAll(const CheckArguments& arguments, std::vector<CheckedFile>& files) {
-  const std::vector<ScriptWord> words = StoredOrStarterWords(arguments.store);
-  const std::string older = TemplateText("13DU"), newer = TemplateText("15AU");
+  const StoredKnowledge stored = ReadKnowledge(arguments.store);
   std::vector<check::Source> sources;
   sources.reserve(files.size());
   for (const CheckedFile& file : files) sources.push_back({file.name, file.bytes});
-  check::Findings findings = check::Check(
-      sources, {.words = words, .olderTemplate = older, .newerTemplate = newer}, arguments.rules);
+  check::Findings findings = check::Check(sources, stored.AsKnowledge(), arguments.rules);
   for (check::Finding& finding : findings) {
     files[finding.file].findings.push_back(std::move(finding));
   }

@@ -330,6 +330,16 @@ void AddCheck(CLI::App& program, Arguments& all) {
   });
 }
 
+void AddServer(CLI::App& program, Arguments& all) {
+  ServerArguments& server = all.server;
+  CLI::App* command = program.add_subcommand("lsp", "Serve other editors by the language protocol");
+  command->add_flag_callback(
+      "--stdio", [] {}, "talk over standard input and output, as it does anyway");
+  command->add_option("--store", server.store, "the settings file with the script words")
+      ->type_name("FILE");
+  command->callback([&server, &all] { all.good = ServeLanguage(server); });
+}
+
 struct DiffFlag {
   const char* flag;
   DiffForm form;
@@ -433,6 +443,7 @@ void DeclareSubcommands(CLI::App& program, Arguments& arguments) {
   AddLevel(program, arguments);
   AddColour(program, arguments);
   AddCheck(program, arguments);
+  AddServer(program, arguments);
   AddDiff(program, arguments);
   AddApply(program, arguments);
   AddWords(program, arguments);

@@ -37,6 +37,7 @@ struct Arguments {
   ColourArguments colour;
   CheckWords checkWords;
   CheckArguments check;
+  ServerArguments server;
   DiffArguments diff;
   ApplyArguments apply;
   WordsArguments words;

@@ -81,6 +81,12 @@ bool CheckFiles(const CheckArguments& arguments);
 bool ExplainRule(const check::Rule& rule);
 bool ListRules();
 
+struct ServerArguments {
+  std::string store;  ///< the settings file with the word list; empty: the user's own
+};
+/// False where the client has gone before it asked to shut down.
+bool ServeLanguage(const ServerArguments& arguments);
+
 enum class DiffForm : std::uint8_t { kText, kMarkdown, kToml, kJson, kTsv };
 struct DiffArguments {
   std::string before, after;  ///< files

@@ -1,0 +1,37 @@
+// Places as the protocol counts them: lines from 0, and units of UTF-16 or UTF-8 in the line.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "lsp/documents/Document.h"
+#include "lsp/messages/Json.h"
+
+namespace tessel::lsp {
+
+enum class PositionEncoding : std::uint8_t { kUtf16, kUtf8 };
+
+struct Place {
+  std::int64_t line = 0;
+  std::int64_t character = 0;
+
+  friend auto operator<=>(const Place&, const Place&) = default;
+};
+
+Place PlaceOf(const Document& document, Position offset, PositionEncoding encoding);
+/// A place behind the end of its line is that end, one behind the last line the end of the text,
+/// and one in the midst of a character its begin.
+Position OffsetOf(const Document& document, Place place, PositionEncoding encoding);
+/// How many units a range has.
+std::int64_t UnitsIn(const Document& document, language::Range range, PositionEncoding encoding);
+
+/// From a Position and a Range of the protocol; ResponseErrors for anything else.
+Place PlaceFrom(const Json& position);
+language::Range RangeFrom(const Json& range, const Document& document, PositionEncoding encoding);
+
+Json RangeAsJson(const Document& document, language::Range range, PositionEncoding encoding);
+/// Adds {"start": ..., "end": ...} to a text.
+void AppendRange(std::string& out, const Document& document, language::Range range,
+                 PositionEncoding encoding);
+
+}  // namespace tessel::lsp
