@@ -8,7 +8,6 @@ namespace {
 
 constexpr int kParseError = -32700, kInvalidRequest = -32600, kMethodNotFound = -32601,
               kInvalidParams = -32602, kNotInitialized = -32002, kCancelled = -32800;
-const std::string kUri = "file:///mod/USER.CON";
 
 TEST(Lifecycle, NothingIsAnsweredBeforeTheServerIsInitialized) {
   TestClient client;

@@ -12,6 +12,8 @@
 
 namespace tessel::lsp::test {
 
+inline const std::string kUri = "file:///mod/USER.CON";
+
 inline Resources TestResources() {
   return {.words = ParseWordFile(tessel::test::ReadDataFile("words.txt")),
           .olderTemplate = tessel::test::ReadDataFile("zmuser.dat"),

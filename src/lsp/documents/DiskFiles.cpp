@@ -19,7 +19,7 @@ bool IsConName(std::string_view name) {
 
 std::vector<std::string> DiskFiles::In(const std::string& folder) try {
   std::vector<std::string> paths;
-  for (const std::string& name : PosixFiles().Listing(folder)) {
+  for (const std::string& name : PosixFiles().Listing(folder + "/")) {
     if (IsConName(name) && paths.size() < kMostFiles) paths.push_back(folder + "/" + name);
   }
   return paths;

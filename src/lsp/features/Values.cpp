@@ -44,6 +44,19 @@ std::vector<std::string> NearestPresets(std::int32_t number) {
   return nearest;
 }
 
+/// A define takes its whole line, so there is one at most.
+std::optional<Definition> DefinitionInLine(const Document& document, Position offset) {
+  const LineIndex& lines = document.Lines();
+  const language::Range line = lines.LineIn(document.Bytes(), lines.LineOf(offset));
+  for (const language::Mark mark : document.Script().MarksFrom(line.begin)) {
+    if (mark.begin >= line.end) break;
+    if (mark.keyword == language::Keyword::kDefine) {
+      return language::ReadDefinition(document.Script(), mark);
+    }
+  }
+  return std::nullopt;
+}
+
 /// An edit that puts the value in the place of the define's, if it can be there.
 std::optional<Edit> Put(const Document& document, const Definition& define,
                         const cli::WantedItem& item, const std::string& value) try {
@@ -72,7 +85,7 @@ Edit SetValue(const Document& document, const std::string& item, const std::stri
 
 std::vector<OfferedValue> ValuesFor(const Session& session, const Document& document,
                                     Position offset) {
-  const auto define = language::DefinitionAt(document.Script(), offset);
+  const auto define = DefinitionInLine(document, offset);
   if (!define || !define->IsComplete()) return {};
   if (!document.ForeignersIn({define->keyword.begin, define->end}).empty()) return {};
   const std::string name(document.Script().Text(define->name));
