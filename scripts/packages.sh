@@ -20,6 +20,7 @@ all_packages=(
   build-essential dpkg-dev debhelper devscripts lintian
   xvfb xdotool xauth openbox x11-utils at-spi2-core
   zsh fish patch
+  neovim emacs-nox elpa-eglot
 )
 # What the programs of bench/ take besides; no test does.
 # shellcheck disable=SC2034

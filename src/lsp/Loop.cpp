@@ -92,8 +92,12 @@ class Loop {
   }
 
   void Write(const std::string& message) {
-    const std::string framed = Framed(message);
-    for (std::string_view rest = framed; !rest.empty();) {
+    WriteAll(HeaderOf(message));
+    WriteAll(message);
+  }
+
+  void WriteAll(std::string_view rest) {
+    while (!rest.empty()) {
       const auto count =
           posix::Retry([&] { return ::write(options_.output, rest.data(), rest.size()); });
       if (count < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) {

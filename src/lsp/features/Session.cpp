@@ -6,6 +6,20 @@
 #include "lsp/features/Diagnostics.h"
 
 namespace tessel::lsp {
+namespace {
+
+/// So many bytes are checked in a few milliseconds.
+constexpr std::size_t kMostToCheckAtOnce = std::size_t{256} * 1024;
+
+std::size_t BytesIn(const std::vector<Documents>& mods) {
+  std::size_t bytes = 0;
+  for (const Documents& mod : mods) {
+    for (const DocumentRef& file : mod) bytes += file->Bytes().size();
+  }
+  return bytes;
+}
+
+}  // namespace
 
 void Session::Notify(const char* method, Json params) {
   send_(Dump({{"jsonrpc", "2.0"}, {"method", method}, {"params", std::move(params)}}));
@@ -54,9 +68,12 @@ void Session::Publish(const CheckJob& job, std::vector<check::Findings> found) {
 }
 
 const check::Findings& Session::FindingsIn(const Document& document) {
+  static const check::Findings kNone;
   Checked& checked = checked_[KeyOfUri(document.Uri())];
   if (checked.revision != document.Revision()) {
-    const CheckJob job(workspace.ModsOf(document));
+    const std::vector<Documents> mods = workspace.ModsOf(document);
+    if (BytesIn(mods) > kMostToCheckAtOnce) return kNone;
+    const CheckJob job(mods);
     std::vector<check::Findings> found = job.Run(known.AsKnowledge());
     for (std::size_t i = 0; i < job.files.size(); ++i) {
       if (job.files[i].document.get() != &document) continue;

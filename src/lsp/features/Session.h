@@ -63,7 +63,8 @@ class Session {
   CheckJob NextCheck() { return CheckJob(workspace.OpenMods()); }
   /// Takes what a check has found, and tells the client; nothing of a text that has changed since.
   void Publish(const CheckJob& job, std::vector<check::Findings> found);
-  /// What a check finds in the document as it stands; it is made where there has been none.
+  /// What a check finds in the document as it stands. Where there has been none since it changed,
+  /// one is made if it is quick; else there is nothing until that on the thread is finished.
   const check::Findings& FindingsIn(const Document& document);
 
  private:

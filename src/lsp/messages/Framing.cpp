@@ -69,10 +69,10 @@ std::optional<std::string> FrameReader::Next() {
   return message;
 }
 
-std::string Framed(std::string_view message) {
-  std::string framed = "Content-Length: " + std::to_string(message.size());
-  (framed += kEndOfHeader) += message;
-  return framed;
+std::string HeaderOf(std::string_view message) {
+  return "Content-Length: " + std::to_string(message.size()) + std::string(kEndOfHeader);
 }
+
+std::string Framed(std::string_view message) { return HeaderOf(message).append(message); }
 
 }  // namespace tessel::lsp

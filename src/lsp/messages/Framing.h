@@ -36,6 +36,8 @@ class FrameReader {
   std::optional<std::size_t> body_;  // the length of the message whose header has been read
 };
 
+/// What stands in front of a message.
+std::string HeaderOf(std::string_view message);
 /// A message with its header.
 std::string Framed(std::string_view message);
 
