@@ -13,6 +13,7 @@ _tessel_options() {
     colour) echo "--format" ;;
     diff) echo "--markdown --toml --json --tsv" ;;
     apply) echo "--skip-missing $edit" ;;
+    lsp) echo "--stdio --store" ;;
     check) echo "--only --no --warnings-as-errors --store --json --tsv --sarif --list-rules --explain" ;;
     words) echo "--store" ;;
     new) echo "--output --force" ;;
@@ -41,7 +42,7 @@ _tessel_rules() {
 _tessel() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
   local command=${COMP_WORDS[1]} choices=
-  local commands="convert randomize settings get set levels level colour check diff apply words new help"
+  local commands="convert randomize settings get set levels level colour check diff apply lsp words new help"
   compopt +o filenames 2>/dev/null
   COMPREPLY=()
 

@@ -1,5 +1,5 @@
 # fish completion for tessel
-set -l commands convert randomize settings get set levels level colour check diff apply words new help
+set -l commands convert randomize settings get set levels level colour check diff apply lsp words new help
 set -l words_commands list get set remove import export
 set -l no_command "not __fish_seen_subcommand_from $commands"
 
@@ -32,6 +32,7 @@ complete -c tessel -f -n $no_command -a colour -d 'Print a file in colours'
 complete -c tessel -f -n $no_command -a check -d 'Find faults in the files of a mod'
 complete -c tessel -f -n $no_command -a diff -d 'Compare the values of two files'
 complete -c tessel -f -n $no_command -a apply -d 'Write a page of values into files'
+complete -c tessel -f -n $no_command -a lsp -d 'Serve other editors as a language server'
 complete -c tessel -f -n $no_command -a words -d 'Manage the list of script words'
 complete -c tessel -f -n $no_command -a new -d 'Start a file from a template'
 complete -c tessel -f -n $no_command -a help -d 'Print help on a subcommand'
@@ -62,7 +63,8 @@ complete -c tessel -n '__fish_seen_subcommand_from randomize' -l seed -x -d 'Sta
 complete -c tessel -n '__fish_seen_subcommand_from level' -l map -x -d 'The new map'
 complete -c tessel -n '__fish_seen_subcommand_from level' -l title -x -d 'The new title'
 complete -c tessel -n '__fish_seen_subcommand_from colour' -l format -x -a 'ansi html json'
-complete -c tessel -n '__fish_seen_subcommand_from words check' -l store -r -d 'The settings file'
+complete -c tessel -n '__fish_seen_subcommand_from words check lsp' -l store -r -d 'The settings file'
+complete -c tessel -n '__fish_seen_subcommand_from lsp' -l stdio -d 'Over standard input and output'
 complete -c tessel -n '__fish_seen_subcommand_from diff' -l markdown -d 'Print a Markdown table'
 complete -c tessel -n '__fish_seen_subcommand_from diff' -l toml -d 'Print what apply reads'
 complete -c tessel -n '__fish_seen_subcommand_from apply' -l skip-missing -d 'Skip values that a file does not have'

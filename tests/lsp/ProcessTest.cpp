@@ -32,7 +32,7 @@ class ServerProcess {
       ::dup2(in[0], STDIN_FILENO);
       ::dup2(out[1], STDOUT_FILENO);
       ::setenv("HOME", home.c_str(), 1);
-      ::setenv("XDG_CONFIG_HOME", home.c_str(), 1);
+      ::setenv("ZANTHMAN_STORE", store.c_str(), 1);
       std::vector<char*> argv = {const_cast<char*>("tessel")};
       for (std::string& argument : arguments) argv.push_back(argument.data());
       argv.push_back(nullptr);

@@ -10,6 +10,7 @@ command -v "$editor" >/dev/null || { echo "$editor is not installed: see scripts
 dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
 export HOME=$dir/home XDG_CONFIG_HOME=$dir/home XDG_DATA_HOME=$dir/home XDG_STATE_HOME=$dir/home
+export ZANTHMAN_STORE=$dir/settings.db
 mkdir -p "$HOME" "$dir/mod"
 
 # A doubled line and one that lacks, a comment that is not closed, and a byte that is no ASCII.
