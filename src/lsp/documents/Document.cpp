@@ -74,8 +74,11 @@ std::span<const Foreigner> Document::ForeignersIn(language::Range range) const {
 }
 
 std::string Document::Utf8(language::Range range) const {
+  const std::string_view bytes = language::Slice(bytes_, range);
+  const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+  if (std::ranges::all_of(bytes, isAscii)) return std::string(bytes);
   std::string utf8;
-  utf8.reserve(static_cast<std::size_t>(range.Length()));
+  utf8.reserve(bytes.size());
   auto foreigners = ForeignersIn(range);
   for (Position at = range.begin; at < range.end; ++at) {
     if (!foreigners.empty() && foreigners.front().at == at) {

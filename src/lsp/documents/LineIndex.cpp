@@ -41,6 +41,14 @@ std::size_t LineIndex::LineOf(Position offset) const {
   return static_cast<std::size_t>(std::ranges::upper_bound(begins_, offset) - begins_.begin()) - 1;
 }
 
+std::size_t LineIndex::LineNear(std::size_t line, Position offset) const {
+  for (const std::size_t each : {line, line + 1}) {
+    if (each >= begins_.size() || begins_[each] > offset) break;
+    if (each + 1 == begins_.size() || offset < begins_[each + 1]) return each;
+  }
+  return LineOf(offset);
+}
+
 language::Range LineIndex::LineIn(std::string_view text, std::size_t line) const {
   const Position begin = begins_[line];
   if (line + 1 == begins_.size()) return {begin, std::ssize(text)};

@@ -21,6 +21,8 @@ class LineIndex {
   /// One more than there are line breaks.
   std::size_t Count() const { return begins_.size(); }
   std::size_t LineOf(Position offset) const;
+  /// The same, at once where it is that line or the next.
+  std::size_t LineNear(std::size_t line, Position offset) const;
   Position BeginOf(std::size_t line) const { return begins_[line]; }
   /// Without its line break.
   language::Range LineIn(std::string_view text, std::size_t line) const;

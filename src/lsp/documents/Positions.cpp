@@ -91,20 +91,21 @@ Json RangeAsJson(const Document& document, language::Range range, PositionEncodi
           {"end", asJson(PlaceOf(document, range.end, encoding))}};
 }
 
-void AppendRange(std::string& out, const Document& document, language::Range range,
-                 PositionEncoding encoding) {
-  const auto append = [&](const char* name, Position offset) {
-    const Place place = PlaceOf(document, offset, encoding);
-    ((out += '"') += name) += "\":{\"line\":";
-    AppendJson(out, place.line);
-    out += ",\"character\":";
-    AppendJson(out, place.character);
-    out += '}';
-  };
-  out += '{';
-  append("start", range.begin);
-  out += ',';
-  append("end", range.end);
+void RangeText::AppendPlace(std::string& out, Position offset) {
+  line_ = document_.Lines().LineNear(line_, offset);
+  const language::Range before = {document_.Lines().BeginOf(line_), offset};
+  out += "{\"line\":";
+  AppendJson(out, static_cast<std::int64_t>(line_));
+  out += ",\"character\":";
+  AppendJson(out, UnitsIn(document_, before, encoding_));
+  out += '}';
+}
+
+void RangeText::Append(std::string& out, language::Range range) {
+  out += "{\"start\":";
+  AppendPlace(out, range.begin);
+  out += ",\"end\":";
+  AppendPlace(out, range.end);
   out += '}';
 }
 

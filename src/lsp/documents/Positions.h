@@ -30,8 +30,21 @@ Place PlaceFrom(const Json& position);
 language::Range RangeFrom(const Json& range, const Document& document, PositionEncoding encoding);
 
 Json RangeAsJson(const Document& document, language::Range range, PositionEncoding encoding);
-/// Adds {"start": ..., "end": ...} to a text.
-void AppendRange(std::string& out, const Document& document, language::Range range,
-                 PositionEncoding encoding);
+
+/// Adds ranges as JSON to a text, one after the other: quick where they stand near each other.
+class RangeText {
+ public:
+  RangeText(const Document& document, PositionEncoding encoding)
+      : document_(document), encoding_(encoding) {}
+
+  void Append(std::string& out, language::Range range);
+
+ private:
+  void AppendPlace(std::string& out, Position offset);
+
+  const Document& document_;
+  PositionEncoding encoding_;
+  std::size_t line_ = 0;  // of the last place
+};
 
 }  // namespace tessel::lsp

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t kMostFound = 1000;
 constexpr Position kMostOfDetail = 60;
+constexpr std::size_t kUsualLength = 256;  // of a symbol in an answer
 
 void AppendName(const Document& document, language::Range name, std::string& out) {
   out += "{\"name\":";
@@ -22,9 +23,8 @@ void AppendKind(const language::Symbol& symbol, std::string& out) {
   AppendJson(out, std::int64_t{SymbolKindOf(symbol.keyword)});
 }
 
-void AppendSymbol(const Session& session, const Document& document, const language::Symbol& symbol,
+void AppendSymbol(const Document& document, const language::Symbol& symbol, RangeText& ranges,
                   std::string& out) {
-  const PositionEncoding encoding = session.client.encoding;
   AppendName(document, symbol.name, out);
   language::Range detail = symbol.detail;
   detail.end = std::min(detail.end, detail.begin + kMostOfDetail);
@@ -34,9 +34,9 @@ void AppendSymbol(const Session& session, const Document& document, const langua
   }
   AppendKind(symbol, out);
   out += ",\"range\":";
-  AppendRange(out, document, symbol.range, encoding);
+  ranges.Append(out, symbol.range);
   out += ",\"selectionRange\":";
-  AppendRange(out, document, symbol.name, encoding);
+  ranges.Append(out, symbol.name);
   out += '}';
 }
 
@@ -53,7 +53,7 @@ void AppendFound(const Session& session, const Document& document, const languag
   out += ",\"location\":{\"uri\":";
   AppendJson(out, document.Uri());
   out += ",\"range\":";
-  AppendRange(out, document, symbol.name, session.client.encoding);
+  RangeText(document, session.client.encoding).Append(out, symbol.name);
   out += "}}";
 }
 
@@ -61,11 +61,14 @@ void AppendFound(const Session& session, const Document& document, const languag
 
 std::string DocumentSymbols(Session& session, const Json& params) {
   const Document& document = DocumentIn(session, params);
+  const std::vector<language::Symbol> symbols = language::Symbols(document.Script());
+  RangeText ranges(document, session.client.encoding);
   std::string out = "[";
-  for (const language::Symbol& symbol : language::Symbols(document.Script())) {
+  out.reserve(symbols.size() * kUsualLength);
+  for (const language::Symbol& symbol : symbols) {
     if (symbol.name.IsEmpty()) continue;
     if (out.size() > 1) out += ',';
-    AppendSymbol(session, document, symbol, out);
+    AppendSymbol(document, symbol, ranges, out);
   }
   return out += ']';
 }
