@@ -97,8 +97,10 @@ std::optional<FileRecord> GuardedFiles::Known(const std::string& path) const {
 }
 
 void GuardedFiles::SetAttributesNormal(const std::string& path) {
+  const std::string place = PlaceOf(path);
+  if (!posix::StatusOf(place)) return;  // a file of another spelling is none of ours
   const bool changed = ChangedByOthers(path);
-  files_.SetAttributesNormal(PlaceOf(path));
+  files_.SetAttributesNormal(place);
   const auto known = known_.find(path);
   if (!changed && known != known_.end()) known->second.state = DiskStateOf(known->second.place);
 }
