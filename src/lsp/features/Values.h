@@ -21,8 +21,8 @@ struct OfferedValue {
   std::string why;  ///< such as "as in the template"; may be empty
   Edit edit;
 };
-/// For the define in the line of a place: that of the template, the nearest that the panel's lists have, and
-/// the other one of YES and NO.
+/// For the define in the line of a place: that of the template, the nearest that the panel's lists
+/// have, and the other one of YES and NO.
 std::vector<OfferedValue> ValuesFor(const Session& session, const Document& document,
                                     Position offset);
 

@@ -6,8 +6,8 @@
 
 namespace tessel {
 
-/// Makes the dialog wide enough for its window's title with the buttons beside it, and never a sliver.
-/// To be called when it has its title and before it is shown.
+/// Makes the dialog wide enough for its window's title with the buttons beside it, and never a
+/// sliver. To be called when it has its title and before it is shown.
 void KeepRoomForTitle(QMessageBox& box);
 void KeepRoomForTitle(QInputDialog& dialog);
 
