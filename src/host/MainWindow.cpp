@@ -1,5 +1,6 @@
 #include "host/MainWindow.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -258,6 +259,11 @@ void MainWindow::BuildStatusBar() {
   statusBar()->setSizeGripEnabled(true);
   new DocumentStatus(*statusBar(), *control_, [this](Slot slot) -> const language::Script& {
     return script_->ScriptOf(slot);
+  });
+  connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString& message) {
+    statusBar()->setAccessibleName(message);
+    QAccessibleEvent said(statusBar(), QAccessible::Alert);
+    QAccessible::updateAccessibility(&said);
   });
 }
 
