@@ -59,8 +59,9 @@ all() {
     xargs -n 4 -P "$jobs" clang-tidy --quiet --extra-arg=-Wno-unknown-warning-option -p build/asan-ubsan 2>/dev/null
   run_tests asan-ubsan -LE thorough | tail -n 15
   TESSEL_TYPING_KILLS=3 run_tests asan-ubsan -R '^desktop\.'
-  build tsan --target test_safekeeping
+  build tsan --target test_safekeeping test_lsp
   run_tests tsan -R '^safekeeping\.' -E TakesNoTimeOfTheCaller | tail -n 5
+  run_tests tsan -R '^lsp\.ServerProcess' | tail -n 5
   step "Fuzzing, ${FUZZ_SECONDS:=30} s each target"
   scripts/fuzz.sh "$FUZZ_SECONDS"
   TESSEL_KILL_ROUNDS=100 run_tests release
