@@ -51,6 +51,15 @@ TEST_F(Diagnostics, AreToldOnceAndNotAgain) {
   EXPECT_TRUE(client_.Received().empty());
 }
 
+TEST_F(Diagnostics, AreToldAgainOfATextThatIsOpenedAgain) {
+  client_.Open(kUri, "define B\n");
+  client_.Check();
+  client_.Notify("textDocument/didClose", {{"textDocument", {{"uri", kUri}}}});
+  client_.Forget();
+  client_.Open(kUri, "define B\n");
+  EXPECT_EQ(After(kUri), "0:0-0:8 define-without-value\n");
+}
+
 TEST_F(Diagnostics, CountUnitsOfUtf16) {
   client_.Open(kUri,
                "define A 1 // \xE2\x82\xAC \xF0\x9F\x98\x80 x\n// \xF0\x9F\x98\x80 \xC5\x82\n");

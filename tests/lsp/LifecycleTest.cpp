@@ -89,6 +89,17 @@ TEST(Lifecycle, WhatIsNoRequestIsAnsweredAsSuch) {
   EXPECT_EQ(client.ErrorOf("$/nothing", nullptr), kMethodNotFound);
 }
 
+TEST(Lifecycle, AMessageMayBeNestedAsDeeplyAsItLikes) {
+  constexpr std::size_t kDeep = 1'000'000;
+  TestClient client;
+  client.Initialize();
+  const std::string nested = std::string(kDeep, '[') + std::string(kDeep, ']');
+  client.Forget();
+  client.SendText(R"({"id":5,"method":"textDocument/hover","params":)" + nested + "}");
+  ASSERT_EQ(client.Received().size(), 1U);
+  EXPECT_EQ(client.Received()[0]["error"]["code"], kInvalidParams);
+}
+
 TEST(Lifecycle, UnknownNotificationsAndAnswersAreLetPass) {
   TestClient client;
   client.Initialize();

@@ -67,6 +67,11 @@ void Session::Publish(const CheckJob& job, std::vector<check::Findings> found) {
   }
 }
 
+void Session::TellAnew(const std::string& uri) {
+  const auto found = published_.find(uri);
+  if (found != published_.end()) found->second.clear();
+}
+
 const check::Findings& Session::FindingsIn(const Document& document) {
   static const check::Findings kNone;
   Checked& checked = checked_[KeyOfUri(document.Uri())];

@@ -63,6 +63,8 @@ class Session {
   CheckJob NextCheck() { return CheckJob(workspace.OpenMods()); }
   /// Takes what a check has found, and tells the client; nothing of a text that has changed since.
   void Publish(const CheckJob& job, std::vector<check::Findings> found);
+  /// The client may have forgotten what it was told of that document.
+  void TellAnew(const std::string& uri);
   /// What a check finds in the document as it stands. Where there has been none since it changed,
   /// one is made if it is quick; else there is nothing until that on the thread is finished.
   const check::Findings& FindingsIn(const Document& document);

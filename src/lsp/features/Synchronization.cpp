@@ -33,6 +33,7 @@ void DidOpen(Session& session, const Json& params) {
   const Json& document = Member(params, "textDocument");
   session.workspace.Open(TextMember(document, "uri"), FromClient(TextMember(document, "text")),
                          VersionIn(document));
+  session.TellAnew(TextMember(document, "uri"));
   session.WantCheck();
 }
 
