@@ -5,9 +5,12 @@
 #include <iterator>
 #include <optional>
 #include <sstream>
+#include <string_view>
+#include <utility>
 
+#include "Difference.h"
 #include "DriveProcess.h"
-#include "Match.h"
+#include "Edits.h"
 #include "Scenario.h"
 
 namespace scenario {
@@ -36,8 +39,10 @@ std::string Readable(const std::string& bytes) {
       utf8 += static_cast<char>(0x80 | (byte & 0x3F));
     }
   }
-  return Json(utf8).dump();
+  return TextOf(utf8);
 }
+
+constexpr std::string_view kIndent = "    ";
 
 class Player {
  public:
@@ -46,7 +51,7 @@ class Player {
 
   Performance Play(const std::string& program, const std::string& platform) {
     const auto steps = ReadScenario(scenario_, directory_);
-    std::vector<std::string> arguments = {"--platform", platform, "--host-dir", directory_};
+    std::vector<std::string> arguments = {"--platform", platform, "--host-dir", directory_.Path()};
     for (const Step& step : steps) {
       if (step.kind != Step::Kind::kOptions) continue;
       std::istringstream words(step.text);
@@ -58,30 +63,24 @@ class Player {
       if (step.kind == Step::Kind::kCommand && !drive) drive.emplace(program, arguments);
       if (!Take(step, drive)) return performance_;
     }
-    EndCommand();
     if (drive && drive->Finish() != 0) Fail(steps.back(), "the program did not end with status 0");
+    if (!edits_.Empty()) performance_.actual = edits_.Apply(ReadLines(scenario_));
     return performance_;
   }
 
  private:
   bool Take(const Step& step, std::optional<DriveProcess>& drive) {
-    if (step.kind != Step::Kind::kExpect) EndCommand();
     switch (step.kind) {
       case Step::Kind::kCommand:
         return Command(step, *drive);
-      case Step::Kind::kExpect:
-        Expect(step);
-        break;
       case Step::Kind::kWrite:
-        WriteFile(fs::path(directory_) / step.file, step.bytes);
+        WriteFile(PathOf(step), step.bytes);
         break;
       case Step::Kind::kHolds:
-        if (const auto bytes = ReadFile(fs::path(directory_) / step.file); bytes != step.bytes) {
-          Fail(step, "expected " + Readable(step.bytes) + "\n  got      " + Readable(bytes));
-        }
+        if (const auto bytes = ReadFile(PathOf(step)); bytes != step.bytes) Holds(step, bytes);
         break;
       case Step::Kind::kMissing:
-        if (fs::exists(fs::path(directory_) / step.file)) Fail(step, "the file is there");
+        if (fs::exists(PathOf(step))) Fail(step, "the file is there");
         break;
       case Step::Kind::kOptions:
         break;
@@ -96,46 +95,38 @@ class Player {
       return false;
     }
     performance_.replies.push_back(*answer);
-    command_ = step;
-    reply_ = Json::parse(*answer, nullptr, false);
-    mayFail_ = false;
+    const Difference difference = Compare(step.expected, Json::parse(*answer, nullptr, false));
+    if (!difference.where.empty()) Differs(step, difference);
     return true;
   }
 
-  void Expect(const Step& step) {
-    const Json expected = Json::parse(step.text, nullptr, false);
-    if (!expected.is_object()) {
-      Fail(step, "the expectation is no JSON object");
-      return;
+  void Differs(const Step& step, const Difference& difference) {
+    Fail(step, step.words + "\n  " + difference.where + Shown(difference) + "\n  command  " +
+                   step.text + "\n  reply    " + performance_.replies.back());
+    std::vector<std::string> lines;
+    for (const std::string& line : difference.came) {
+      lines.push_back(std::string(kIndent) + directory_.TakeOutOf(line));
     }
-    if (expected.contains("ok")) mayFail_ = true;
-    if (const auto difference = Mismatch(expected, reply_); !difference.empty()) {
-      Fail(step, difference + "\n  command  " + command_->text + "\n  expected " + step.text +
-                     "\n  reply    " + performance_.replies.back());
-    }
+    for (const int line : step.expectedLines) edits_.Remove(line);
+    edits_.Insert(step.line, lines);
   }
 
-  /// A command whose scenario does not say "ok" must have succeeded.
-  void EndCommand() {
-    if (!command_) return;
-    const bool ok = reply_.is_object() && reply_.value("ok", false);
-    if (!mayFail_ && !ok) {
-      Fail(*command_,
-           "refused\n  command  " + command_->text + "\n  reply    " + performance_.replies.back());
-    }
-    command_.reset();
+  void Holds(const Step& step, const std::string& bytes) {
+    Fail(step, step.file + "\n  - " + Readable(step.bytes) + "\n  + " + Readable(bytes));
+    for (int line = step.line; line <= step.lastLine; ++line) edits_.Remove(line);
+    edits_.Insert(step.line, {"holds " + step.file + " " + Readable(bytes)});
   }
 
   void Fail(const Step& step, const std::string& what) {
     performance_.failures.push_back(scenario_ + ":" + std::to_string(step.line) + ": " + what);
   }
 
+  fs::path PathOf(const Step& step) const { return fs::path(directory_.Path()) / step.file; }
+
   std::string scenario_;
-  std::string directory_;
+  Directory directory_;
   Performance performance_;
-  std::optional<Step> command_;
-  Json reply_;
-  bool mayFail_ = false;
+  Edits edits_;
 };
 
 }  // namespace

@@ -1,9 +1,12 @@
 #include "Scenario.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
+#include <utility>
+
+#include "CommandLines.h"
 
 namespace scenario {
 namespace {
@@ -35,49 +38,97 @@ std::string BytesOfJson(const std::string& json) {
   return bytes;
 }
 
+/// Cuts a line at its first blank.
+std::pair<std::string, std::string> Cut(const std::string& line) {
+  const auto blank = std::min(line.find(' '), line.size());
+  return {line.substr(0, blank), line.substr(std::min(blank + 1, line.size()))};
+}
+
 class Reader {
  public:
-  Reader(std::istream& in, std::string directory)
-      : in_(in), directory_(std::move(directory)), upper_(Upper(directory_)) {}
+  Reader(const std::vector<std::string>& lines, const Directory& directory)
+      : lines_(lines), directory_(directory) {}
 
   std::vector<Step> Read() {
-    std::vector<Step> steps;
-    std::string line;
-    while (Next(line)) {
-      if (line.empty() || line.front() == '#') continue;
-      steps.push_back(StepOf(line));
-    }
-    return steps;
+    while (line_ < lines_.size()) ReadLine(Next());
+    return std::move(steps_);
   }
 
-  int Line() const { return line_; }
+  std::size_t Line() const { return line_; }
 
  private:
-  bool Next(std::string& line) {
-    if (!std::getline(in_, line)) return false;
-    ++line_;
-    ReplaceAll(line, "$DIR", directory_);
-    ReplaceAll(line, "$UPPERDIR", upper_);
-    return true;
+  std::string Next() { return directory_.PutInto(lines_[line_++]); }
+
+  void ReadLine(const std::string& line) {
+    const auto text = line.find_first_not_of(' ');
+    if (text == std::string::npos || line[text] == '#') return;
+    if (text > 0) return Expect().AddLine(line.substr(text));
+    if (IsExpectation(line)) return Expect().Add(Json::parse(line.substr(2)));
+    steps_.push_back(StepOf(line));
+  }
+
+  /// What the last command's reply must hold.
+  Expectations& Expect() {
+    if (steps_.empty() || steps_.back().kind != Step::Kind::kCommand) {
+      throw std::runtime_error("no command comes before what is expected");
+    }
+    steps_.back().expectedLines.push_back(static_cast<int>(line_));
+    return steps_.back().expected;
+  }
+
+  Step NewStep(Step::Kind kind) const {
+    Step step;
+    step.kind = kind;
+    step.line = static_cast<int>(line_);
+    return step;
   }
 
   Step StepOf(const std::string& line) {
-    const auto blank = std::min(line.find(' '), line.size());
-    const std::string word = line.substr(0, blank);
-    const std::string rest = line.substr(std::min(blank + 1, line.size()));
-    if (word == ">") return {Step::Kind::kCommand, line_, rest, {}, {}};
-    if (word == "<") return {Step::Kind::kExpect, line_, rest, {}, {}};
-    if (word == "options") return {Step::Kind::kOptions, line_, rest, {}, {}};
-    if (word == "missing") return {Step::Kind::kMissing, line_, {}, rest, {}};
-    if (word == "write") return FileStep(Step::Kind::kWrite, rest);
-    if (word == "holds") return FileStep(Step::Kind::kHolds, rest);
-    throw std::runtime_error("unknown step \"" + word + "\"");
+    using Make = Step (Reader::*)(Step::Kind, const std::string&);
+    struct Word {
+      std::string_view word;
+      Step::Kind kind;
+      Make make;
+    };
+    static constexpr std::array kWords = {
+        Word{"options", Step::Kind::kOptions, &Reader::TextStep},
+        Word{"missing", Step::Kind::kMissing, &Reader::NamedStep},
+        Word{"write", Step::Kind::kWrite, &Reader::FileStep},
+        Word{"holds", Step::Kind::kHolds, &Reader::FileStep},
+    };
+    const auto [word, rest] = Cut(line);
+    const auto* const it = std::ranges::find(kWords, word, &Word::word);
+    return it == kWords.end() ? CommandStep(line) : (this->*it->make)(it->kind, rest);
+  }
+
+  Step CommandStep(const std::string& line) {
+    Step step = NewStep(Step::Kind::kCommand);
+    step.words = line;
+    if (IsCommand(line)) {
+      step.text = line.substr(2);
+    } else if (const auto command = CommandOf(line)) {
+      step.text = command->dump();
+    } else {
+      throw std::runtime_error("unknown step \"" + line + "\"");
+    }
+    return step;
+  }
+
+  Step TextStep(Step::Kind kind, const std::string& rest) {
+    Step step = NewStep(kind);
+    step.text = rest;
+    return step;
+  }
+
+  Step NamedStep(Step::Kind kind, const std::string& rest) {
+    Step step = NewStep(kind);
+    step.file = rest;
+    return step;
   }
 
   Step FileStep(Step::Kind kind, const std::string& rest) {
-    const auto blank = std::min(rest.find(' '), rest.size());
-    Step step{kind, line_, {}, rest.substr(0, blank), {}};
-    const std::string content = rest.substr(std::min(blank + 1, rest.size()));
+    const auto [name, content] = Cut(rest);
+    Step step = NamedStep(kind, name);
     if (content == "crlf") {
       step.bytes = Block("\r\n");
     } else if (content == "lf") {
@@ -85,31 +136,58 @@ class Reader {
     } else {
       step.bytes = BytesOfJson(content);
     }
+    step.lastLine = static_cast<int>(line_);
     return step;
   }
 
   std::string Block(const std::string& lineBreak) {
     std::string bytes;
-    std::string line;
-    while (Next(line)) {
+    while (line_ < lines_.size()) {
+      const std::string line = Next();
       if (line == "end") return bytes;
       bytes += line + lineBreak;
     }
     throw std::runtime_error("a block without \"end\"");
   }
 
-  std::istream& in_;
-  std::string directory_;
-  std::string upper_;
-  int line_ = 0;
+  const std::vector<std::string>& lines_;
+  const Directory& directory_;
+  std::size_t line_ = 0;
+  std::vector<Step> steps_;
 };
 
 }  // namespace
 
-std::vector<Step> ReadScenario(const std::string& path, const std::string& directory) {
+Directory::Directory(std::string path) : path_(std::move(path)), upper_(Upper(path_)) {}
+
+std::string Directory::PutInto(std::string line) const {
+  if (path_.empty()) return line;
+  ReplaceAll(line, "$DIR", path_);
+  ReplaceAll(line, "$UPPERDIR", upper_);
+  return line;
+}
+
+std::string Directory::TakeOutOf(std::string line) const {
+  if (path_.empty()) return line;
+  ReplaceAll(line, path_, "$DIR");
+  ReplaceAll(line, upper_, "$UPPERDIR");
+  return line;
+}
+
+bool IsCommand(std::string_view line) { return line.starts_with("> "); }
+bool IsExpectation(std::string_view line) { return line.starts_with("< "); }
+
+std::vector<std::string> ReadLines(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
   if (!in) throw std::runtime_error(path + ": cannot be read");
-  Reader reader(in, directory);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+std::vector<Step> ReadScenario(const std::string& path, const Directory& directory) {
+  const std::vector<std::string> lines = ReadLines(path);
+  Reader reader(lines, directory);
   try {
     return reader.Read();
   } catch (const std::exception& error) {

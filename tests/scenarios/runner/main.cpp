@@ -1,15 +1,23 @@
-// Runs a scenario: run_scenario PROGRAM headless|qt|both FILE. With "both" each platform must do as
-// the scenario expects, and their replies must be equal, line by line.
+// Plays a scenario: run_scenario PROGRAM headless|qt|both FILE. With "both" each platform must do
+// as the scenario expects, and their replies must be equal, line by line. What came instead of what
+// was expected is written to FILE.new.
+//
+// run_scenario words FILE writes a scenario in words, run_scenario json FILE as lines of the
+// protocol.
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <string>
+#include <system_error>
+#include <vector>
 
 #include "Performance.h"
+#include "Turning.h"
 
 namespace {
 
@@ -43,28 +51,56 @@ bool ReportDifferences(const std::string& file, const Performance& headless,
   return equal;
 }
 
-int Run(const std::string& program, const std::string& platform, const std::string& file) {
+/// The new text stands beside the scenario until somebody takes it over; it goes when nothing
+/// differs.
+void KeepActual(const std::string& file, const Performance& performance) {
+  const std::string fresh = file + ".new";
+  std::error_code ignored;
+  std::filesystem::remove(fresh, ignored);
+  if (performance.actual.empty()) return;
+  std::ofstream out(fresh, std::ios::binary);
+  if (!(out << performance.actual)) return;
+  std::cerr << fresh << ": what came; scripts/accept-scenarios.sh takes it over\n";
+}
+
+int Play(const std::string& program, const std::string& platform, const std::string& file) {
   const std::string directory = NewDirectory();
   if (platform != "both") {
-    return Report(platform, scenario::Perform(file, program, platform, directory)) ? 0 : 1;
+    const auto performance = scenario::Perform(file, program, platform, directory);
+    KeepActual(file, performance);
+    return Report(platform, performance) ? 0 : 1;
   }
   const auto headless = scenario::Perform(file, program, "headless", directory);
   const auto qt = scenario::Perform(file, program, "qt", directory);
+  KeepActual(file, headless.actual.empty() ? qt : headless);
   const std::array good = {Report("headless", headless), Report("qt", qt),
                            ReportDifferences(file, headless, qt)};
   return std::ranges::count(good, false) == 0 ? 0 : 1;
 }
 
+int Run(const std::vector<std::string>& arguments) {
+  constexpr std::array kPlatforms = {"headless", "qt", "both"};
+  if (arguments.size() == 2 && arguments[0] == "words") {
+    std::cout << scenario::InWords(arguments[1]);
+    return 0;
+  }
+  if (arguments.size() == 2 && arguments[0] == "json") {
+    std::cout << scenario::InJson(arguments[1]);
+    return 0;
+  }
+  if (arguments.size() == 3 && std::ranges::find(kPlatforms, arguments[1]) != kPlatforms.end()) {
+    return Play(arguments[0], arguments[1], arguments[2]);
+  }
+  std::cerr << "usage: run_scenario PROGRAM headless|qt|both FILE\n"
+               "       run_scenario words|json FILE\n";
+  return 2;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  constexpr std::array kPlatforms = {"headless", "qt", "both"};
-  if (argc != 4 || std::ranges::find(kPlatforms, std::string_view(argv[2])) == kPlatforms.end()) {
-    std::cerr << "usage: run_scenario PROGRAM headless|qt|both FILE\n";
-    return 2;
-  }
   try {
-    return Run(argv[1], argv[2], argv[3]);
+    return Run({argv + 1, argv + argc});
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return 1;
