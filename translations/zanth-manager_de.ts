@@ -1139,6 +1139,13 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
     </message>
 </context>
 <context>
+    <name>tessel::LiveCheck</name>
+    <message>
+        <source>There is not enough memory for the check.</source>
+        <translation>Für die Prüfung ist nicht genug Speicher da.</translation>
+    </message>
+</context>
+<context>
     <name>tessel::MainMenu</name>
     <message>
         <source>Menu bar</source>

@@ -37,6 +37,7 @@ constexpr WishRow kWishes[] = {
     {Wish::kTheme, "Theme", "0"},
     {Wish::kBackups, "Backups", "20"},
     {Wish::kHint, "Hint", "1"},
+    {Wish::kLiveCheck, "LiveCheck", "1"},
 };
 
 const WishRow& RowOf(Wish wish) { return *std::ranges::find(kWishes, wish, &WishRow::wish); }

@@ -27,6 +27,7 @@ enum class Wish {
   kTheme,        ///< 0 as the desktop, 1 light, 2 dark
   kBackups,      ///< how many are kept of one file, from 1 to kMostBackupsOfAFile
   kHint,         ///< what to do first is told at the start
+  kLiveCheck,    ///< the open documents are checked when the user pauses
 };
 
 inline constexpr int kMostBackupsOfAFile = 200;
