@@ -226,6 +226,17 @@ Ersetzen?</translation>
     </message>
 </context>
 <context>
+    <name>ProblemFix</name>
+    <message>
+        <source>Another command is still on its way.</source>
+        <translation>Ein anderer Befehl läuft noch.</translation>
+    </message>
+    <message>
+        <source>The text has changed since it was checked; nothing is fixed.</source>
+        <translation>Der Text hat sich seit der Prüfung geändert; nichts wurde behoben.</translation>
+    </message>
+</context>
+<context>
     <name>QDockWidget</name>
     <message>
         <source>Close</source>
@@ -621,6 +632,10 @@ Ersetzen?</translation>
     <message>
         <source>Second &amp;View</source>
         <translation>Zwei&amp;te Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Problems</source>
+        <translation>&amp;Probleme</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +1379,116 @@ Der eigene Text bleibt als Sicherungskopie erhalten (Datei &gt; Sicherungskopien
     <message>
         <source>Bac&amp;kups of each file:</source>
         <translation>Si&amp;cherungskopien je Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Check for problems while typing</source>
+        <translation>Beim Tippen nach &amp;Problemen suchen</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::ProblemCount</name>
+    <message>
+        <source>Shows the problems</source>
+        <translation>Zeigt die Probleme</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln &amp;problem(s)</source>
+        <translation>
+            <numerusform>%Ln &amp;Problem</numerusform>
+            <numerusform>%Ln &amp;Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>More than %L1 &amp;problems</source>
+        <translation>Mehr als %L1 &amp;Probleme</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::ProblemDock</name>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::ProblemModel</name>
+    <message>
+        <source>Note: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Fix</source>
+        <translation>Behebung</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::ProblemPane</name>
+    <message>
+        <source>&amp;Notes (%1)</source>
+        <translation>&amp;Hinweise (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Warnings (%1)</source>
+        <translation>&amp;Warnungen (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Errors (%1)</source>
+        <translation>&amp;Fehler (%1)</translation>
+    </message>
+    <message>
+        <source>Fi&amp;x</source>
+        <translation>Behe&amp;ben</translation>
+    </message>
+    <message>
+        <source>&amp;Check Now</source>
+        <translation>Jetzt &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>These are the first %L1 problems.</source>
+        <translation>Dies sind die ersten %L1 Probleme.</translation>
+    </message>
+</context>
+<context>
+    <name>tessel::Problems</name>
+    <message>
+        <source>Fixed: %1</source>
+        <translation>Behoben: %1</translation>
+    </message>
+    <message>
+        <source>The preferences say that nothing is checked while you type.</source>
+        <translation>Nach den Einstellungen wird beim Tippen nichts geprüft.</translation>
+    </message>
+    <message>
+        <source>The open texts have more than %L1 bytes together and are not checked while you type.</source>
+        <translation>Die offenen Texte haben zusammen mehr als %L1 Bytes und werden beim Tippen nicht geprüft.</translation>
     </message>
 </context>
 <context>

@@ -21,4 +21,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>tessel::ProblemCount</name>
+    <message numerus="yes">
+        <source>%Ln &amp;problem(s)</source>
+        <translation>
+            <numerusform>%Ln &amp;problem</numerusform>
+            <numerusform>%Ln &amp;problems</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

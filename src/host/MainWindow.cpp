@@ -32,6 +32,7 @@
 #include "host/menu/WindowKeys.h"
 #include "host/panel/ReplacementOutline.h"
 #include "host/preferences/PreferencesDialog.h"
+#include "host/problems/Problems.h"
 #include "host/script/ScriptTools.h"
 #include "host/second/SecondView.h"
 #include "host/status/DocumentStatus.h"
@@ -143,6 +144,7 @@ MainWindow::MainWindow(const Services& services, WidgetMap& widgets, GuardedFile
   BuildMenu();
   BuildStatusBar();
   ReportChanges();
+  OfferProblems(services.hostDirectory);
   OutlineReplacements();
   connect(control_, &TesselWidget::statusText, this, &MainWindow::ShowNotice);
   connect(control_, &TesselWidget::textRefused, this, &MainWindow::ShowNotice);
@@ -218,6 +220,17 @@ void MainWindow::ShowTitlesOfLevels() {
   auto* levels =
       qobject_cast<ComboBoxView*>(control_->WidgetFor(control_->Tessel().Controls().cboEpisode));
   levels->ShowNotes([this] { return script_->TitlesOfListedLevels(); });
+}
+
+void MainWindow::OfferProblems(const std::string& hostDirectory) {
+  problems_ = new Problems(*this, {.control = *control_,
+                                   .script = *script_,
+                                   .menu = *menu_,
+                                   .preferences = preferences_,
+                                   .settings = settings_,
+                                   .hostDirectory = hostDirectory});
+  connect(problems_, &Problems::said, this, &MainWindow::ShowNotice);
+  for (QWidget* bar : problems_->Bars()) letters_->AddBar(*bar);
 }
 
 void MainWindow::OfferPreferences() {
@@ -499,6 +512,7 @@ void MainWindow::RestoreLook() {
     if (toolbar.Pressed(key) != wanted) toolbar.Press(key);
   }
   script_->RestoreLook();
+  problems_->RestoreLook();
 }
 
 }  // namespace tessel

@@ -31,6 +31,7 @@ class ChangeNotice;
 class ChangeReports;
 class FreeLetters;
 class KeepingLog;
+class Problems;
 class RecoveryKeeper;
 class ScriptTools;
 
@@ -90,6 +91,7 @@ class MainWindow : public QMainWindow {
   void OfferFileCommands();
   void OfferTextCommands();
   void ShowTitlesOfLevels();
+  void OfferProblems(const std::string& hostDirectory);
   void OfferPreferences();
   void OfferHelp();
   void BuildStatusBar();
@@ -124,6 +126,7 @@ class MainWindow : public QMainWindow {
   FindBar* find_ = nullptr;
   ChangeReports* changes_ = nullptr;
   ScriptTools* script_ = nullptr;
+  Problems* problems_ = nullptr;
   BackupStore* backups_ = nullptr;
   RecoveryKeeper* keeper_ = nullptr;
   KeepingLog* log_ = nullptr;

@@ -14,6 +14,8 @@
 #include "host/RecoveryOffer.h"
 #include "host/language/Translations.h"
 #include "host/menu/MenuTable.h"
+#include "host/problems/ProblemCount.h"
+#include "host/problems/ProblemDock.h"
 #include "models/Form.h"
 
 namespace tessel::test {
@@ -136,6 +138,17 @@ TEST_P(Mnemonics, AreTheFindBarsOwn) {
   ExpectFreeOfClashesOnEveryPage("find bar");
   Trigger("&Replace...");
   ExpectFreeOfClashesOnEveryPage("replace bar");
+}
+
+TEST_P(Mnemonics, AreTheProblemsOwn) {
+  Trigger("&Problems");
+  Window().Wishes().Set(Wish::kLiveCheck, 0);
+  Window().OpenFiles({directory_.Put("a.con", "ends\r\n")});
+  auto* dock = Window().findChild<ProblemDock*>();
+  emit dock->Pane().checkWanted();
+  auto* count = Window().findChild<ProblemCount*>();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return count->isVisible(); }, kPatience));
+  ExpectFreeOfClashesOnEveryPage("problems", false);
 }
 
 TEST_P(Mnemonics, AreEachNoticesOwn) {

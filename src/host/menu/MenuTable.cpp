@@ -90,6 +90,7 @@ constexpr MenuRow kMenuRows[] = {
     Toggle(kView, TR("Scroll Bar &Marks"), nullptr, Do::kScrollMarks),
     SubMenu(kView, TR("Second &View"), "F7", Do::kSecondView),
     Toggle(kView, TR("Wor&ds on the Toolbar"), nullptr, Do::kButtonWords),
+    Toggle(kView, TR("&Problems"), "F5", Do::kProblems),
 
     Button(kGame, TR("Randomize &All Sections"), nullptr, "RandAll"),
     DropDown(kGame, TR("Randomize &Player Items"), "RandSec", "Player"),

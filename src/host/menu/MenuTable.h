@@ -45,6 +45,7 @@ enum class WindowCommand {
   kScrollMarks,
   kSecondView,
   kButtonWords,
+  kProblems,
   // Window
   kNextDocument,
   kPreviousDocument,

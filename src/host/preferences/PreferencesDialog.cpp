@@ -34,6 +34,7 @@ PreferencesDialog::PreferencesDialog(Preferences& preferences, QWidget* parent)
   AddNumber(*form, tr("Tab &width:"), Wish::kTabWidth, 1, 16);
   AddNumber(*form, tr("Bac&kups of each file:"), Wish::kBackups, 1, kMostBackupsOfAFile);
   AddSwitch(*form, tr("&Live colours"), Wish::kLiveColours);
+  AddSwitch(*form, tr("&Check for problems while typing"), Wish::kLiveCheck);
   AddSwitch(*form, tr("W&rap long lines"), Wish::kWordWrap);
   AddSwitch(*form, tr("Show &blanks"), Wish::kShowBlanks);
   AddSwitch(*form, tr("R&uler at column 80"), Wish::kRuler);

@@ -30,6 +30,10 @@ class ScriptTools : public QObject {
 
   /// What a document says, up to date, and valid until its text changes.
   const language::Script& ScriptOf(Slot slot) { return scripts_.Of(slot); }
+  /// The same for whoever follows the changes of all documents.
+  OpenScripts& Scripts() { return scripts_; }
+  /// Selects a piece of a document; the way back leads to where the caret is now.
+  void GoTo(Slot slot, language::Range piece) { navigator_.GoTo(slot, piece); }
   /// As the user left it.
   void RestoreLook() { outline_.RestoreLook(); }
 
