@@ -1,17 +1,25 @@
-// The problems below the text and in the status bar.
+// The problems below the text, in it and in the status bar.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include "ScriptTest.h"
 #include "host/problems/LiveCheck.h"
 #include "host/problems/ProblemCount.h"
 #include "host/problems/ProblemDock.h"
+#include "host/problems/ProblemMarks.h"
+#include "qt/editor/EditorSetUp.h"
+#include "qt/looks/Contrast.h"
 
 namespace tessel::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+using Sci = QsciScintillaBase;
 
 constexpr const char* kOpen = "define A 1\r\n/* never closed\r\n";
 constexpr const char* kStray = "define B 1\r\nends\r\n";
@@ -46,6 +54,28 @@ class ProblemsOf : public ScriptTest {
       if (PlainCaption(button->text()).startsWith(begin)) return button;
     }
     return nullptr;
+  }
+  /// The text below which there is a line of that severity.
+  std::string Underlined(check::Severity severity) {
+    const int indicator = ProblemMarks::kIndicators[static_cast<int>(severity)];
+    std::string marked;
+    for (Position at = 0; at < Text().Length(); ++at) {
+      const long on =
+          View().SendScintilla(Sci::SCI_INDICATORVALUEAT, static_cast<unsigned long>(indicator),
+                               View().mirror().PositionOf(at));
+      if (on != 0) marked += Text().Bytes()[static_cast<std::size_t>(at)];
+    }
+    return marked;
+  }
+  bool Underlines(check::Severity severity, const std::string& text) {
+    return QTest::qWaitFor([&] { return Underlined(severity) == text; }, kPatience);
+  }
+  QColor ColourOf(check::Severity severity) {
+    const auto indicator =
+        static_cast<unsigned long>(ProblemMarks::kIndicators[static_cast<int>(severity)]);
+    const long bgr = View().SendScintilla(Sci::SCI_INDICGETFORE, indicator);
+    return {static_cast<int>(bgr & 0xFF), static_cast<int>(bgr >> 8 & 0xFF),
+            static_cast<int>(bgr >> 16 & 0xFF)};
   }
   QToolButton& Count() { return *Shown().findChild<ProblemCount*>()->findChild<QToolButton*>(); }
   std::string Counted() { return Count().accessibleName().toStdString(); }
@@ -157,6 +187,71 @@ TEST_F(ProblemsOf, AClickThatIsNoFixChangesNothing) {
   EXPECT_EQ(Text().Text(), kStray);
 }
 
+TEST_F(ProblemsOf, AreUnderlinedInTheText) {
+  Open(std::string(kStray));
+  EXPECT_TRUE(Underlines(check::Severity::kError, "ends"));
+  Text().SelectByHand(0, 0);
+  QTest::keyClicks(&View(), "// ");
+  EXPECT_EQ(Underlined(check::Severity::kError), "ends") << "the lines move with the text";
+  Text().SelectByHand(Text().Length() - 6, 4);
+  Press(Qt::Key_Delete);
+  EXPECT_TRUE(Underlines(check::Severity::kError, ""));
+}
+
+TEST_F(ProblemsOf, AreUnderlinedInTheDocumentThatComesToTheFront) {
+  Open(std::string(kStray), std::string("define C 1\r\n"));
+  Toggle();
+  ASSERT_TRUE(Lists(1));
+  EXPECT_EQ(Underlined(check::Severity::kError), "");
+  Select(0);
+  EXPECT_TRUE(Underlines(check::Severity::kError, "ends"));
+}
+
+TEST_F(ProblemsOf, AreToldByATipAtTheirMarks) {
+  Open(std::string(kStray));
+  ASSERT_TRUE(Underlines(check::Severity::kError, "ends"));
+  const auto at = static_cast<long>(View().mirror().PositionOf(14));
+  const QPoint place(
+      static_cast<int>(View().SendScintilla(Sci::SCI_POINTXFROMPOSITION, 0UL, at)) + 2,
+      static_cast<int>(View().SendScintilla(Sci::SCI_POINTYFROMPOSITION, 0UL, at)) + 4);
+  QHelpEvent help(QEvent::ToolTip, place, View().viewport()->mapToGlobal(place));
+  QApplication::sendEvent(View().viewport(), &help);
+  EXPECT_THAT(QToolTip::text().toStdString(), testing::StartsWith("Error: "));
+}
+
+TEST_F(ProblemsOf, HaveLinesThatCanBeSeenOnLightAndDark) {
+  const QPalette before = QApplication::palette();
+  for (const auto brightness : {Brightness::kLight, Brightness::kDark}) {
+    QApplication::setPalette(PaletteOf(brightness));
+    QTest::qWait(1);
+    const EditorTheme theme = ThemeOfWidget(View());
+    using enum check::Severity;
+    for (const auto severity : {kNote, kWarning, kError}) {
+      EXPECT_GE(ContrastOf(ColourOf(severity), theme.background), kSeenContrast);
+      EXPECT_GE(ContrastOf(ColourOf(severity), theme.currentLine), kSeenContrast);
+    }
+    EXPECT_NE(ColourOf(kError), ColourOf(kWarning));
+  }
+  QApplication::setPalette(before);
+}
+
+TEST_F(ProblemsOf, AreUnderlinedInTheColourOfTheTextWhereContrastIsHigh) {
+  const QPalette before = QApplication::palette();
+  QPalette high = PaletteOf(Brightness::kDark);
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    high.setColor(group, QPalette::Base, Qt::black);
+    high.setColor(group, QPalette::Window, Qt::black);
+    high.setColor(group, QPalette::Text, Qt::yellow);
+    high.setColor(group, QPalette::WindowText, Qt::yellow);
+  }
+  ASSERT_TRUE(IsHighContrast(high));
+  QApplication::setPalette(high);
+  QTest::qWait(1);
+  EXPECT_EQ(ColourOf(check::Severity::kError), QColor(Qt::yellow));
+  EXPECT_EQ(ColourOf(check::Severity::kNote), QColor(Qt::yellow));
+  QApplication::setPalette(before);
+}
+
 TEST_F(ProblemsOf, AreCountedInTheStatusBarAsLongAsThereAreAny) {
   EXPECT_FALSE(Count().isVisible());
   Open(std::string(kOpen));
@@ -186,9 +281,11 @@ TEST_F(ProblemsOf, AreNotSoughtForAUserWhoDoesNotWantThat) {
   EXPECT_FALSE(check->isVisible());
   Shown().Wishes().Set(Wish::kLiveCheck, 0);
   EXPECT_THAT(Rows(), IsEmpty());
+  EXPECT_TRUE(Underlines(check::Severity::kError, ""));
   EXPECT_TRUE(check->isVisible());
   check->click();
   EXPECT_TRUE(Lists(1));
+  EXPECT_TRUE(Underlines(check::Severity::kError, "ends"));
 }
 
 TEST_F(ProblemsOf, LongTextsAreCheckedWhenAsked) {
@@ -214,6 +311,19 @@ TEST_F(ProblemsOf, PaneIsRemembered) {
   CloseAndStartAgain();
   Shown().RestoreLook();
   EXPECT_TRUE(Dock().isHidden());
+}
+
+TEST(UnderlinedFor, IsTheFirstLineOfARange) {
+  EXPECT_EQ(UnderlinedFor("ab\r\ncd", {1, 6}), (language::Range{1, 2}));
+}
+
+TEST(UnderlinedFor, IsAByteWhereSomethingIsMissing) {
+  EXPECT_EQ(UnderlinedFor("abc", {1, 1}), (language::Range{1, 2}));
+  EXPECT_EQ(UnderlinedFor("abc", {3, 3}), (language::Range{2, 3}));
+  EXPECT_EQ(UnderlinedFor("abc\r\n\r\n", {7, 7}), (language::Range{2, 3}));
+  EXPECT_EQ(UnderlinedFor("\r\n", {2, 2}).Length(), 0);
+  EXPECT_EQ(UnderlinedFor("", {0, 0}).Length(), 0);
+  EXPECT_EQ(UnderlinedFor("ab", {9, 12}), (language::Range{1, 2}));
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ Problems::Problems(QMainWindow& window, const Uses& uses)
       check_({uses.control, uses.script.Scripts(), uses.preferences, uses.settings,
               uses.hostDirectory},
              problems_, nullptr),
+      marks_(uses.control, problems_, nullptr),
       dock_(*new ProblemDock(
           problems_, [this](Slot slot) { return NameOf(slot); }, window)),
       count_(new ProblemCount(*window.statusBar())) {

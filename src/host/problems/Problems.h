@@ -1,4 +1,4 @@
-// Problems in the open documents: checked, listed and fixed.
+// Problems in the open documents: checked, listed, marked and fixed.
 #pragma once
 
 #include <QMainWindow>
@@ -10,13 +10,14 @@
 #include "host/problems/LiveCheck.h"
 #include "host/problems/ProblemDock.h"
 #include "host/problems/ProblemList.h"
+#include "host/problems/ProblemMarks.h"
 #include "host/script/ScriptTools.h"
 
 namespace tessel {
 
 class ProblemCount;
 
-/// Connects the check with the pane and the count in the status bar.
+/// Connects the check with the pane, the marks in the text and the count in the status bar.
 class Problems : public QObject {
   Q_OBJECT
 
@@ -52,6 +53,7 @@ class Problems : public QObject {
   Uses uses_;
   ProblemList problems_;
   LiveCheck check_;
+  ProblemMarks marks_;
   ProblemDock& dock_;
   ProblemCount* count_;
   Subscription replaced_;
