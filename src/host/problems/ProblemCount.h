@@ -1,6 +1,7 @@
 // How many problems there are, in the status bar.
 #pragma once
 
+#include <QLabel>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QWidget>
@@ -29,6 +30,7 @@ class ProblemCount : public QWidget {
   void FitText();
 
   QStatusBar& bar_;
+  QLabel* icon_;
   QToolButton* button_;
   QString text_;
   QString number_;
