@@ -133,16 +133,6 @@ TEST(ScreenReader, ReadsTheParametersOfAFunction) {
   }));
 }
 
-TEST(ScreenReader, ReadsWhatACommandSays) {
-  const auto editor = Await("text", "Editor");
-  ASSERT_TRUE(editor);
-  Window().Do(*editor, "SetFocus");
-  Press({"ctrl+Home", "ctrl+Right", "F12"});
-  EXPECT_TRUE(Window().Await([](const Accessible& at) {
-    return Window().Name(at) == R"("MAXPLAYERHEALTH" is defined here and nowhere else.)";
-  }));
-}
-
 TEST(GermanScreenReader, ReadsTheWindowInGermanAndTheControlInEnglish) {
   ASSERT_TRUE(Window().FindsProgram());
   EXPECT_TRUE(Await("menu item", "Datei"));
