@@ -30,12 +30,13 @@ struct Breaks {
   /// Counts in many bytes at once: no branch, and a number of them that the compiler knows. There
   /// is one in front of the piece.
   void AddPiece(const char* piece) {
+    const char* const before = piece - 1;
     std::uint8_t cr = 0, lf = 0, pair = 0;
     for (std::size_t i = 0; i < kPiece; ++i) {
       const auto isLf = static_cast<std::uint8_t>(piece[i] == '\n');
       cr = static_cast<std::uint8_t>(cr + (piece[i] == '\r'));
       lf = static_cast<std::uint8_t>(lf + isLf);
-      pair = static_cast<std::uint8_t>(pair + (isLf & (piece[i - 1] == '\r')));
+      pair = static_cast<std::uint8_t>(pair + (isLf & (before[i] == '\r')));
     }
     crs += cr;
     lfs += lf;
