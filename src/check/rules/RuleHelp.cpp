@@ -12,7 +12,6 @@ namespace {
 
 using language::Keyword;
 using language::Range;
-using language::Role;
 
 constexpr std::size_t kMostShown = 60;
 
