@@ -13,7 +13,7 @@ namespace tessel::lsp {
 /// threads.
 class Server {
  public:
-  Server(Resources resources, Session::Send send)
+  Server(Resources resources, const Session::Send& send)
       : send_(send), session_(std::move(resources), send) {}
 
   /// A message has come. What cannot be read is answered at once, as is a request that the client

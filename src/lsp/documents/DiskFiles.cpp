@@ -19,8 +19,10 @@ bool IsConName(std::string_view name) {
 
 std::vector<std::string> DiskFiles::In(const std::string& folder) try {
   std::vector<std::string> paths;
-  for (const std::string& name : PosixFiles().Listing(folder + "/")) {
-    if (IsConName(name) && paths.size() < kMostFiles) paths.push_back(folder + "/" + name);
+  const std::string prefix = folder + "/";
+  for (const std::string& name : PosixFiles().Listing(prefix)) {
+    if (!IsConName(name) || paths.size() == kMostFiles) continue;
+    paths.emplace_back(prefix).append(name);
   }
   return paths;
 } catch (const RuntimeError&) {
