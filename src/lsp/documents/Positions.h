@@ -15,6 +15,7 @@ struct Place {
   std::int64_t line = 0;
   std::int64_t character = 0;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the 0 that its result is compared with
   friend auto operator<=>(const Place&, const Place&) = default;
 };
 

@@ -46,7 +46,7 @@ std::optional<std::string> PathOfUri(std::string_view uri) {
     rest.remove_prefix(host.size());
   }
   rest = rest.substr(0, rest.find_first_of("?#"));
-  const auto path = Unescaped(rest);
+  auto path = Unescaped(rest);
   if (!path || !path->starts_with('/') || path->find('\0') != path->npos) return std::nullopt;
   return path;
 }
